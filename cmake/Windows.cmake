@@ -1,0 +1,10 @@
+# How the code is built for Windows: small, from nothing but what Windows has, and the same bytes every time.
+enable_language(RC)
+target_compile_definitions(huevox_flags INTERFACE
+    WIN32_LEAN_AND_MEAN NOMINMAX STRICT
+    WINVER=0x0A00 _WIN32_WINNT=0x0A00 _WIN32_IE=0x0A00)
+target_compile_options(huevox_flags INTERFACE -ffunction-sections -fdata-sections)
+target_link_options(huevox_flags INTERFACE
+    -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp
+    # Sections that lie on pages of the file are mapped from it, not read into memory of the process's own.
+    -Wl,--file-alignment,4096)

@@ -1,0 +1,40 @@
+// Which colours are websafe, failsafe or JavaScript colours, and what are they called?
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "core/Color.h"
+
+/// The reference colours. Entries of one index describe one colour within each group of tables; a
+/// name-and-hex text is the name, one blank, "#" and six upper-case digits.
+struct ColorTables {
+    std::array<Color, 216> websafeChannels;  ///< blue runs fastest, then green, then red
+    std::array<PackedColor, 216> websafeColor;
+
+    std::array<PackedColor, 16> failsafeColor;
+    std::array<std::string_view, 16> failsafeHex;
+
+    std::array<PackedColor, 140> jsColor;  ///< alphabetical, as jsName and jsNameHex
+    std::array<std::string_view, 140> jsName;
+    std::array<std::string_view, 140> jsNameHex;
+
+    std::array<PackedColor, 140> jsDotNetColor;  ///< by hue, as jsDotNetNameHex
+    std::array<std::string_view, 140> jsDotNetNameHex;
+};
+
+/// Built by the compiler and kept in read-only memory: nothing can change them, and start-up costs nothing.
+extern const ColorTables colorTables;
+
+/// Membership is exact equality with an entry.
+bool IsWebsafe(PackedColor color);
+bool IsFailsafe(PackedColor color);
+bool IsJavaScriptColor(PackedColor color);
+
+/// "W" for websafe, "F" for failsafe, "J" for a JavaScript colour, in that order: from "" to "WFJ".
+std::string ColorPropertyLetters(PackedColor color);
+
+/// The JavaScript name of the colour, or "" when it has none. Of each pair of equal colours it is the second:
+/// "cyan", never "aqua"; "magenta", never "fuchsia".
+std::string_view JavaScriptName(const Color& color);
