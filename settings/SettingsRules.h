@@ -1,0 +1,21 @@
+// Which settings are there, what is accepted for each, and what do they fall back to?
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "support/AppState.h"
+
+/// Reads the text of one stored value; "" for a value that is missing.
+using SettingReader = std::function<std::string(std::string_view valueName)>;
+using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
+using FolderCheck = std::function<bool(std::string_view path)>;
+
+/// Takes the stored settings one after another into state; desktopFolder is already set. Returns false at the
+/// first unusable value: those before it have been taken, it and those after it have not.
+bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck& isValidFolder);
+
+/// Puts every setting back to its default and writes all five. The start-up notation in memory keeps what it
+/// had.
+void RestoreDefaultSettings(AppState& state, const SettingWriter& write);

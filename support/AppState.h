@@ -1,0 +1,23 @@
+// What do the windows share? Main owns the one instance and hands it by reference to whoever uses it.
+#pragma once
+
+#include <string>
+
+#include "support/Marks.h"
+
+/// The five settings as they are held in memory.
+struct Settings {
+    std::string customFormat;
+    int formatIndex = 0;  ///< the notation that the program starts with, 0 to 11
+    int sortIndex = 0;    ///< 0: alphabetical, 1: by hue
+    int promptToSave = 1;
+    std::string standardFolder;
+};
+
+struct AppState {
+    Settings settings;
+    int savedFormatIndex = 0;  ///< the notation that the main window's list comes back to
+    bool jsNamesOnly = false;  ///< the JavaScript name is copied, whatever the notation
+    std::string desktopFolder;
+    Marks marks;
+};

@@ -1,0 +1,30 @@
+// What are the six colour marks, and what was the palette when it was last new, opened or saved?
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/Color.h"
+
+inline constexpr int markCount = 6;
+
+using MarkNames = std::array<std::string, markCount>;
+
+/// The names that the marks bear now are the texts of their name boxes and are not kept here.
+struct Marks {
+    int selectedMark = 0;
+    std::array<Color, markCount> markColor;
+    std::array<Color, markCount> savedMarkColor;
+    MarkNames savedMarkName;
+    std::array<Color, markCount> defaultMarkColor;
+    MarkNames defaultMarkName;
+
+    const Color& selectedColor() const { return markColor[selectedMark]; }
+};
+
+/// Fills the defaults: red, yellow, green, cyan, blue and magenta, none of them named.
+void LoadDefaultMarks(Marks& marks);
+
+/// Whether colours or names differ from the saved ones. The two placeholders count as equal names; every
+/// other comparison is exact.
+bool IsPaletteChanged(const Marks& marks, const MarkNames& names);

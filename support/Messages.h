@@ -1,0 +1,45 @@
+// What does the program say? Every sentence once.
+#pragma once
+
+namespace messages {
+
+inline constexpr const char* title = "Huevox";
+inline constexpr const char* newPaletteCaption = "Huevox - New palette";
+
+inline constexpr const char* alreadyRunning = "Huevox is already running on your system.";
+inline constexpr const char* lowColorDepth =
+    "The color depth of your monitor has a low value.\r\n\r\n"
+    "Huevox will look better if you select a higher value in the Control Panel in Windows.";
+inline constexpr const char* unexpectedError = "Huevox encountered an unexpected error and must close.";
+inline constexpr const char* paletteChanged = "The palette has been changed. Do you want to save it?";
+inline constexpr const char* unusableSettings =
+    "Unusable settings found in Registry. Default settings restored.";
+
+inline constexpr const char* decimalNotAllowed =
+    "The value is not allowed. Only values from 0 to 255 are allowed.";
+inline constexpr const char* hexNotAllowed =
+    "The value is not allowed. Only values from 00 to FF are allowed.";
+
+/// The name of a mark that has none, and the name that stands in for it until the first edit.
+inline constexpr const char* noName = "Type a colour name";
+inline constexpr const char* notJavaScript = "Not JavaScript colour";
+
+inline constexpr const char* nameTip = "Click and type a colour name";
+inline constexpr const char* markTip = "Click here to select this colour mark";
+inline constexpr const char* sampleTip = "Drag and drop from here to pick a colour anywhere on the screen";
+inline constexpr const char* redTip = "Type the red value";
+inline constexpr const char* greenTip = "Type the green value";
+inline constexpr const char* blueTip = "Type the blue value";
+inline constexpr const char* setTip =
+    "Click here to change the selected colour according to the values to the left";
+inline constexpr const char* decimalTip = "Click here for decimal colour values";
+inline constexpr const char* hexTip = "Click here for hexadecimal colour values";
+inline constexpr const char* notationTip = "Select the format you want to copy to the clipboard";
+inline constexpr const char* jsNamesTip =
+    "Check this check box if you want to copy the JavaScript name instead of the RGB colour code";
+inline constexpr const char* previewTip =
+    "This is what you get if you paste right now in another application";
+inline constexpr const char* pasteEnabledTip = "Paste Colour To Selected Colour Mark (F3)";
+inline constexpr const char* pasteDisabledTip = "Use the Copy button to enable";
+
+}  // namespace messages
