@@ -1,0 +1,82 @@
+#include "toolkit/Control.h"
+
+#include <unordered_map>
+
+#include "toolkit/Form.h"
+#include "toolkit/ToolTips.h"
+
+namespace {
+
+/// Where a window finds the control that receives its messages.
+std::unordered_map<HWND, Control*> receivers;
+
+}  // namespace
+
+Control::Control(Form& form, int id) : form(form), id(id) { form.controls.add(*this); }
+
+Control::~Control() {
+    form.controls.remove(*this);
+    if (original) ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    detach();
+}
+
+void Control::setEnabled(bool isEnabled) {
+    if (isEnabled == this->isEnabled()) return;
+    if (!isEnabled) form.focusLeaves(window);
+    ::EnableWindow(window, isEnabled);
+}
+
+void Control::setToolTip(std::string_view text) {
+    tip = text;
+    form.tipChanged(*this);
+}
+
+void Control::showTips(ToolTips& toolTips) const { toolTips.set(window, tip); }
+
+void Control::attach(HWND created) {
+    window = created;
+    attached();
+}
+
+void Control::detach() {
+    receivers.erase(window);
+    window = nullptr;
+    original = nullptr;
+}
+
+void Control::registerOwnClass(const char* name) {
+    WNDCLASSA own{};
+    own.lpfnWndProc = &Control::proc;
+    own.hInstance = ::GetModuleHandleA(nullptr);
+    own.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    own.lpszClassName = name;
+    ::RegisterClassA(&own);
+}
+
+void Control::receive() {
+    receivers[window] = this;
+    original = ::DefWindowProcA;
+}
+
+void Control::subclass() {
+    receivers[window] = this;
+    original = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::proc)));
+}
+
+LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto receiver = receivers.find(window);
+    // A window of an own class sends its first messages before its control is attached.
+    if (receiver == receivers.end()) return ::DefWindowProcA(window, message, wParam, lParam);
+    return receiver->second->onMessage(message, wParam, lParam);
+}
+
+LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return ::CallWindowProcA(original, window, message, wParam, lParam);
+}
+
+std::string Control::windowText() const {
+    std::string text(::GetWindowTextLengthA(window), '\0');
+    text.resize(::GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1));
+    return text;
+}

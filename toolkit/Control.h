@@ -1,0 +1,75 @@
+// What do all controls share?
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/Platform.h"
+
+class Form;
+class ToolTips;
+
+/// One control of a form. It outlives its window: while there is none, calls do nothing.
+class Control {
+public:
+    /// id is the control's number in the form's template.
+    Control(Form& form, int id);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control();
+
+    HWND handle() const { return window; }
+
+    bool isEnabled() const { return ::IsWindowEnabled(window) != FALSE; }
+
+    /// When it has the focus and is disabled, the focus moves on to the next control.
+    void setEnabled(bool isEnabled);
+    void setFocus() { ::SetFocus(window); }
+
+    void setToolTip(std::string_view text);
+
+protected:
+    Form& form;
+
+    /// Sends the window a message of the platform.
+    LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return ::SendMessageA(window, message, wParam, lParam);
+    }
+
+    /// Registers a window class without behaviour of its own, for controls that draw themselves.
+    static void registerOwnClass(const char* name);
+
+    /// Makes onMessage the receiver of the messages of a window whose class is the program's own.
+    void receive();
+    /// The same for a window of the platform's.
+    void subclass();
+
+    /// From the creation of its window on, member is a child of this control. Before the form is loaded.
+    void hold(Control& member) const { member.container = this; }
+
+    virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    std::string windowText() const;
+
+private:
+    friend class ControlList;
+    friend class Form;
+
+    static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    void attach(HWND created);
+    void detach();
+
+    // What the form passes on to its controls:
+    virtual void attached() {}
+    virtual void showTips(ToolTips& toolTips) const;
+    virtual void onCommand(int /*id*/, int /*code*/) {}
+    virtual void onScroll(int /*code*/, int /*position*/) {}
+    virtual HBRUSH onColor(HDC /*context*/) { return nullptr; }
+
+    int id;
+    const Control* container = nullptr;
+    HWND window = nullptr;
+    WNDPROC original = nullptr;
+    std::string tip;
+};

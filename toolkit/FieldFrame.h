@@ -1,0 +1,5 @@
+// What stands behind a label that looks like a field?
+#pragma once
+
+/// Registers the window class "FieldFrame": a bordered ground in the colour of fields. It needs no control.
+void RegisterFieldFrame();

@@ -1,0 +1,106 @@
+// What is a window of the program, from its load to its unload?
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/ControlList.h"
+#include "toolkit/Event.h"
+#include "toolkit/Handles.h"
+#include "toolkit/Platform.h"
+
+class Control;
+class Timer;
+class ToolTips;
+struct DialogTemplate;
+struct TemplateItem;
+
+/// A window made from a DIALOGEX template whose units are pixels at 96 DPI. Forms are unloaded, not deleted,
+/// while handlers may be on the stack.
+class Form {
+public:
+    /// name is the window class, the name of the template and the name of the accelerators.
+    explicit Form(const char* name);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form();
+
+    Event<> Load;
+    Event<> Activate;    ///< after the platform's own activation has finished; never before loading has ended
+    Event<> Deactivate;  ///< at once
+    Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
+    Event<> Unload;
+    Event<int> Command;  ///< a menu item, a shortcut or a tool-bar button was chosen
+
+    /// Creates the window, still hidden, and raises Load. Throws what Load throws, and std::runtime_error
+    /// when the platform refuses a window.
+    void load();
+    void show(int showCommand);
+    /// Raises Activate now, in place of one that is on its way.
+    void activate();
+    /// Raises QueryUnload and, unless it was cancelled, Unload; then the window goes. The program ends with
+    /// the last.
+    void unload();
+    static void unloadAll(const Form* except = nullptr);
+    static void stopAllTimers();
+
+    bool isLoaded() const { return state == State::loaded; }
+    HWND handle() const { return window; }
+    /// The owner for a message box: the window, or none while it is not on the screen.
+    HWND messageOwner() const { return ::IsWindowVisible(window) ? window : nullptr; }
+
+    void setText(std::string_view caption);
+    void setMenuItemEnabled(int command, bool isEnabled);
+
+    /// Pixels at 96 DPI in pixels of this window.
+    int scaled(int pixels) const { return ::MulDiv(pixels, dpi, USER_DEFAULT_SCREEN_DPI); }
+
+    /// The control's tool tips are not what they were.
+    void tipChanged(const Control& control);
+
+    /// Shortcuts and keyboard navigation: true when the message is used up.
+    static bool preTranslate(MSG& message);
+
+private:
+    friend class Control;
+    friend class Timer;
+    enum class State { unloaded, loading, loaded, unloading };
+
+    void add(Timer& timer) { timers.push_back(&timer); }
+    /// The window is about to be disabled or hidden: if it has the focus, the next control gets it.
+    void focusLeaves(HWND leaving);
+
+    static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onCommand(int id, int code, HWND sender);
+    LRESULT onScroll(int code, int position, HWND sender);
+    LRESULT onColor(HDC context, HWND sender);
+    LRESULT onTimer(UINT_PTR id);
+    LRESULT onClose();
+    LRESULT onQueryEndSession();
+    LRESULT onEndSession(bool isEnding);
+    LRESULT onActivated();
+    LRESULT onFocusLeft(HWND left);
+    void onActivate(bool becomesActive);
+    void onMouse();
+    void onDestroyed();
+
+    void createFrame(const DialogTemplate& layout);
+    void createControl(const TemplateItem& item);
+    bool mayUnload();
+    void close();
+
+    const char* name;
+    HWND window = nullptr;
+    HACCEL accelerators = nullptr;
+    OwnedFont font;
+    std::unique_ptr<ToolTips> toolTips;
+    ControlList controls;
+    std::vector<Timer*> timers;
+    int dpi = USER_DEFAULT_SCREEN_DPI;
+    State state = State::unloaded;
+    bool isActive = false;
+    bool isActivatePending = false;
+    bool isAsking = false;
+};

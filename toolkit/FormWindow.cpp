@@ -1,0 +1,100 @@
+#include "toolkit/FormWindow.h"
+
+#include <array>
+#include <span>
+#include <stdexcept>
+#include <string_view>
+
+namespace {
+
+constexpr int programIcon = 1;  // the lowest number, which the platform takes for the program's picture too
+
+HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
+
+void RegisterFormClass(const char* name, WNDPROC proc) {
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = proc;
+    windowClass.cbWndExtra = DLGWINDOWEXTRA + sizeof(void*);
+    windowClass.hInstance = Instance();
+    windowClass.hIcon = ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon));
+    windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    windowClass.lpszClassName = name;
+    ::RegisterClassExA(&windowClass);  // registered already when the form is loaded again
+}
+
+/// The dialog manager counts a dialog as one only with a procedure; the form's own procedure does all the
+/// work.
+INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
+bool IsFace(HDC context, std::string_view face) {
+    std::array<char, LF_FACESIZE> selected{};
+    ::GetTextFaceA(context, selected.size(), selected.data());
+    return face == selected.data();
+}
+
+OwnedFont SegoeUi(int dpi) {
+    LOGFONTA wanted{};
+    wanted.lfHeight = -::MulDiv(9, dpi, 72);
+    wanted.lfWeight = FW_NORMAL;
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    constexpr std::string_view face = "Segoe UI";
+    face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    OwnedFont font(::CreateFontIndirectA(&wanted));
+    const HDC screen = ::GetDC(nullptr);
+    const HGDIOBJ previous = ::SelectObject(screen, font.get());
+    const bool isThere = IsFace(screen, face);
+    ::SelectObject(screen, previous);
+    ::ReleaseDC(nullptr, screen);
+    return isThere ? std::move(font) : OwnedFont();
+}
+
+}  // namespace
+
+DialogTemplate LoadDialogTemplate(const char* name) {
+    const HRSRC found = ::FindResourceA(Instance(), name, RT_DIALOG);
+    const HGLOBAL loaded = found ? ::LoadResource(Instance(), found) : nullptr;
+    if (!loaded) throw std::runtime_error("no dialog template of that name");
+    const auto* bytes = static_cast<const std::byte*>(::LockResource(loaded));
+    return ParseDialogTemplate({bytes, ::SizeofResource(Instance(), found)});
+}
+
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, WNDPROC proc) {
+    RegisterFormClass(name, proc);
+    return ::CreateDialogIndirectParamA(Instance(), reinterpret_cast<LPCDLGTEMPLATEA>(layout.frame.data()),
+                                        nullptr, NoDialogProc, 0);
+}
+
+void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi) {
+    RECT area = {0, 0, clientWidth, clientHeight};
+    ::AdjustWindowRectExForDpi(&area, ::GetWindowLongA(window, GWL_STYLE), ::GetMenu(window) != nullptr,
+                               ::GetWindowLongA(window, GWL_EXSTYLE), dpi);
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    RECT work{};
+    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    ::SetWindowPos(window, nullptr, (work.left + work.right - width) / 2,
+                   (work.top + work.bottom - height) / 2, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
+    const auto wide = [](const std::u16string& text) {
+        return reinterpret_cast<const wchar_t*>(text.c_str());
+    };
+    const HWND control = ::CreateWindowExW(
+        item.exStyle | WS_EX_NOPARENTNOTIFY, wide(item.className), wide(item.text), item.style | WS_CHILD,
+        place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.id)), Instance(), nullptr);
+    ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    return control;
+}
+
+OwnedFont MessageFont(int dpi) {
+    if (OwnedFont segoe = SegoeUi(dpi)) return segoe;
+    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
+}

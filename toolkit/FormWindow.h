@@ -1,0 +1,22 @@
+// How are a form's windows made from its template?
+#pragma once
+
+#include "toolkit/DialogTemplate.h"
+#include "toolkit/Handles.h"
+#include "toolkit/Platform.h"
+
+/// The program's dialog resource of that name. Throws std::runtime_error when there is none.
+DialogTemplate LoadDialogTemplate(const char* name);
+
+/// Creates the form's own window, hidden and without controls, of the window class name with that procedure.
+/// The procedure gets its first message before this returns. Returns nullptr when the platform refuses.
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, WNDPROC proc);
+
+/// Gives the window a client area of that size in pixels and puts it in the middle of the work area.
+void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi);
+
+/// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
+HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);
+
+/// Segoe UI in 9 points where there is one, else the font that the platform shows messages in.
+OwnedFont MessageFont(int dpi);

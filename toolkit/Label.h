@@ -1,0 +1,24 @@
+// How does a form show text that the user cannot edit?
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/Control.h"
+
+class Label : public Control {
+public:
+    using Control::Control;
+
+    std::string text() const { return shown; }
+    void setText(std::string_view text);
+
+    /// Paints itself in the colours of a field, not of the form. Before the form is loaded.
+    void lookLikeField() { isField = true; }
+
+private:
+    HBRUSH onColor(HDC context) override;
+
+    bool isField = false;
+    std::string shown;
+};

@@ -1,0 +1,34 @@
+#include "toolkit/Pump.h"
+
+#include "toolkit/CellStrip.h"
+#include "toolkit/FieldFrame.h"
+#include "toolkit/Form.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/Platform.h"
+
+void PrepareControls() {
+    INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
+    ::InitCommonControlsEx(&classes);
+    PictureBox::registerClass();
+    CellStrip::registerClass();
+    RegisterFieldFrame();
+}
+
+int RunMessageLoop() {
+    MSG message{};
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (Form::preTranslate(message)) continue;
+        ::TranslateMessage(&message);
+        ::DispatchMessageA(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+void Yield() {
+    constexpr int limit = 1000;  // a window that never calls itself painted must not hold the program up
+    MSG message;
+    for (int count = 0; count < limit; ++count) {
+        if (!::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
+        ::DispatchMessageA(&message);
+    }
+}

@@ -1,0 +1,37 @@
+// How does a form offer its commands as pictures?
+#pragma once
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "toolkit/Control.h"
+#include "toolkit/IconPixels.h"
+
+/// A button with the number of its command; 0 makes it a separator.
+struct ToolButton {
+    int command;
+    int icon;
+    std::string_view tip;
+};
+
+/// Buttons that raise the form's Command, each with a picture and a tool tip, which it has while it is
+/// disabled too.
+class ToolBar : public Control {
+public:
+    using Control::Control;
+
+    /// Puts the buttons on the bar, all of them enabled.
+    void fill(std::span<const ToolButton> buttons);
+
+    void setButtonEnabled(int command, bool isEnabled) { send(TB_ENABLEBUTTON, command, isEnabled); }
+    void setButtonTip(int command, std::string_view tip);
+
+private:
+    void showTips(ToolTips& toolTips) const override;
+    void onCommand(int id, int code) override;
+
+    OwnedImages images;
+    std::map<int, std::string> tips;
+};
