@@ -1,0 +1,37 @@
+# The program's resources: icons rendered from their drawings, forms, menus, version and manifest.
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+find_program(ICOTOOL icotool REQUIRED)
+
+set(icon_dir ${PROJECT_SOURCE_DIR}/resources/icons)
+set(rendered_dir ${PROJECT_BINARY_DIR}/icons)
+file(MAKE_DIRECTORY ${rendered_dir})
+set(icons "")
+
+function(render_icon name)
+    file(GLOB drawings CONFIGURE_DEPENDS ${icon_dir}/${name}.svg ${icon_dir}/*/${name}.svg)
+    add_custom_command(
+        OUTPUT ${rendered_dir}/${name}.ico
+        COMMAND bash ${icon_dir}/render.sh ${icon_dir}/${name}.svg ${rendered_dir}/${name}.ico ${ARGN}
+        DEPENDS ${drawings} ${icon_dir}/render.sh
+        COMMENT "Rendering ${name}.ico"
+        VERBATIM)
+    set(icons ${icons} ${rendered_dir}/${name}.ico PARENT_SCOPE)
+endfunction()
+
+render_icon(huevox 16 20 24 32 48 64 128 256)
+foreach(name New Open OpenInNotepad Save CopyColor PasteColor Find CustomFormat Options Help ColorProperties)
+    render_icon(${name} 16 20 24 32)
+endforeach()
+
+string(REPLACE "." "," version_numbers "${PROJECT_VERSION}.0")
+configure_file(resources/version.rc.h.in ${PROJECT_BINARY_DIR}/resources/version.rc.h @ONLY)
+file(GLOB resource_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.rc
+    ${PROJECT_SOURCE_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc)
+
+# add_resources(LIBRARY FILE): an object library of a resource script and all that it takes in.
+function(add_resources library file)
+    add_library(${library} OBJECT ${file})
+    target_include_directories(${library} PRIVATE
+        ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/resources ${rendered_dir})
+    set_source_files_properties(${file} PROPERTIES OBJECT_DEPENDS "${icons};${resource_files}")
+endfunction()
