@@ -1,0 +1,117 @@
+#include "mainwindow/Autocopy.h"
+
+#include "core/ColorCode.h"
+#include "core/ColorTables.h"
+#include "resources/resource.h"
+#include "support/Messages.h"
+#include "toolkit/Clipboard.h"
+#include "toolkit/Pump.h"
+
+namespace {
+
+constexpr UINT tickMilliseconds = 200;
+
+}  // namespace
+
+Autocopy::Autocopy(Form& form, AppState& state, EditState& edit, CommandBar& commands,
+                   ChannelEditors& channels, ColorMarks& marks, ColorTarget& target)
+    : form(form),
+      state(state),
+      edit(edit),
+      commands(commands),
+      channels(channels),
+      marks(marks),
+      target(target),
+      lstAutocopy(form, IDC_lstAutocopy),
+      chkJSNamesOnly(form, IDC_chkJSNamesOnly),
+      lblClipboard(form, IDC_lblClipboard),
+      tmrClip(form, IDC_tmrClip, tickMilliseconds) {
+    lstAutocopy.Click.bind(this, &Autocopy::lstAutocopy_Click);
+    chkJSNamesOnly.Click.bind(this, &Autocopy::chkJSNamesOnly_Click);
+    tmrClip.Tick.bind(this, &Autocopy::tmrClip_Tick);
+    commands.bind(IDM_mnuEditCopyColor, this, &Autocopy::mnuEditCopyColor_Click);
+    commands.bind(IDM_mnuEditPasteColor, this, &Autocopy::mnuEditPasteColor_Click);
+    lstAutocopy.setToolTip(messages::notationTip);
+    chkJSNamesOnly.setToolTip(messages::jsNamesTip);
+    lblClipboard.lookLikeField();
+    lblClipboard.setToolTip(messages::previewTip);
+}
+
+void Autocopy::FillNotations() {
+    for (const std::string_view name : notationNames) lstAutocopy.addItem(name);
+}
+
+void Autocopy::DisablePaste() {
+    commands.SetEnabled(IDM_mnuEditPasteColor, false);
+    commands.SetTip(IDM_mnuEditPasteColor, messages::pasteDisabledTip);
+}
+
+void Autocopy::ShowColorCode(int red, int green, int blue) {
+    const Turn turn(turns);
+    const Color color = ColorOf(red, green, blue);
+    if (state.jsNamesOnly) {
+        lblClipboard.setText(JavaScriptName(color));
+    } else {
+        Yield();
+        if (turn.isOvertaken()) return;
+        ShowNotation(color);
+    }
+    edit.clipTicks.reset();
+}
+
+void Autocopy::ShowNotation(const Color& color) {
+    const auto code = ColorCode(lstAutocopy.index(), color, state.settings.customFormat);
+    if (code) lblClipboard.setText(*code);
+}
+
+void Autocopy::RestoreNotation() {
+    if (!state.jsNamesOnly) lstAutocopy.setIndex(state.savedFormatIndex);
+    const Color color = channels.SliderColor();
+    ShowColorCode(color.red, color.green, color.blue);
+}
+
+void Autocopy::KeepNotation() {
+    // Without a selected notation there is nothing to come back to.
+    if (!state.jsNamesOnly && lstAutocopy.index() >= 0) state.savedFormatIndex = lstAutocopy.index();
+}
+
+void Autocopy::lstAutocopy_Click() {
+    const Cleared notAnEdit(edit.userColorChange);
+    const Color color = channels.SliderColor();
+    target.SetSelectedColor(color.red, color.green, color.blue);
+}
+
+void Autocopy::chkJSNamesOnly_Click() {
+    Yield();
+    if (chkJSNamesOnly.value()) {
+        state.jsNamesOnly = true;
+        state.savedFormatIndex = lstAutocopy.index();
+        lstAutocopy.setIndex(-1);
+        lstAutocopy.setEnabled(false);
+    } else {
+        state.jsNamesOnly = false;
+        lstAutocopy.setEnabled(true);
+        lstAutocopy.setIndex(state.savedFormatIndex);
+    }
+    const Color color = state.marks.selectedColor();
+    ShowColorCode(color.red, color.green, color.blue);
+}
+
+void Autocopy::tmrClip_Tick() {
+    if (!edit.clipTicks.count()) return;
+    marks.RefreshProperties();
+    Yield();
+    CopyPreviewToClipboard();
+}
+
+void Autocopy::CopyPreviewToClipboard() { PutTextOnClipboard(form.handle(), lblClipboard.text()); }
+
+void Autocopy::mnuEditCopyColor_Click() {
+    copiedColor = state.marks.selectedColor();
+    commands.SetEnabled(IDM_mnuEditPasteColor, true);
+    commands.SetTip(IDM_mnuEditPasteColor, messages::pasteEnabledTip);
+}
+
+void Autocopy::mnuEditPasteColor_Click() {
+    if (copiedColor) channels.SetSliders(*copiedColor);
+}

@@ -1,0 +1,59 @@
+// What is on its way to the clipboard?
+#pragma once
+
+#include <optional>
+
+#include "core/Color.h"
+#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/ColorMarks.h"
+#include "mainwindow/CommandBar.h"
+#include "mainwindow/EditState.h"
+#include "support/AppState.h"
+#include "toolkit/Buttons.h"
+#include "toolkit/Label.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/Timer.h"
+
+/// The notation list, the preview and the timer that copies it; and the copy and paste of a whole colour,
+/// which has nothing to do with the system clipboard.
+class Autocopy {
+public:
+    Autocopy(Form& form, AppState& state, EditState& edit, CommandBar& commands, ChannelEditors& channels,
+             ColorMarks& marks, ColorTarget& target);
+
+    /// At load: fills the list.
+    void FillNotations();
+    void DisablePaste();
+
+    /// Writes the preview; the clipboard follows on the third tick from here.
+    void ShowColorCode(int red, int green, int blue);
+
+    /// The notation comes back when the window is activated, and is kept when it is deactivated.
+    void RestoreNotation();
+    void KeepNotation();
+
+private:
+    void lstAutocopy_Click();
+    void chkJSNamesOnly_Click();
+    void tmrClip_Tick();
+    void mnuEditCopyColor_Click();
+    void mnuEditPasteColor_Click();
+
+    void ShowNotation(const Color& color);
+    void CopyPreviewToClipboard();
+
+    Form& form;
+    AppState& state;
+    EditState& edit;
+    CommandBar& commands;
+    ChannelEditors& channels;
+    ColorMarks& marks;
+    ColorTarget& target;
+
+    ListBox lstAutocopy;
+    CheckBox chkJSNamesOnly;
+    Label lblClipboard;
+    Timer tmrClip;
+    std::optional<Color> copiedColor;
+    unsigned turns = 0;
+};

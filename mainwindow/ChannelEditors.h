@@ -1,0 +1,61 @@
+// How does the user set red, green and blue?
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "core/Color.h"
+#include "mainwindow/ColorTarget.h"
+#include "mainwindow/EditState.h"
+#include "toolkit/Buttons.h"
+#include "toolkit/ControlArray.h"
+#include "toolkit/ScrollBar.h"
+#include "toolkit/TextBox.h"
+
+/// The three sliders, which are the authority for the current colour, and the typed values beside them.
+class ChannelEditors {
+public:
+    ChannelEditors(Form& form, EditState& edit, ColorTarget& target);
+
+    /// At load: limits, tool tips, decimal mode.
+    void Prepare();
+
+    /// Sets red, green and blue in this order. While sliders apply, each that changes applies the sliders'
+    /// colour.
+    void SetSliders(const Color& color);
+    Color SliderColor() const;
+
+    /// Writes the colour into the typed values; what was typed and not yet applied is gone.
+    void ShowValues(int red, int green, int blue);
+
+private:
+    using ParseChannel = std::int16_t (*)(std::string_view text);
+
+    void hsbColor_Change();
+    void txtSet_Change();
+    void txtSet_GotFocus(int channel);
+    void txtSet_EnterKey(int channel);
+    void txtSet_KeyPress(char& character);
+    void cmdSetColor_Click();
+    void optSetMode_Click();
+
+    void ApplyDecimalValues();
+    void ApplyHexValues();
+    bool ParseValues(ParseChannel parse, const char* refusal, Color& color);
+    void Refuse(TextBox& failing, const char* refusal);
+    void EndTyping();
+
+    Form& form;
+    EditState& edit;
+    ColorTarget& target;
+
+    ScrollBar hsbRed;
+    ScrollBar hsbGreen;
+    ScrollBar hsbBlue;
+    ControlArray<TextBox, 3> txtSet;  ///< txtSetRed, txtSetGreen and txtSetBlue
+    Button cmdSetColor;
+    OptionGroup mode;
+    OptionButton optSetDec;
+    OptionButton optSetHex;
+};

@@ -1,0 +1,127 @@
+#include "mainwindow/ColorMarks.h"
+
+#include "core/ColorTables.h"
+#include "resources/resource.h"
+#include "support/Messages.h"
+#include "toolkit/Pump.h"
+
+namespace {
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF nameHighlight = RGB(255, 250, 205);
+
+}  // namespace
+
+ColorMarks::ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors& channels,
+                       ColorTarget& target)
+    : marks(marks),
+      edit(edit),
+      channels(channels),
+      target(target),
+      txtName(form, IDC_txtName),
+      optColor(form, IDC_optColor, selection),
+      picSampleContainer(form, IDC_picSampleContainer),
+      picSample(form, IDC_picSample),
+      lblColorProp(form, IDC_lblColorProp) {
+    optColor.bind(&OptionButton::Click, this, &ColorMarks::optColor_Click);
+    txtName.bind(&TextBox::Change, this, &ColorMarks::txtName_Change);
+    txtName.bind(&TextBox::Click, this, &ColorMarks::txtName_Click);
+    txtName.bind(&TextBox::DblClick, this, &ColorMarks::txtName_DblClick);
+    txtName.bind(&TextBox::GotFocus, this, &ColorMarks::txtName_GotFocus);
+    txtName.bind(&TextBox::LostFocus, this, &ColorMarks::txtName_LostFocus);
+    for (PictureBox& sample : picSample) picSampleContainer.hold(sample);
+    for (TextBox& box : txtName) box.setToolTip(messages::nameTip);
+    for (OptionButton& option : optColor) option.setToolTip(messages::markTip);
+}
+
+void ColorMarks::Prepare() {
+    constexpr int longestName = 21;
+    for (TextBox& box : txtName) box.setMaxLength(longestName);
+}
+
+void ColorMarks::ApplyPalette(const MarkNames& names, const std::array<Color, markCount>& colors) {
+    for (int mark = markCount - 1; mark >= 0; --mark) {
+        picSample(mark).setBackColor(Pack(colors[mark]));
+        txtName(mark).setText(names[mark]);
+        marks.savedMarkName[mark] = names[mark];
+        marks.markColor[mark] = colors[mark];
+        marks.savedMarkColor[mark] = colors[mark];
+    }
+}
+
+void ColorMarks::Select(int mark) {
+    optColor(mark).turnOn();
+    marks.selectedMark = mark;
+}
+
+MarkNames ColorMarks::Names() const {
+    MarkNames names;
+    for (int mark = 0; mark < markCount; ++mark) names[mark] = txtName(mark).text();
+    return names;
+}
+
+void ColorMarks::WhitenNames() {
+    for (TextBox& box : txtName) box.setBackColor(white);
+}
+
+void ColorMarks::EnableSelectedSample() {
+    for (int mark = 0; mark < markCount; ++mark) {
+        const bool isSelected = mark == marks.selectedMark;
+        picSample(mark).setToolTip(isSelected ? messages::sampleTip : "");
+        picSample(mark).setEnabled(isSelected);
+    }
+}
+
+void ColorMarks::RefreshProperties() {
+    for (int mark = 0; mark < markCount; ++mark) {
+        lblColorProp(mark).setText(
+            ColorPropertyLetters(static_cast<PackedColor>(picSample(mark).backColor())));
+    }
+}
+
+void ColorMarks::PaintSelected(int red, int green, int blue) {
+    const Color color = ColorOf(red, green, blue);
+    picSample(marks.selectedMark).setBackColor(Pack(color));
+    marks.markColor[marks.selectedMark] = color;
+}
+
+void ColorMarks::HighlightRenamed() {
+    TextBox& box = txtName(marks.selectedMark);
+    const std::string name = box.text();
+    if (name == messages::noName || box.backColor() == nameHighlight || !edit.userColorChange) return;
+    if (name != messages::notJavaScript) box.setBackColor(nameHighlight);
+    for (TextBox& other : txtName) {
+        if (other.text() == messages::notJavaScript) other.setText(messages::noName);
+    }
+}
+
+void ColorMarks::optColor_Click(int mark) {
+    const Cleared notAnEdit(edit.userColorChange);
+    {
+        const Cleared notApplying(edit.sliderSync);
+        marks.selectedMark = mark;
+        channels.SetSliders(marks.markColor[mark]);
+        EnableSelectedSample();
+        Yield();
+    }
+    const Color color = channels.SliderColor();
+    target.SetSelectedColor(color.red, color.green, color.blue);
+}
+
+void ColorMarks::txtName_Change(int mark) {
+    txtName(mark).setBackColor(white);
+    if (edit.nameFillInProgress || txtName(mark).text() != messages::notJavaScript) return;
+    txtName(mark).setText(messages::noName);
+    txtName(mark).setCaretToEnd();
+}
+
+void ColorMarks::txtName_Click(int mark) {
+    if (edit.nameBoxLeft) txtName(mark).selectAll();
+    edit.nameBoxLeft = false;
+}
+
+void ColorMarks::txtName_DblClick(int mark) { txtName(mark).selectAll(); }
+
+void ColorMarks::txtName_GotFocus(int mark) { txtName(mark).selectAllIfTabbed(); }
+
+void ColorMarks::txtName_LostFocus(int /*mark*/) { edit.nameBoxLeft = true; }

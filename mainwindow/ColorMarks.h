@@ -1,0 +1,54 @@
+// What does the window show of the six colour marks, and how is one selected and named?
+#pragma once
+
+#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/ColorTarget.h"
+#include "mainwindow/EditState.h"
+#include "support/Marks.h"
+#include "toolkit/Buttons.h"
+#include "toolkit/ControlArray.h"
+#include "toolkit/Label.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/TextBox.h"
+
+class ColorMarks {
+public:
+    ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors& channels, ColorTarget& target);
+
+    /// At load: limits of the name boxes.
+    void Prepare();
+
+    /// Shows a new or opened palette, which counts as saved. The selected mark and the other views are left.
+    void ApplyPalette(const MarkNames& names, const std::array<Color, markCount>& colors);
+    /// Selects a mark without applying its colour.
+    void Select(int mark);
+    MarkNames Names() const;
+    void WhitenNames();
+    /// Only the selected mark's sample can start a screen pick.
+    void EnableSelectedSample();
+    void RefreshProperties();
+
+    void PaintSelected(int red, int green, int blue);
+    /// After a change of colour by the user: the selected mark's name may not fit any more.
+    void HighlightRenamed();
+
+private:
+    void optColor_Click(int mark);
+    void txtName_Change(int mark);
+    void txtName_Click(int mark);
+    void txtName_DblClick(int mark);
+    void txtName_GotFocus(int mark);
+    void txtName_LostFocus(int mark);
+
+    Marks& marks;
+    EditState& edit;
+    ChannelEditors& channels;
+    ColorTarget& target;
+
+    ControlArray<TextBox, markCount> txtName;
+    OptionGroup selection;
+    ControlArray<OptionButton, markCount> optColor;
+    PictureBox picSampleContainer;
+    ControlArray<PictureBox, markCount> picSample;
+    ControlArray<Label, markCount> lblColorProp;
+};

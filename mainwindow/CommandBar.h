@@ -1,0 +1,38 @@
+// Which commands does the window offer in its menu and tool bar, and who runs them?
+#pragma once
+
+#include <map>
+
+#include "toolkit/Event.h"
+#include "toolkit/Form.h"
+#include "toolkit/ToolBar.h"
+
+/// Menu items, shortcuts and tool-bar buttons of one command have one number, IDM_<menu item>. A command that
+/// nobody answers to, or that is disabled, cannot be run in any way.
+class CommandBar {
+public:
+    explicit CommandBar(Form& form);
+
+    template <class Target>
+    void bind(int command, Target* target, void (Target::*handler)()) {
+        commands[command].chosen.bind(target, handler);
+    }
+
+    /// At load: fills the tool bar, enables what is answered to.
+    void Prepare();
+    void SetEnabled(int command, bool isEnabled);
+    void SetTip(int command, const char* tip) { tbrTools.setButtonTip(command, tip); }
+
+private:
+    struct Command {
+        Event<> chosen;
+        bool isEnabled = true;
+    };
+
+    void Form_Command(int command);
+    bool IsEnabled(int command) const;
+
+    Form& form;
+    ToolBar tbrTools;
+    std::map<int, Command> commands;
+};

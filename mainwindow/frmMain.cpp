@@ -1,0 +1,81 @@
+#include "mainwindow/frmMain.h"
+
+#include "resources/resource.h"
+#include "settings/LoadSettings.h"
+#include "support/FatalError.h"
+#include "support/Messages.h"
+#include "toolkit/MsgBox.h"
+#include "toolkit/Redraw.h"
+
+frmMain::frmMain(AppState& state)
+    : Form("frmMain"),
+      state(state),
+      commands(*this),
+      channels(*this, edit, *this),
+      marks(*this, state.marks, edit, channels, *this),
+      colorBar(*this),
+      autocopy(*this, state, edit, commands, channels, marks, *this) {
+    Load.bind(this, &frmMain::Form_Load);
+    Activate.bind(this, &frmMain::Form_Activate);
+    Deactivate.bind(this, &frmMain::Form_Deactivate);
+    Unload.bind(this, &frmMain::Form_Unload);
+    commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
+}
+
+void frmMain::Form_Load() {
+    CheckColorDepth();
+    ArmErrorTrap();
+    LoadSettings(state, registry, *this);
+    autocopy.FillNotations();
+    LoadDefaultMarks(state.marks);
+    {
+        const RedrawFrozen frozen(handle());
+        commands.Prepare();
+        channels.Prepare();
+        marks.Prepare();
+        ShowNewPalette();
+        setText(messages::newPaletteCaption);
+        autocopy.DisablePaste();
+    }
+    marks.EnableSelectedSample();
+    edit.userColorChange = true;
+    edit.sliderSync = true;
+    edit.clipTicks.reset();
+}
+
+void frmMain::CheckColorDepth() {
+    constexpr int goodDepth = 24;
+    // Asked for once in a run; the platform takes the context back when the program ends.
+    const HDC display = ::CreateICA("DISPLAY", "", "", nullptr);
+    if (!display || ::GetDeviceCaps(display, BITSPIXEL) >= goodDepth) return;
+    MsgBox(this, messages::lowColorDepth, MB_OK | MB_ICONINFORMATION, messages::title);
+}
+
+void frmMain::ShowNewPalette() {
+    marks.ApplyPalette(state.marks.defaultMarkName, state.marks.defaultMarkColor);
+    const Color first = state.marks.markColor[0];
+    channels.SetSliders(first);
+    marks.Select(0);
+    SetSelectedColor(first.red, first.green, first.blue);
+    marks.RefreshProperties();
+    marks.WhitenNames();
+}
+
+void frmMain::Form_Activate() { autocopy.RestoreNotation(); }
+
+void frmMain::Form_Deactivate() { autocopy.KeepNotation(); }
+
+void frmMain::Form_Unload() { unloadAll(this); }
+
+void frmMain::mnuFileExit_Click() { unload(); }
+
+void frmMain::SetSelectedColor(int red, int green, int blue) {
+    const Turn turn(turns);
+    marks.PaintSelected(red, green, blue);
+    channels.ShowValues(red, green, blue);
+    if (turn.isOvertaken()) return;
+    colorBar.Refill(red, green, blue);
+    autocopy.ShowColorCode(red, green, blue);
+    if (turn.isOvertaken()) return;
+    marks.HighlightRenamed();
+}

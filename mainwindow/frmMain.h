@@ -1,0 +1,40 @@
+// What is the main window made of?
+#pragma once
+
+#include "mainwindow/Autocopy.h"
+#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/ColorBar.h"
+#include "mainwindow/ColorMarks.h"
+#include "mainwindow/ColorTarget.h"
+#include "mainwindow/CommandBar.h"
+#include "mainwindow/EditState.h"
+#include "settings/RegistryStringHandler.h"
+#include "support/AppState.h"
+#include "toolkit/Form.h"
+
+/// The main window: panels, each the owner of its own controls, and the order in which they act together.
+class frmMain final : public Form, private ColorTarget {
+public:
+    explicit frmMain(AppState& state);
+
+private:
+    void Form_Load();
+    void Form_Activate();
+    void Form_Deactivate();
+    void Form_Unload();
+    void mnuFileExit_Click();
+
+    void CheckColorDepth();
+    void ShowNewPalette();
+    void SetSelectedColor(int red, int green, int blue) override;
+
+    AppState& state;
+    EditState edit;
+    RegistryStringHandler registry;
+    CommandBar commands;
+    ChannelEditors channels;
+    ColorMarks marks;
+    ColorBar colorBar;
+    Autocopy autocopy;
+    unsigned turns = 0;
+};

@@ -1,0 +1,85 @@
+#include "settings/Folders.h"
+
+#include <shlobj.h>
+
+#include <array>
+#include <cstddef>
+#include <memory>
+
+namespace {
+
+constexpr std::size_t rootLength = 3;  // of a drive root such as C:\ with its backslash
+
+struct FreeItem {
+    void operator()(ITEMIDLIST* item) const { ::CoTaskMemFree(item); }
+};
+using OwnedItem = std::unique_ptr<ITEMIDLIST, FreeItem>;
+
+std::string PathOf(const OwnedItem& item) {
+    std::array<char, MAX_PATH> path{};
+    const bool isPath = item && ::SHGetPathFromIDListA(item.get(), path.data()) != FALSE;
+    return isPath ? std::string(path.data()) : "";
+}
+
+/// Where the last backslash stands. Looks character by character: the second byte of a character may look
+/// like one.
+std::size_t LastBackslash(const std::string& path) {
+    std::size_t last = std::string::npos;
+    for (const char* at = path.c_str(); *at != '\0'; at = ::CharNextA(at)) {
+        if (*at == '\\') last = at - path.c_str();
+    }
+    return last;
+}
+
+std::string WithoutLastBackslash(std::string path) {
+    if (!path.empty() && LastBackslash(path) == path.size() - 1) path.pop_back();
+    return path;
+}
+
+bool IsFolderOnDisk(const std::string& path) {
+    const std::size_t backslash = LastBackslash(path);
+    const std::string name = backslash == std::string::npos ? path : path.substr(backslash + 1);
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    ::FindClose(search);
+    const DWORD attributes = ::GetFileAttributesA(path.c_str());
+    return name == found.cFileName && attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+/// The platform would give a relative path such as ".." the type of the current drive.
+bool IsDrive(const std::string& text) {
+    return text.size() == 2 && ::IsCharAlphaA(text[0]) != FALSE && text[1] == ':';
+}
+
+bool IsUsableDrive(const std::string& drive) {
+    if (!IsDrive(drive)) return false;
+    const UINT type = ::GetDriveTypeA((drive + '\\').c_str());
+    return type >= DRIVE_REMOVABLE && type <= DRIVE_RAMDISK;
+}
+
+}  // namespace
+
+bool GetDesktopFolder(std::string& desktopFolder) {
+    LPITEMIDLIST found = nullptr;
+    ::SHGetSpecialFolderLocation(nullptr, CSIDL_DESKTOPDIRECTORY, &found);
+    desktopFolder = PathOf(OwnedItem(found));
+    return !desktopFolder.empty();
+}
+
+bool IsValidFolder(std::string_view path) {
+    const std::string folder = WithoutLastBackslash(std::string(path));
+    return path.size() > rootLength ? IsFolderOnDisk(folder) : IsUsableDrive(folder);
+}
+
+std::string BrowseForFolder(HWND owner) {
+    std::array<char, MAX_PATH> displayName{};
+    BROWSEINFOA browse{};
+    browse.hwndOwner = owner;
+    browse.pszDisplayName = displayName.data();
+    browse.lpszTitle = "C:\\";
+    browse.ulFlags = BIF_RETURNONLYFSDIRS;
+    const std::string path = PathOf(OwnedItem(::SHBrowseForFolderA(&browse)));
+    return path.size() > rootLength ? WithoutLastBackslash(path) : path;
+}

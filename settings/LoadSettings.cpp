@@ -1,0 +1,18 @@
+#include "settings/LoadSettings.h"
+
+#include "settings/Folders.h"
+#include "settings/SettingsRules.h"
+#include "support/Messages.h"
+#include "toolkit/MsgBox.h"
+
+void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner) {
+    GetDesktopFolder(state.desktopFolder);
+    const auto read = [&](std::string_view valueName) {
+        return registry.ReadString(HKEY_CURRENT_USER, settingsKey, valueName);
+    };
+    if (TakeSettings(state, read, IsValidFolder)) return;
+    RestoreDefaultSettings(state, [&](std::string_view valueName, std::string_view text) {
+        registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
+    });
+    MsgBox(&owner, messages::unusableSettings, MB_OK | MB_ICONINFORMATION, messages::title);
+}

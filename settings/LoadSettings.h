@@ -1,0 +1,13 @@
+// How do the stored settings get into the program?
+#pragma once
+
+#include "settings/RegistryStringHandler.h"
+#include "support/AppState.h"
+
+class Form;
+
+inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
+
+/// Reads, checks and takes all five settings. If one is unusable, all go back to their defaults, in the
+/// registry too, and the user is told over owner.
+void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner);

@@ -1,0 +1,59 @@
+#include "support/FatalError.h"
+
+#include <array>
+#include <string_view>
+
+#include "support/Messages.h"
+#include "toolkit/Form.h"
+#include "toolkit/MsgBox.h"
+#include "toolkit/Platform.h"
+#include "toolkit/Redraw.h"
+
+namespace {
+
+// The trap is called without arguments from wherever an error ends, so what it needs to know is kept here.
+bool errorTrapArmed = false;
+bool errorExitInProgress = false;
+bool errorMessageShown = false;
+bool isTelling = false;  // the message is on the screen
+
+/// Message boxes and the platform's own dialogs run loops that the end of their owner alone does not leave.
+BOOL CALLBACK EndModalDialog(HWND window, LPARAM) {
+    std::array<char, 16> className{};
+    ::GetClassNameA(window, className.data(), className.size());
+    if (std::string_view(className.data()) == "#32770") ::EndDialog(window, IDCANCEL);
+    return TRUE;
+}
+
+/// Nothing may raise an event behind the message, and the user must be able to see and answer it.
+void Quiet() {
+    Form::stopAllTimers();
+    UnfreezeRedraw();
+    ::ReleaseCapture();
+}
+
+}  // namespace
+
+void ArmErrorTrap() {
+    errorTrapArmed = true;
+    errorExitInProgress = false;
+    errorMessageShown = false;
+}
+
+bool IsErrorExitInProgress() { return errorExitInProgress; }
+
+void HandleFatalError() {
+    // A further error behind the message must not take it away from the user; the windows go when it is
+    // answered.
+    if (!errorTrapArmed || isTelling) return;
+    errorExitInProgress = true;
+    Quiet();
+    if (!errorMessageShown) {
+        errorMessageShown = true;
+        isTelling = true;
+        MsgBox(nullptr, messages::unexpectedError, MB_OK | MB_ICONERROR | MB_TASKMODAL, messages::title);
+        isTelling = false;
+    }
+    ::EnumThreadWindows(::GetCurrentThreadId(), EndModalDialog, 0);
+    Form::unloadAll();
+}

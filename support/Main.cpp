@@ -1,0 +1,47 @@
+// Where does the program begin and end?
+#include <cstdlib>
+
+#include "mainwindow/frmMain.h"
+#include "support/AppState.h"
+#include "support/FatalError.h"
+#include "support/Messages.h"
+#include "toolkit/MsgBox.h"
+#include "toolkit/Platform.h"
+#include "toolkit/Pump.h"
+
+namespace {
+
+bool allowMultipleInstances = false;
+
+bool IsPreviousInstanceRunning() { return ::FindWindowA("frmMain", nullptr) != nullptr; }
+
+/// Returns the exit code.
+int RunProgram(int showCommand) {
+    // Any number of copies may run. The test and its message are kept for a program that allows only one.
+    allowMultipleInstances = true;
+    // cppcheck-suppress knownConditionTrueFalse
+    if (!allowMultipleInstances && IsPreviousInstanceRunning()) {
+        MsgBox(nullptr, messages::alreadyRunning, MB_OK | MB_ICONINFORMATION, messages::title);
+        return EXIT_SUCCESS;
+    }
+    AppState state;
+    frmMain mainWindow(state);
+    mainWindow.load();
+    mainWindow.show(showCommand);
+    mainWindow.activate();
+    return RunMessageLoop();
+}
+
+int Main(int showCommand) {
+    int exitCode = EXIT_FAILURE;
+    errorTrap = HandleFatalError;
+    PrepareControls();
+    Trapped([&] { exitCode = RunProgram(showCommand); });
+    return IsErrorExitInProgress() ? EXIT_FAILURE : exitCode;
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/, int nShowCmd) {
+    return Main(nShowCmd);
+}

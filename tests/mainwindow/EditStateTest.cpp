@@ -1,0 +1,40 @@
+#include "mainwindow/EditState.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+TEST(Cleared, FlagIsFalseForAScopeAndTrueAfterIt) {
+    bool flag = true;
+    {
+        const Cleared guard(flag);
+        EXPECT_FALSE(flag);
+    }
+    EXPECT_TRUE(flag);
+}
+
+TEST(Cleared, AnInnerScopeDoesNotEndTheOuterOne) {
+    bool flag = true;
+    const Cleared outer(flag);
+    { const Cleared inner(flag); }
+    EXPECT_FALSE(flag);
+}
+
+TEST(Cleared, AnErrorPutsTheFlagBack) {
+    bool flag = true;
+    try {
+        const Cleared guard(flag);
+        throw std::runtime_error("");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_TRUE(flag);
+}
+
+TEST(Turn, IsOvertakenByANewerOne) {
+    unsigned turns = 0;
+    const Turn older(turns);
+    EXPECT_FALSE(older.isOvertaken());
+    const Turn newer(turns);
+    EXPECT_TRUE(older.isOvertaken());
+    EXPECT_FALSE(newer.isOvertaken());
+}
