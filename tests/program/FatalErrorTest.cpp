@@ -1,0 +1,152 @@
+// The end of an error that nobody expected.
+#include "support/FatalError.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "support/Messages.h"
+#include "tests/toolkit/TestForm.h"
+#include "tests/toolkit/WindowText.h"
+#include "toolkit/MsgBox.h"
+#include "toolkit/Pump.h"
+#include "toolkit/Redraw.h"
+
+namespace {
+
+/// A user who answers every message box and notes what it said.
+class Answering {
+public:
+    ~Answering() {
+        isOver = true;
+        user.join();
+    }
+
+    std::vector<std::string> messages;
+
+private:
+    static BOOL CALLBACK FindBox(HWND window, LPARAM parameter) {
+        if (ClassOf(window) != "#32770" || !::IsWindowVisible(window)) return TRUE;
+        *reinterpret_cast<HWND*>(parameter) = window;
+        return FALSE;
+    }
+
+    void answer() {
+        std::set<HWND> seen;
+        while (!isOver) {
+            HWND box = nullptr;
+            ::EnumWindows(FindBox, reinterpret_cast<LPARAM>(&box));
+            if (box && seen.insert(box).second) {
+                messages.push_back(TextOf(::GetDlgItem(box, 0xFFFF)));
+                if (messages.back() == "open") {
+                    isOpenBoxShown = true;
+                } else {
+                    ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+                }
+            }
+            ::Sleep(5);
+        }
+    }
+
+    std::atomic<bool> isOver = false;
+    std::thread user{[this] { answer(); }};
+
+public:
+    std::atomic<bool> isOpenBoxShown = false;
+};
+
+class FatalError : public testing::Test {
+protected:
+    void SetUp() override {
+        ForgetQuit();
+        PrepareControls();
+        errorTrap = HandleFatalError;
+        form.Unload.bind([this] { ++unloads; });
+        form.load();
+        form.show(SW_SHOWNORMAL);
+    }
+
+    TestForm form;
+    int unloads = 0;
+};
+
+void Fail() { throw std::runtime_error("unexpected"); }
+
+}  // namespace
+
+// In a process of its own, as the test runner gives one to each test: once armed, the trap stays armed.
+TEST_F(FatalError, BeforeTheTrapIsArmedSaysAndDoesNothing) {
+    Answering answering;
+    form.cmdTest.Click.bind(Fail);
+    ::SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(IDC_cmdTest, BN_CLICKED),
+                   reinterpret_cast<LPARAM>(form.cmdTest.handle()));
+    EXPECT_TRUE(answering.messages.empty());
+    EXPECT_TRUE(form.handle());
+    EXPECT_FALSE(IsErrorExitInProgress());
+    form.unload();
+}
+
+TEST_F(FatalError, ShowsOneMessageAndUnloadsEveryWindow) {
+    TestForm second;
+    second.load();
+    ArmErrorTrap();
+    Answering answering;
+    form.cmdTest.Click.bind(Fail);
+    ::SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(IDC_cmdTest, BN_CLICKED),
+                   reinterpret_cast<LPARAM>(form.cmdTest.handle()));
+    EXPECT_EQ(answering.messages,
+              (std::vector<std::string>{"Huevox encountered an unexpected error and must close."}));
+    EXPECT_FALSE(form.handle());
+    EXPECT_FALSE(second.handle());
+    EXPECT_TRUE(IsErrorExitInProgress());
+    EXPECT_EQ(unloads, 1);
+}
+
+TEST_F(FatalError, ShowsOneMessageWhenUnloadingFailsToo) {
+    ArmErrorTrap();
+    Answering answering;
+    form.Unload.bind(Fail);
+    form.Deactivate.bind(Fail);
+    HandleFatalError();
+    EXPECT_EQ(answering.messages.size(), 1U);
+    EXPECT_FALSE(form.handle());
+}
+
+TEST_F(FatalError, LetsNoTimerTickBehindTheMessage) {
+    ArmErrorTrap();
+    int ticks = 0;
+    form.tmrTest.Tick.bind([&] { ++ticks; });
+    {
+        Answering answering;
+        HandleFatalError();
+    }
+    EXPECT_EQ(ticks, 0);
+}
+
+TEST_F(FatalError, EndsAMessageBoxThatIsOpen) {
+    ArmErrorTrap();
+    Answering answering;
+    form.tmrTest.Tick.bind([&] {
+        if (answering.isOpenBoxShown) Fail();
+    });
+    MsgBox(&form, "open", MB_YESNO, messages::title);
+    EXPECT_EQ(answering.messages,
+              (std::vector<std::string>{"open", "Huevox encountered an unexpected error and must close."}));
+    EXPECT_FALSE(form.handle());
+}
+
+TEST_F(FatalError, ReleasesTheMouseAndTheRedraw) {
+    ArmErrorTrap();
+    Answering answering;
+    ::SetCapture(form.picTest.handle());
+    FreezeRedraw(form.handle());
+    HandleFatalError();
+    EXPECT_FALSE(::GetCapture());
+    EXPECT_TRUE(::LockWindowUpdate(::GetDesktopWindow()));
+    UnfreezeRedraw();
+}

@@ -1,0 +1,78 @@
+// A form with a control of each kind.
+#ifndef TESTS_TOOLKIT_TESTFORM_H
+#define TESTS_TOOLKIT_TESTFORM_H
+
+#define IDC_hsbTest 2001
+#define IDC_txtTest 2002
+#define IDC_cmdTest 2010
+#define IDC_optTest 2011
+#define IDC_chkTest 2020
+#define IDC_lstTest 2021
+#define IDC_lblTest 2022
+#define IDC_picContainer 2023
+#define IDC_picTest 2024
+#define IDC_cellTest 2025
+#define IDC_tmrTest 2026
+#define IDM_mnuTest 41001
+
+#ifndef RC_INVOKED
+
+#include "toolkit/Buttons.h"
+#include "toolkit/CellStrip.h"
+#include "toolkit/ControlArray.h"
+#include "toolkit/Form.h"
+#include "toolkit/Label.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/ScrollBar.h"
+#include "toolkit/TextBox.h"
+#include "toolkit/Timer.h"
+
+struct TestForm : Form {
+    TestForm() : Form("frmTest") { picContainer.hold(picTest); }
+
+    ScrollBar hsbTest{*this, IDC_hsbTest, 0, 255};
+    ControlArray<TextBox, 2> txtTest{*this, IDC_txtTest};
+    Button cmdTest{*this, IDC_cmdTest};
+    OptionGroup options;
+    ControlArray<OptionButton, 3> optTest{*this, IDC_optTest, options};
+    CheckBox chkTest{*this, IDC_chkTest};
+    ListBox lstTest{*this, IDC_lstTest};
+    Label lblTest{*this, IDC_lblTest};
+    PictureBox picContainer{*this, IDC_picContainer};
+    PictureBox picTest{*this, IDC_picTest};
+    CellStrip cellTest{*this, IDC_cellTest};
+    Timer tmrTest{*this, IDC_tmrTest, 20};
+};
+
+/// Takes back the end of the message loop that the last form of an earlier test has asked for.
+inline void ForgetQuit() {
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
+}
+
+/// Dispatches messages until condition is true. False when it still is not after five seconds.
+template <class Condition>
+bool PumpUntil(Condition condition) {
+    const ULONGLONG end = ::GetTickCount64() + 5000;
+    while (!condition()) {
+        if (::GetTickCount64() >= end) return false;
+        MSG message;
+        while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (Form::preTranslate(message)) continue;
+            ::TranslateMessage(&message);
+            ::DispatchMessageA(&message);
+        }
+        ::Sleep(1);
+    }
+    return true;
+}
+
+/// Dispatches what is waiting now.
+inline void PumpAll() {
+    bool isPumped = false;
+    PumpUntil([&] { return std::exchange(isPumped, true); });
+}
+
+#endif
+#endif

@@ -1,0 +1,257 @@
+// The notation list, the JavaScript names and the way to the clipboard.
+#include <string>
+#include <vector>
+
+#include "tests/ui/UiTest.h"
+
+namespace {
+
+class Autocopy : public UiTest {};
+class JavaScriptNames : public UiTest {};
+class Activation : public UiTest {};
+
+void SetColor(const Huevox& huevox, const Color& color) {
+    huevox.retype(IDC_txtSetRed, std::to_string(color.red));
+    huevox.retype(IDC_txtSetGreen, std::to_string(color.green));
+    huevox.retype(IDC_txtSetBlue, std::to_string(color.blue));
+    Press(VK_RETURN);
+    ASSERT_BECOMES(huevox.sliders(), color);
+}
+
+void CheckNames(const Huevox& huevox, bool isChecked) {
+    Click(huevox.control(IDC_chkJSNamesOnly));
+    ASSERT_BECOMES(huevox.isEnabled(IDC_lstAutocopy), !isChecked);
+}
+
+/// Holds the clipboard open, as a program that hangs does.
+class ClipboardHeld {
+public:
+    ClipboardHeld() {
+        Eventually([] { return ::OpenClipboard(nullptr) != FALSE; });
+    }
+    ClipboardHeld(const ClipboardHeld&) = delete;
+    ClipboardHeld& operator=(const ClipboardHeld&) = delete;
+    ~ClipboardHeld() { ::CloseClipboard(); }
+};
+
+}  // namespace
+
+TEST_F(Autocopy, CopiesEveryNotation) {
+    const Huevox huevox;
+    SetColor(huevox, ColorOf(255, 204, 0));
+    const std::vector<std::string> codes = {"#FFCC00",
+                                            "#ffcc00",
+                                            "&H0000CCFF&",
+                                            "RGB(255, 204, 0)",
+                                            "0x0000ccff",
+                                            "$0000CCFF",
+                                            "52479",
+                                            "ColorTranslator.FromHtml(\"#FFCC00\")",
+                                            "ColorTranslator.FromOle(52479)",
+                                            "ColorTranslator.FromWin32(52479)",
+                                            "Color(255,204,0)"};
+    for (int index = 0; index < 11; ++index) {
+        huevox.chooseNotation(index);
+        EXPECT_BECOMES(huevox.text(IDC_lblClipboard), codes[index]);
+        EXPECT_BECOMES(ClipboardText(), codes[index]);
+    }
+}
+
+TEST_F(Autocopy, CopiesTheCustomNotation) {
+    StoreText("CustomFormat", "rgb & %DR%/%UG%/%LB% (%LD%)");
+    const Huevox huevox;
+    huevox.chooseNotation(11);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "rgb & 255/00/00 (255)");
+    EXPECT_BECOMES(ClipboardText(), "rgb & 255/00/00 (255)");
+}
+
+TEST_F(Autocopy, AnEmptyPreviewPutsAnEmptyTextOnTheClipboard) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    huevox.chooseNotation(11);
+    ASSERT_BECOMES(ClipboardText(), "");
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_TEXT));
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_UNICODETEXT));
+}
+
+TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    const DWORD before = ::GetClipboardSequenceNumber();
+    MoveMouse(huevox.thumb(IDC_hsbGreen, 0));
+    PressButton();
+    // For well over the time of a copy, never pausing for as long as one tick.
+    const ULONGLONG end = ::GetTickCount64() + 1500;
+    for (int step = 0; ::GetTickCount64() < end; ++step) {
+        MoveMouse(huevox.thumb(IDC_hsbGreen, 60 + 10 * (step % 12)));
+        EXPECT_TRUE(Throughout(40, [&] { return ::GetClipboardSequenceNumber() == before; }));
+    }
+    EXPECT_EQ(::GetClipboardSequenceNumber(), before);
+    ReleaseButton();
+    EXPECT_TRUE(Eventually([&] { return ::GetClipboardSequenceNumber() != before; }));
+    EXPECT_EQ(ClipboardText(), huevox.text(IDC_lblClipboard));
+}
+
+TEST_F(Autocopy, WritesOnceForOneChange) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    const DWORD written = ::GetClipboardSequenceNumber();
+    EXPECT_TRUE(Throughout(1500, [&] { return ::GetClipboardSequenceNumber() == written; }));
+}
+
+TEST_F(Autocopy, TheLettersFollowWithTheClipboard) {
+    const Huevox huevox;
+    huevox.focusSlider(IDC_hsbRed);
+    Press(VK_LEFT);
+    EXPECT_BECOMES(huevox.text(Property(0)), "");
+    EXPECT_EQ(huevox.text(Property(1)), "WFJ");
+    SetColor(huevox, ColorOf(0x33, 0x33, 0x33));
+    EXPECT_BECOMES(huevox.text(Property(0)), "W");
+    SetColor(huevox, ColorOf(0xC0, 0xC0, 0xC0));
+    EXPECT_BECOMES(huevox.text(Property(0)), "FJ");
+}
+
+TEST_F(Autocopy, AClipboardHeldOpenIsLeftAloneUntilTheNextChange) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    CopyElsewhere("theirs");
+    huevox.focusSlider(IDC_hsbGreen);
+    {
+        const ClipboardHeld held;
+        Press(VK_RIGHT);
+        // The letters are refreshed by the tick that would copy.
+        ASSERT_BECOMES(huevox.text(Property(0)), "");
+    }
+    EXPECT_TRUE(Throughout(1000, [] { return ClipboardText() == "theirs"; }));
+    EXPECT_TRUE(huevox.isRunning());
+    EXPECT_EQ(huevox.dialogCount(), 0);
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(ClipboardText(), "#FF0200");
+}
+
+TEST_F(Autocopy, AClickOnTheChosenNotationCopiesAgain) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    CopyElsewhere("theirs");
+    huevox.chooseNotation(0);
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+}
+
+TEST_F(Autocopy, ToolTipsTellWhatIsWhat) {
+    const Huevox huevox;
+    const auto tipOf = [&](int id) {
+        MoveMouse({1, 1});
+        EXPECT_BECOMES(huevox.toolTip(), "");
+        const POINT center = CenterOf(huevox.control(id));
+        MoveMouse({center.x - 1, center.y});
+        MoveMouse(center);
+        EXPECT_TRUE(Eventually([&] { return !huevox.toolTip().empty(); }));
+        return huevox.toolTip();
+    };
+    EXPECT_EQ(tipOf(IDC_lstAutocopy), "Select the format you want to copy to the clipboard");
+    EXPECT_EQ(tipOf(IDC_lblClipboard), "This is what you get if you paste right now in another application");
+    EXPECT_EQ(tipOf(IDC_chkJSNamesOnly),
+              "Check this check box if you want to copy the JavaScript name instead of the RGB colour code");
+    EXPECT_EQ(tipOf(Name(5)), "Click and type a colour name");
+    EXPECT_EQ(tipOf(Option(5)), "Click here to select this colour mark");
+    EXPECT_EQ(tipOf(IDC_txtSetRed), "Type the red value");
+    EXPECT_EQ(tipOf(IDC_txtSetGreen), "Type the green value");
+    EXPECT_EQ(tipOf(IDC_txtSetBlue), "Type the blue value");
+    EXPECT_EQ(tipOf(IDC_optSetDec), "Click here for decimal colour values");
+    EXPECT_EQ(tipOf(IDC_optSetHex), "Click here for hexadecimal colour values");
+}
+
+TEST_F(JavaScriptNames, AreCopiedInsteadOfTheNotationWhichComesBack) {
+    const Huevox huevox;
+    huevox.chooseNotation(6);
+    ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "255");
+    CheckNames(huevox, true);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "red");
+    EXPECT_BECOMES(huevox.listIndex(), -1);
+    EXPECT_BECOMES(ClipboardText(), "red");
+    CheckNames(huevox, false);
+    EXPECT_BECOMES(huevox.listIndex(), 6);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
+    EXPECT_BECOMES(ClipboardText(), "255");
+}
+
+TEST_F(JavaScriptNames, OfEqualColorsAreCyanAndMagenta) {
+    const Huevox huevox;
+    CheckNames(huevox, true);
+    huevox.selectMark(3);
+    EXPECT_BECOMES(ClipboardText(), "cyan");
+    huevox.selectMark(5);
+    EXPECT_BECOMES(ClipboardText(), "magenta");
+}
+
+TEST_F(JavaScriptNames, SpellBlanchedalmondRight) {
+    const Huevox huevox;
+    CheckNames(huevox, true);
+    SetColor(huevox, ColorOf(0xFF, 0xEB, 0xCD));
+    EXPECT_BECOMES(ClipboardText(), "blanchedalmond");
+}
+
+TEST_F(JavaScriptNames, AreEmptyForAColorWithoutOne) {
+    const Huevox huevox;
+    CheckNames(huevox, true);
+    ASSERT_BECOMES(ClipboardText(), "red");
+    SetColor(huevox, ColorOf(0x12, 0x34, 0x56));
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "");
+    EXPECT_BECOMES(ClipboardText(), "");
+}
+
+TEST_F(Activation, CopiesTheColorAgainOverWhatWasCopiedElsewhere) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+        other.selectMark(4);
+        ASSERT_BECOMES(ClipboardText(), "#0000FF");
+    }
+    ::SetForegroundWindow(huevox.window());
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+}
+
+TEST_F(Activation, KeepsNotationAndFocus) {
+    const Huevox huevox;
+    huevox.chooseNotation(10);
+    huevox.focusByClick(Name(3));
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    }
+    ::SetForegroundWindow(huevox.window());
+    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(3));
+    EXPECT_EQ(huevox.listIndex(), 10);
+    EXPECT_EQ(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
+}
+
+TEST_F(Activation, InJavaScriptNamesModeSelectsNoNotation) {
+    const Huevox huevox;
+    huevox.chooseNotation(4);
+    CheckNames(huevox, true);
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    }
+    ::SetForegroundWindow(huevox.window());
+    ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
+    EXPECT_BECOMES(ClipboardText(), "red");
+    EXPECT_EQ(huevox.listIndex(), -1);
+    CheckNames(huevox, false);
+    EXPECT_BECOMES(huevox.listIndex(), 4);
+}
+
+TEST_F(Activation, AfterAMessageLeavesABadValueInItsBox) {
+    const Huevox huevox;
+    huevox.retype(IDC_txtSetBlue, "999");
+    Press(VK_RETURN);
+    const HWND message = huevox.waitForDialog();
+    ASSERT_TRUE(message);
+    CopyElsewhere("theirs");
+    Answer(message, IDOK);
+    // Copied again: the window has been activated, and yet the box is as it was.
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+    EXPECT_EQ(huevox.text(IDC_txtSetBlue), "999");
+}

@@ -1,0 +1,231 @@
+#include "tests/ui/Huevox.h"
+
+#include "mainwindow/ColorRamp.h"
+#include "resources/resource.h"
+#include "tests/toolkit/WindowText.h"
+#include "tests/ui/Input.h"
+#include "tests/ui/Wait.h"
+
+namespace {
+
+constexpr DWORD limit = 10'000;
+
+struct Search {
+    DWORD process;
+    const char* className;
+    HWND found;
+    int count;
+};
+
+BOOL CALLBACK FindVisible(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD owner = 0;
+    ::GetWindowThreadProcessId(window, &owner);
+    std::array<char, 64> name{};
+    ::GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+    if (owner != search.process || !::IsWindowVisible(window) ||
+        std::string_view(name.data()) != search.className) {
+        return TRUE;
+    }
+    if (!search.found) search.found = window;
+    ++search.count;
+    return TRUE;
+}
+
+Search Find(DWORD process, const char* className) {
+    Search search{process, className, nullptr, 0};
+    ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search));
+    return search;
+}
+
+struct ChildSearch {
+    int id;
+    HWND found;
+};
+
+BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<ChildSearch*>(parameter);
+    if (::GetDlgCtrlID(window) != search.id) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+}  // namespace
+
+Huevox::Huevox(WORD showCommand) {
+    start(showCommand);
+    waitForWindow();
+}
+
+Huevox::Huevox(DoNotWait, WORD showCommand) { start(showCommand); }
+
+void Huevox::start(WORD showCommand) {
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = showCommand;
+    std::string command = HUEVOX_EXE;
+    ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                     &process);
+}
+
+Huevox::~Huevox() {
+    if (isRunning()) {
+        ::PostMessageA(main, WM_CLOSE, 0, 0);
+        if (::WaitForSingleObject(process.hProcess, 500) != WAIT_OBJECT_0)
+            ::TerminateProcess(process.hProcess, 9);
+        ::WaitForSingleObject(process.hProcess, limit);
+    }
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+bool Huevox::waitForWindow() {
+    const bool isThere =
+        Eventually([&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr; });
+    ::WaitForInputIdle(process.hProcess, limit);
+    return isThere;
+}
+
+HWND Huevox::control(int id) const {
+    ChildSearch search{id, nullptr};
+    ::EnumChildWindows(main, FindChild, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND Huevox::focus() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(main, nullptr), &info);
+    return info.hwndFocus;
+}
+
+bool Huevox::isRunning() const { return ::WaitForSingleObject(process.hProcess, 0) == WAIT_TIMEOUT; }
+
+int Huevox::waitForEnd() const {
+    if (::WaitForSingleObject(process.hProcess, limit) != WAIT_OBJECT_0) return -1;
+    DWORD code = 0;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    return static_cast<int>(code);
+}
+
+HWND Huevox::dialog() const { return Find(process.dwProcessId, "#32770").found; }
+
+HWND Huevox::waitForDialog() const {
+    Eventually([&] { return dialog() != nullptr; });
+    return dialog();
+}
+
+int Huevox::dialogCount() const { return Find(process.dwProcessId, "#32770").count; }
+
+LRESULT Huevox::send(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
+    DWORD_PTR result = 0;
+    ::SendMessageTimeoutA(control(id), message, wParam, lParam, SMTO_ABORTIFHUNG, limit, &result);
+    return static_cast<LRESULT>(result);
+}
+
+std::string Huevox::text(int id) const { return TextOf(control(id)); }
+
+std::string Huevox::title() const { return TextOf(main); }
+
+int Huevox::listIndex() const { return static_cast<int>(send(IDC_lstAutocopy, LB_GETCURSEL)); }
+
+Color Huevox::sliders() const {
+    const auto value = [&](int id) { return static_cast<int>(send(id, SBM_GETPOS)); };
+    return ColorOf(value(IDC_hsbRed), value(IDC_hsbGreen), value(IDC_hsbBlue));
+}
+
+Color Huevox::sample(int mark) const { return Pixel(CenterOf(control(IDC_picSample + mark))); }
+
+Color Huevox::barStep(int step) const {
+    // The right edge of a step may lie under its neighbour, its left edge never does.
+    return Pixel(OnScreen(control(IDC_lblColorBar), {BarStepLeft(step), barStepHeight / 2}));
+}
+
+Color Huevox::backColor(int id) const {
+    RECT area{};
+    ::GetClientRect(control(id), &area);
+    return Pixel(OnScreen(control(id), {area.right - 3, 2}));
+}
+
+bool Huevox::isToolButtonEnabled(int command) const {
+    return send(IDC_tbrTools, TB_ISBUTTONENABLED, command) != 0;
+}
+
+POINT Huevox::toolButton(int command) const {
+    // The bar writes the answer into memory of its own process.
+    void* remote = ::VirtualAllocEx(process.hProcess, nullptr, sizeof(RECT), MEM_COMMIT, PAGE_READWRITE);
+    send(IDC_tbrTools, TB_GETRECT, command, reinterpret_cast<LPARAM>(remote));
+    RECT area{};
+    ::ReadProcessMemory(process.hProcess, remote, &area, sizeof area, nullptr);
+    ::VirtualFreeEx(process.hProcess, remote, 0, MEM_RELEASE);
+    return OnScreen(control(IDC_tbrTools), {(area.left + area.right) / 2, (area.top + area.bottom) / 2});
+}
+
+std::string Huevox::toolTip() const {
+    const HWND tip = Find(process.dwProcessId, TOOLTIPS_CLASSA).found;
+    return tip ? TextOf(tip) : "";
+}
+
+void Huevox::focusByClick(int id) const {
+    Click(control(id));
+    Eventually([&] { return focus() == control(id); });
+}
+
+void Huevox::retype(int id, std::string_view text) const {
+    focusByClick(id);
+    Press(VK_END);
+    Press(VK_HOME, {VK_SHIFT});
+    Press(VK_DELETE);
+    Eventually([&] { return this->text(id).empty(); });
+    Type(text);
+    Eventually([&] { return this->text(id).size() == text.size(); });
+}
+
+std::pair<int, int> Huevox::selection(int id) const {
+    const LRESULT both = send(id, EM_GETSEL);
+    return {LOWORD(both), HIWORD(both)};
+}
+
+POINT Huevox::thumb(int slider, int value) const {
+    const HWND bar = control(slider);
+    RECT area{};
+    ::GetClientRect(bar, &area);
+    const int arrow = ::GetSystemMetrics(SM_CXHSCROLL);
+    const int way = static_cast<int>(area.right) - 3 * arrow;  // the thumb is as long as an arrow
+    return OnScreen(bar, {arrow + value * way / 255 + arrow / 2, area.bottom / 2});
+}
+
+void Huevox::focusSlider(int id) const {
+    Click(thumb(id, static_cast<int>(send(id, SBM_GETPOS))));
+    Eventually([&] { return focus() == control(id); });
+}
+
+void Huevox::selectMark(int mark) const {
+    Click(control(IDC_optColor + mark));
+    Eventually([&] { return isEnabled(IDC_picSample + mark); });
+}
+
+void Huevox::chooseNotation(int index) const {
+    const int rowHeight = static_cast<int>(send(IDC_lstAutocopy, LB_GETITEMHEIGHT));
+    Click(OnScreen(control(IDC_lstAutocopy), {20, index * rowHeight + rowHeight / 2}));
+    Eventually([&] { return listIndex() == index; });
+}
+
+Color Pixel(POINT screen) {
+    const HDC context = ::GetDC(nullptr);
+    const COLORREF color = ::GetPixel(context, screen.x, screen.y);
+    ::ReleaseDC(nullptr, context);
+    return Unpack(static_cast<PackedColor>(color));
+}
+
+std::string MessageOf(HWND dialog) {
+    constexpr int messageText = 0xFFFF;
+    return TextOf(::GetDlgItem(dialog, messageText));
+}
+
+void Answer(HWND dialog, int button) {
+    ::PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                   reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
+    Eventually([&] { return !::IsWindow(dialog); });
+}

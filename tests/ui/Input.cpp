@@ -1,0 +1,97 @@
+#include "tests/ui/Input.h"
+
+namespace {
+
+bool IsExtended(WORD key) {
+    switch (key) {
+        case VK_LEFT:
+        case VK_RIGHT:
+        case VK_UP:
+        case VK_DOWN:
+        case VK_HOME:
+        case VK_END:
+        case VK_PRIOR:
+        case VK_NEXT:
+        case VK_DELETE:
+        case VK_INSERT: return true;
+        default: return false;
+    }
+}
+
+void SendKey(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(::MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0);
+    ::SendInput(1, &input, sizeof input);
+}
+
+void SendMouse(DWORD flags, LONG x = 0, LONG y = 0) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = x;
+    input.mi.dy = y;
+    input.mi.dwFlags = flags;
+    ::SendInput(1, &input, sizeof input);
+}
+
+/// A pixel as a part of the screen's extent in 65536 steps, so that it comes out as the same pixel again.
+LONG Absolute(LONG pixel, int extent) { return (pixel * 65536 + 65536 / 2) / extent; }
+
+}  // namespace
+
+void KeyDown(WORD key) { SendKey(key, 0); }
+void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
+
+void Press(WORD key, std::initializer_list<WORD> modifiers) {
+    for (const WORD modifier : modifiers) KeyDown(modifier);
+    KeyDown(key);
+    KeyUp(key);
+    for (const WORD modifier : modifiers) KeyUp(modifier);
+}
+
+void Type(std::string_view text) {
+    for (const char character : text) {
+        const SHORT scan = ::VkKeyScanA(character);
+        const auto key = static_cast<WORD>(LOBYTE(scan));
+        if (HIBYTE(scan) & 1) {
+            Press(key, {VK_SHIFT});
+        } else {
+            Press(key);
+        }
+    }
+}
+
+POINT OnScreen(HWND window, POINT point) {
+    ::MapWindowPoints(window, nullptr, &point, 1);
+    return point;
+}
+
+POINT CenterOf(HWND window) {
+    RECT area{};
+    ::GetWindowRect(window, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+void MoveMouse(POINT screen) {
+    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN)),
+              Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN)));
+}
+
+void PressButton() { SendMouse(MOUSEEVENTF_LEFTDOWN); }
+void ReleaseButton() { SendMouse(MOUSEEVENTF_LEFTUP); }
+
+void Click(POINT screen) {
+    MoveMouse(screen);
+    PressButton();
+    ReleaseButton();
+}
+
+void Click(HWND window) { Click(CenterOf(window)); }
+
+void DoubleClick(HWND window) {
+    Click(window);
+    PressButton();
+    ReleaseButton();
+}

@@ -1,0 +1,25 @@
+// How does a test press keys and move the mouse as a user does?
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/Platform.h"
+
+/// Presses and releases a key, with the modifier keys held meanwhile.
+void Press(WORD key, std::initializer_list<WORD> modifiers = {});
+void KeyDown(WORD key);
+void KeyUp(WORD key);
+
+/// Types text by the keys that the keyboard has for it.
+void Type(std::string_view text);
+
+/// A point on the screen, from the left and top of the window's client area.
+POINT OnScreen(HWND window, POINT point);
+POINT CenterOf(HWND window);
+
+void MoveMouse(POINT screen);
+void PressButton();
+void ReleaseButton();
+void Click(POINT screen);
+void Click(HWND window);
+void DoubleClick(HWND window);

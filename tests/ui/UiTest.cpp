@@ -1,0 +1,69 @@
+#include "tests/ui/UiTest.h"
+
+#include <array>
+#include <cstring>
+
+namespace {
+
+bool OpenClipboardSoon() {
+    return Eventually([] { return ::OpenClipboard(nullptr) != FALSE; });
+}
+
+void DeleteSettings() { ::RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\Quorvane"); }
+
+}  // namespace
+
+void UiTest::SetUp() {
+    DeleteSettings();
+    ASSERT_TRUE(OpenClipboardSoon());
+    ::EmptyClipboard();
+    ::CloseClipboard();
+    MoveMouse({1, 1});
+}
+
+void UiTest::TearDown() { DeleteSettings(); }
+
+std::string ClipboardText() {
+    if (!OpenClipboardSoon()) return "clipboard cannot be opened";
+    const HANDLE data = ::GetClipboardData(CF_TEXT);
+    const auto* text = data ? static_cast<const char*>(::GlobalLock(data)) : nullptr;
+    std::string result = text ? text : "";
+    if (text) ::GlobalUnlock(data);
+    ::CloseClipboard();
+    return result;
+}
+
+void CopyElsewhere(std::string_view text) {
+    ASSERT_TRUE(OpenClipboardSoon());
+    ::EmptyClipboard();
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    auto* target = static_cast<char*>(::GlobalLock(memory));
+    std::memcpy(target, text.data(), text.size());
+    target[text.size()] = '\0';
+    ::GlobalUnlock(memory);
+    ::SetClipboardData(CF_TEXT, memory);
+    ::CloseClipboard();
+}
+
+void StoreText(const char* valueName, std::string_view text) {
+    HKEY key = nullptr;
+    ::RegCreateKeyA(HKEY_CURRENT_USER, settingsKey, &key);
+    ::RegSetValueExA(key, valueName, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.data()),
+                     static_cast<DWORD>(text.size()));
+    ::RegCloseKey(key);
+}
+
+std::string StoredText(const char* valueName) {
+    std::array<char, 1024> text{};
+    DWORD size = text.size();
+    const LSTATUS status =
+        ::RegGetValueA(HKEY_CURRENT_USER, settingsKey, valueName, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+    return status == ERROR_SUCCESS ? text.data() : "(missing)";
+}
+
+bool HasStoredSettings() {
+    HKEY key = nullptr;
+    if (::RegOpenKeyA(HKEY_CURRENT_USER, settingsKey, &key) != ERROR_SUCCESS) return false;
+    ::RegCloseKey(key);
+    return true;
+}

@@ -1,0 +1,34 @@
+// What do the tests of the running program share?
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "resources/resource.h"
+#include "tests/toolkit/WindowText.h"
+#include "tests/ui/Huevox.h"
+#include "tests/ui/Input.h"
+#include "tests/ui/Wait.h"
+
+/// Every test begins without stored settings and with an empty clipboard.
+class UiTest : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+};
+
+/// The text on the system clipboard, "" when there is none.
+std::string ClipboardText();
+/// Puts text on the clipboard as another program does.
+void CopyElsewhere(std::string_view text);
+
+inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
+
+void StoreText(const char* valueName, std::string_view text);
+std::string StoredText(const char* valueName);
+bool HasStoredSettings();
+
+constexpr int Name(int mark) { return IDC_txtName + mark; }
+constexpr int Option(int mark) { return IDC_optColor + mark; }
+constexpr int Property(int mark) { return IDC_lblColorProp + mark; }

@@ -1,0 +1,44 @@
+# Tests that need Windows: run under Wine, on a display with a window manager (scripts/desktop).
+add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+
+# In one process with the code: the toolkit's contract, and what talks to the platform.
+add_executable(program_tests
+    program/FatalErrorTest.cpp
+    program/ColorMarksTest.cpp
+    program/FoldersTest.cpp
+    program/MainWindowTest.cpp
+    program/RegistryStringHandlerTest.cpp
+    toolkit/EventContractTest.cpp
+    toolkit/FormTest.cpp
+    toolkit/YieldTest.cpp
+    ui/Input.cpp)
+add_resources(test_resources toolkit/TestForm.rc)
+target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
+
+# From another process, by real keys and mouse.
+add_executable(ui_tests
+    ui/AutocopyTest.cpp
+    ui/BurstTest.cpp
+    ui/ChannelEditorsTest.cpp
+    ui/ClosingTest.cpp
+    ui/CommandsTest.cpp
+    ui/Huevox.cpp
+    ui/Input.cpp
+    ui/LowColorDepthTest.cpp
+    ui/MarksTest.cpp
+    ui/SettingsTest.cpp
+    ui/StartTest.cpp
+    ui/UiTest.cpp)
+target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
+add_dependencies(ui_tests Huevox)
+target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe")
+
+set(in_turn RUN_SERIAL ON TIMEOUT 120)
+gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${in_turn})
+gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*"
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${in_turn})
+add_test(NAME ui.on_a_display_of_16_bits
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.on_a_display_of_16_bits PROPERTIES ${in_turn})
