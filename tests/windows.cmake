@@ -42,3 +42,5 @@ add_test(NAME ui.on_a_display_of_16_bits
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(ui.on_a_display_of_16_bits PROPERTIES ${in_turn})
+
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests)

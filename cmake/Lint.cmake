@@ -1,0 +1,85 @@
+# Style and static checks as tests. A source is checked again when it or a header has changed.
+find_program(CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
+find_program(CLANG_FORMAT NAMES clang-format-14 clang-format REQUIRED)
+find_program(CPPCHECK cppcheck REQUIRED)
+
+set(rooms core mainwindow settings support toolkit resources tests bench)
+list(TRANSFORM rooms PREPEND ${PROJECT_SOURCE_DIR}/)
+set(header_patterns ${rooms})
+list(TRANSFORM header_patterns APPEND /*.h)
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${header_patterns})
+set(source_patterns ${rooms})
+list(TRANSFORM source_patterns APPEND /*.cpp)
+file(GLOB_RECURSE all_sources CONFIGURE_DEPENDS ${source_patterns})
+
+set(tidy_arguments -std=c++20 -I${PROJECT_SOURCE_DIR})
+if(WIN32)
+    # clang knows the target, but not where the cross compiler keeps its headers.
+    list(APPEND tidy_arguments --target=${HUEVOX_TARGET}-w64-mingw32 -isystem /usr/src/googletest/googletest/include)
+    foreach(dir IN LISTS CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES)
+        if(NOT dir MATCHES "/lib/gcc/.*/include(-fixed)?$")
+            list(APPEND tidy_arguments -isystem ${dir})
+        endif()
+    endforeach()
+    get_target_property(definitions huevox_flags INTERFACE_COMPILE_DEFINITIONS)
+    list(TRANSFORM definitions PREPEND -D)
+    list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe")
+endif()
+
+# tidy_sources(TARGET...): a target "tidy" that checks the targets' sources, and a test that builds it. The sources of
+# a room are read as one, because the platform's headers take far longer than the room.
+function(tidy_sources)
+    set(sources "")
+    foreach(target IN LISTS ARGN)
+        get_target_property(target_sources ${target} SOURCES)
+        get_target_property(dir ${target} SOURCE_DIR)
+        foreach(source IN LISTS target_sources)
+            cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${dir} NORMALIZE)
+            list(APPEND sources ${source})
+        endforeach()
+    endforeach()
+    list(FILTER sources INCLUDE REGEX "[.]cpp$")
+    list(REMOVE_DUPLICATES sources)
+
+    set(rooms_read "")
+    foreach(source IN LISTS sources)
+        cmake_path(GET source PARENT_PATH room)
+        string(REPLACE "${PROJECT_SOURCE_DIR}/" "" room ${room})
+        string(REPLACE "/" "_" room ${room})
+        list(APPEND rooms_read ${room})
+        list(APPEND sources_${room} ${source})
+        string(APPEND text_${room} "#include \"${source}\"\n")
+    endforeach()
+    list(REMOVE_DUPLICATES rooms_read)
+
+    set(stamps "")
+    foreach(room IN LISTS rooms_read)
+        set(whole ${PROJECT_BINARY_DIR}/tidy/${room}.cpp)
+        file(CONFIGURE OUTPUT ${whole} CONTENT "${text_${room}}" @ONLY)
+        add_custom_command(
+            OUTPUT ${whole}.checked
+            COMMAND ${CLANG_TIDY} --quiet --checks=-bugprone-suspicious-include
+                --config-file=${PROJECT_SOURCE_DIR}/.clang-tidy ${whole} -- ${tidy_arguments}
+            COMMAND ${CMAKE_COMMAND} -E touch ${whole}.checked
+            DEPENDS ${whole} ${sources_${room}} ${headers} ${PROJECT_SOURCE_DIR}/.clang-tidy
+            COMMENT "Checking ${room}"
+            VERBATIM)
+        list(APPEND stamps ${whole}.checked)
+    endforeach()
+    add_custom_target(tidy DEPENDS ${stamps})
+    get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
+    add_test(NAME lint.tidy.${preset} COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target tidy)
+    set_tests_properties(lint.tidy.${preset} PROPERTIES RUN_SERIAL ON TIMEOUT 600)
+endfunction()
+
+# style_tests(): the layout of all sources, and a second opinion on all of the program's.
+function(style_tests)
+    add_test(NAME lint.format COMMAND ${CLANG_FORMAT} --dry-run --Werror ${all_sources} ${headers})
+    set(program_rooms ${rooms})
+    list(FILTER program_rooms EXCLUDE REGEX "/(tests|resources)$")
+    add_test(NAME lint.cppcheck
+        COMMAND ${CPPCHECK} --quiet --error-exitcode=1 --std=c++20 --language=c++ --inline-suppr
+            --enable=warning,performance,portability,style
+            --suppressions-list=${PROJECT_SOURCE_DIR}/.cppcheck-suppressions
+            -I${PROJECT_SOURCE_DIR} ${program_rooms})
+endfunction()
