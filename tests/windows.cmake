@@ -43,4 +43,4 @@ add_test(NAME ui.on_a_display_of_16_bits
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(ui.on_a_display_of_16_bits PROPERTIES ${in_turn})
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests huevox_bench)

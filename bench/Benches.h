@@ -1,0 +1,5 @@
+// Which benchmarks are there? Each prints a table.
+#pragma once
+
+void BenchStart();
+void BenchChange();
