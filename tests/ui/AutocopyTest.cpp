@@ -78,16 +78,17 @@ TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
     const Huevox huevox;
     ASSERT_BECOMES(ClipboardText(), "#FF0000");
     const DWORD before = ::GetClipboardSequenceNumber();
-    MoveMouse(huevox.thumb(IDC_hsbGreen, 0));
-    PressButton();
+    POINT thumb = huevox.thumb(IDC_hsbGreen, 0);
+    PressButton(thumb);
     // For well over the time of a copy, never pausing for as long as one tick.
     const ULONGLONG end = ::GetTickCount64() + 1500;
     for (int step = 0; ::GetTickCount64() < end; ++step) {
-        MoveMouse(huevox.thumb(IDC_hsbGreen, 60 + 10 * (step % 12)));
+        thumb = huevox.thumb(IDC_hsbGreen, 60 + 10 * (step % 12));
+        MoveMouse(thumb);
         EXPECT_TRUE(Throughout(40, [&] { return ::GetClipboardSequenceNumber() == before; }));
     }
     EXPECT_EQ(::GetClipboardSequenceNumber(), before);
-    ReleaseButton();
+    ReleaseButton(thumb);
     EXPECT_TRUE(Eventually([&] { return ::GetClipboardSequenceNumber() != before; }));
     EXPECT_EQ(ClipboardText(), huevox.text(IDC_lblClipboard));
 }

@@ -88,8 +88,7 @@ TEST_F(Sliders, PageKeysMoveByOneTooAndHomeAndEndGoToTheLimits) {
 
 TEST_F(Sliders, DraggingUpdatesSampleBoxesBarAndPreviewOnTheWay) {
     const Huevox huevox;
-    MoveMouse(huevox.thumb(IDC_hsbGreen, 0));
-    PressButton();
+    PressButton(huevox.thumb(IDC_hsbGreen, 0));
     int last = 0;
     for (const int target : {60, 120, 180, 240}) {
         MoveMouse(huevox.thumb(IDC_hsbGreen, target));
@@ -101,7 +100,7 @@ TEST_F(Sliders, DraggingUpdatesSampleBoxesBarAndPreviewOnTheWay) {
         EXPECT_BECOMES(huevox.barStep(0), ColorOf(255, green, 0));
         last = green;
     }
-    ReleaseButton();
+    ReleaseButton(huevox.thumb(IDC_hsbGreen, 240));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, last, 0));
 }
 

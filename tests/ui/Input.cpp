@@ -27,17 +27,18 @@ void SendKey(WORD key, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
-void SendMouse(DWORD flags, LONG x = 0, LONG y = 0) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = x;
-    input.mi.dy = y;
-    input.mi.dwFlags = flags;
-    ::SendInput(1, &input, sizeof input);
-}
-
 /// A pixel as a part of the screen's extent in 65536 steps, so that it comes out as the same pixel again.
 LONG Absolute(LONG pixel, int extent) { return (pixel * 65536 + 65536 / 2) / extent; }
+
+/// Buttons bring their place with them: a display reports earlier moves late, and they take the pointer back.
+void SendMouse(POINT screen, DWORD button = 0) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
+    ::SendInput(1, &input, sizeof input);
+}
 
 }  // namespace
 
@@ -74,24 +75,18 @@ POINT CenterOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
-void MoveMouse(POINT screen) {
-    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN)),
-              Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN)));
-}
-
-void PressButton() { SendMouse(MOUSEEVENTF_LEFTDOWN); }
-void ReleaseButton() { SendMouse(MOUSEEVENTF_LEFTUP); }
+void MoveMouse(POINT screen) { SendMouse(screen); }
+void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
+void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
 
 void Click(POINT screen) {
-    MoveMouse(screen);
-    PressButton();
-    ReleaseButton();
+    PressButton(screen);
+    ReleaseButton(screen);
 }
 
 void Click(HWND window) { Click(CenterOf(window)); }
 
 void DoubleClick(HWND window) {
     Click(window);
-    PressButton();
-    ReleaseButton();
+    Click(window);
 }

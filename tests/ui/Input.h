@@ -18,8 +18,8 @@ POINT OnScreen(HWND window, POINT point);
 POINT CenterOf(HWND window);
 
 void MoveMouse(POINT screen);
-void PressButton();
-void ReleaseButton();
+void PressButton(POINT screen);
+void ReleaseButton(POINT screen);
 void Click(POINT screen);
 void Click(HWND window);
 void DoubleClick(HWND window);
