@@ -74,6 +74,20 @@ TEST_F(Autocopy, AnEmptyPreviewPutsAnEmptyTextOnTheClipboard) {
     EXPECT_TRUE(::IsClipboardFormatAvailable(CF_UNICODETEXT));
 }
 
+TEST_F(Autocopy, IsOwnedByTheMainWindow) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    EXPECT_EQ(::GetClipboardOwner(), huevox.window());
+}
+
+TEST_F(Autocopy, UnicodeTextIsMadeOfTheSameCharacters) {
+    StoreText("CustomFormat", "caf\xE9 \x80 %UR%");
+    const Huevox huevox;
+    huevox.chooseNotation(11);
+    EXPECT_BECOMES(ClipboardText(), "caf\xE9 \x80 FF");
+    EXPECT_EQ(ClipboardUnicodeText(), L"caf\u00E9 \u20AC FF");
+}
+
 TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
     const Huevox huevox;
     ASSERT_BECOMES(ClipboardText(), "#FF0000");

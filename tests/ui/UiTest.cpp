@@ -9,6 +9,18 @@ bool OpenClipboardSoon() {
     return Eventually([] { return ::OpenClipboard(nullptr) != FALSE; });
 }
 
+template <class Character>
+std::basic_string<Character> ClipboardData(UINT format) {
+    if (!OpenClipboardSoon()) return {};
+    const HANDLE data = ::GetClipboardData(format);
+    const auto* text = data ? static_cast<const Character*>(::GlobalLock(data)) : nullptr;
+    std::basic_string<Character> result;
+    if (text) result = text;
+    if (text) ::GlobalUnlock(data);
+    ::CloseClipboard();
+    return result;
+}
+
 void DeleteSettings() { ::RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\Quorvane"); }
 
 }  // namespace
@@ -23,15 +35,8 @@ void UiTest::SetUp() {
 
 void UiTest::TearDown() { DeleteSettings(); }
 
-std::string ClipboardText() {
-    if (!OpenClipboardSoon()) return "clipboard cannot be opened";
-    const HANDLE data = ::GetClipboardData(CF_TEXT);
-    const auto* text = data ? static_cast<const char*>(::GlobalLock(data)) : nullptr;
-    std::string result = text ? text : "";
-    if (text) ::GlobalUnlock(data);
-    ::CloseClipboard();
-    return result;
-}
+std::string ClipboardText() { return ClipboardData<char>(CF_TEXT); }
+std::wstring ClipboardUnicodeText() { return ClipboardData<wchar_t>(CF_UNICODETEXT); }
 
 void CopyElsewhere(std::string_view text) {
     ASSERT_TRUE(OpenClipboardSoon());

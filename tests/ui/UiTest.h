@@ -20,6 +20,7 @@ protected:
 
 /// The text on the system clipboard, "" when there is none.
 std::string ClipboardText();
+std::wstring ClipboardUnicodeText();
 /// Puts text on the clipboard as another program does.
 void CopyElsewhere(std::string_view text);
 
