@@ -1,4 +1,5 @@
 // What does the program make of the settings that are stored?
+#include <array>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,6 +16,32 @@ void StoreNumber(const char* valueName, DWORD number) {
     ::RegSetValueExA(key, valueName, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number), sizeof number);
     ::RegCloseKey(key);
 }
+
+/// Tells the shell of another desktop folder.
+class DesktopElsewhere {
+public:
+    explicit DesktopElsewhere(std::string_view folder) {
+        ::RegOpenKeyA(HKEY_CURRENT_USER,
+                      R"(Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders)", &folders);
+        DWORD size = before.size();
+        ::RegQueryValueExA(folders, "Desktop", nullptr, &type, before.data(), &size);
+        beforeSize = size;
+        ::RegSetValueExA(folders, "Desktop", 0, REG_SZ, reinterpret_cast<const BYTE*>(folder.data()),
+                         static_cast<DWORD>(folder.size()));
+    }
+    DesktopElsewhere(const DesktopElsewhere&) = delete;
+    DesktopElsewhere& operator=(const DesktopElsewhere&) = delete;
+    ~DesktopElsewhere() {
+        ::RegSetValueExA(folders, "Desktop", 0, type, before.data(), beforeSize);
+        ::RegCloseKey(folders);
+    }
+
+private:
+    HKEY folders = nullptr;
+    DWORD type = REG_SZ;
+    std::array<BYTE, 1024> before{};
+    DWORD beforeSize = 0;
+};
 
 void ExpectDefaultsStored() {
     EXPECT_EQ(StoredText("CustomFormat"), "");
@@ -103,6 +130,14 @@ TEST_F(StoredSettings, ATextWithoutAClosingNulReadsAsItIs) {
     StoreText("FormatIndex", "5");
     const Huevox huevox;
     EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "$000000FF");
+}
+
+TEST_F(StoredSettings, WithoutADesktopFolderTheProgramStartsTheSame) {
+    const DesktopElsewhere desktop("Q:\\nowhere\\Desktop");
+    const Huevox huevox;
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+    EXPECT_EQ(huevox.dialogCount(), 0);
+    EXPECT_FALSE(HasStoredSettings());
 }
 
 TEST_F(StoredSettings, AnEmptyTextReadsAsEmpty) {
