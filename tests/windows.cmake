@@ -3,8 +3,9 @@ add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest
 
 # In one process with the code: the toolkit's contract, and what talks to the platform.
 add_executable(program_tests
-    program/FatalErrorTest.cpp
+    program/AutocopyTest.cpp
     program/ColorMarksTest.cpp
+    program/FatalErrorTest.cpp
     program/FoldersTest.cpp
     program/MainWindowTest.cpp
     program/RegistryStringHandlerTest.cpp

@@ -1,0 +1,81 @@
+// The preview without a chosen notation, which the running program has only before it is first activated.
+#include "mainwindow/Autocopy.h"
+
+#include <gtest/gtest.h>
+
+#include "resources/resource.h"
+#include "tests/toolkit/TestForm.h"
+#include "tests/toolkit/WindowText.h"
+#include "toolkit/Pump.h"
+
+namespace {
+
+struct AutocopyForm : Form, ColorTarget {
+    AutocopyForm() : Form("frmMain") {
+        load();
+        view.FillNotations();
+    }
+    ~AutocopyForm() override { unload(); }
+
+    void SetSelectedColor(int red, int green, int blue) override { view.ShowColorCode(red, green, blue); }
+    std::string preview() const { return TextOf(::GetDlgItem(handle(), IDC_lblClipboard)); }
+    void choose(int index) {
+        ::SendMessageA(::GetDlgItem(handle(), IDC_lstAutocopy), LB_SETCURSEL, index, 0);
+    }
+
+    AppState state;
+    EditState edit;
+    CommandBar commands{*this};
+    ChannelEditors channels{*this, edit, *this};
+    ColorMarks marks{*this, state.marks, edit, channels, *this};
+    Autocopy view{*this, state, edit, commands, channels, marks, *this};
+};
+
+class Preview : public testing::Test {
+protected:
+    void SetUp() override {
+        ForgetQuit();
+        PrepareControls();
+        form = std::make_unique<AutocopyForm>();
+    }
+
+    std::unique_ptr<AutocopyForm> form;
+};
+
+}  // namespace
+
+TEST_F(Preview, WithoutAChosenNotationStaysAsItIsButStartsTheCountdownAgain) {
+    form->choose(0);
+    form->view.ShowColorCode(1, 2, 3);
+    ASSERT_EQ(form->preview(), "#010203");
+    form->choose(-1);
+    form->edit.clipTicks.count();
+    form->edit.clipTicks.count();
+    form->view.ShowColorCode(4, 5, 6);
+    EXPECT_EQ(form->preview(), "#010203");
+    EXPECT_FALSE(form->edit.clipTicks.count());
+    EXPECT_FALSE(form->edit.clipTicks.count());
+    EXPECT_TRUE(form->edit.clipTicks.count());
+}
+
+TEST_F(Preview, InJavaScriptNamesModeIgnoresTheNotation) {
+    form->state.jsNamesOnly = true;
+    form->choose(0);
+    form->view.ShowColorCode(0, 255, 255);
+    EXPECT_EQ(form->preview(), "cyan");
+    form->view.ShowColorCode(1, 2, 3);
+    EXPECT_EQ(form->preview(), "");
+}
+
+TEST_F(Preview, OnDeactivationKeepsAChosenNotationOnly) {
+    form->choose(7);
+    form->view.KeepNotation();
+    EXPECT_EQ(form->state.savedFormatIndex, 7);
+    form->choose(-1);
+    form->view.KeepNotation();
+    EXPECT_EQ(form->state.savedFormatIndex, 7);
+    form->choose(11);
+    form->state.jsNamesOnly = true;
+    form->view.KeepNotation();
+    EXPECT_EQ(form->state.savedFormatIndex, 7);
+}
