@@ -44,4 +44,6 @@ add_test(NAME ui.on_a_display_of_16_bits
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(ui.on_a_display_of_16_bits PROPERTIES ${in_turn})
 
+add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
+
 tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests huevox_bench)
