@@ -35,7 +35,17 @@ void UiTest::SetUp() {
 
 void UiTest::TearDown() { DeleteSettings(); }
 
-std::string ClipboardText() { return ClipboardData<char>(CF_TEXT); }
+std::string ClipboardText() {
+    // Read only when it has changed: a test that looks again and again would hold the clipboard open just
+    // when the program wants to copy.
+    static DWORD lastRead = 0;
+    static std::string text;
+    const DWORD number = ::GetClipboardSequenceNumber();
+    if (number != lastRead) text = ClipboardData<char>(CF_TEXT);
+    lastRead = number;
+    return text;
+}
+
 std::wstring ClipboardUnicodeText() { return ClipboardData<wchar_t>(CF_UNICODETEXT); }
 
 void CopyElsewhere(std::string_view text) {
