@@ -6,6 +6,9 @@
 #include <cstddef>
 #include <memory>
 
+#include "support/PathText.h"
+#include "toolkit/CodePage.h"
+
 namespace {
 
 constexpr std::size_t rootLength = 3;  // of a drive root such as C:\ with its backslash
@@ -21,24 +24,13 @@ std::string PathOf(const OwnedItem& item) {
     return isPath ? std::string(path.data()) : "";
 }
 
-/// Where the last backslash stands. Looks character by character: the second byte of a character may look
-/// like one.
-std::size_t LastBackslash(const std::string& path) {
-    std::size_t last = std::string::npos;
-    for (const char* at = path.c_str(); *at != '\0'; at = ::CharNextA(at)) {
-        if (*at == '\\') last = at - path.c_str();
-    }
-    return last;
-}
-
 std::string WithoutLastBackslash(std::string path) {
-    if (!path.empty() && LastBackslash(path) == path.size() - 1) path.pop_back();
+    if (!path.empty() && GetFileNamePart(path, "\\", IsLeadByte).empty()) path.pop_back();
     return path;
 }
 
 bool IsFolderOnDisk(const std::string& path) {
-    const std::size_t backslash = LastBackslash(path);
-    const std::string name = backslash == std::string::npos ? path : path.substr(backslash + 1);
+    const std::string_view name = GetFileNamePart(path, "\\", IsLeadByte);
     WIN32_FIND_DATAA found{};
     const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return false;

@@ -1,0 +1,18 @@
+// Where do the characters of a text begin, in a code page where some take two bytes?
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+/// Whether a byte begins a character of two bytes. The second byte of such a character may look like any
+/// other character, a backslash for instance.
+using LeadByteTest = bool (*)(char byte);
+
+/// The length in bytes of the character at a place before the end of the text.
+std::size_t CharacterLength(std::string_view text, std::size_t at, LeadByteTest isLeadByte);
+
+/// The first characters, at most count of them; never half a character.
+std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte);
+
+/// The last character; "" for "".
+std::string_view LastCharacter(std::string_view text, LeadByteTest isLeadByte);

@@ -1,0 +1,19 @@
+// How is a path taken apart as text?
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "support/Characters.h"
+
+/// Where the delimiter stands last; npos when it is empty or does not occur.
+std::size_t LastPlaceOf(std::string_view delimiter, std::string_view text, LeadByteTest isLeadByte);
+
+/// The text after the last delimiter; the whole text when the delimiter is empty or does not occur.
+std::string_view GetFileNamePart(std::string_view text, std::string_view delimiter, LeadByteTest isLeadByte);
+
+/// The text up to and with its last backslash; "" when there is none.
+std::string_view FolderPart(std::string_view path, LeadByteTest isLeadByte);
+
+/// Whether there is a dot after the last backslash.
+bool HasExtension(std::string_view path, LeadByteTest isLeadByte);
