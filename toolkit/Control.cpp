@@ -74,9 +74,3 @@ LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM 
 LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return ::CallWindowProcA(original, window, message, wParam, lParam);
 }
-
-std::string Control::windowText() const {
-    std::string text(::GetWindowTextLengthA(window), '\0');
-    text.resize(::GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1));
-    return text;
-}

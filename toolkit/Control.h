@@ -49,8 +49,6 @@ protected:
 
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    std::string windowText() const;
-
 private:
     friend class ControlList;
     friend class Form;

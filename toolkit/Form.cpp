@@ -9,6 +9,7 @@
 #include "toolkit/FormWindow.h"
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
+#include "toolkit/WindowText.h"
 
 namespace {
 
@@ -101,6 +102,8 @@ void Form::stopAllTimers() {
         for (const Timer* timer : form->timers) timer->stop(form->window);
     }
 }
+
+std::string Form::text() const { return WindowText(window); }
 
 void Form::setText(std::string_view caption) { ::SetWindowTextA(window, std::string(caption).c_str()); }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -50,6 +51,7 @@ public:
     /// The owner for a message box: the window, or none while it is not on the screen.
     HWND messageOwner() const { return ::IsWindowVisible(window) ? window : nullptr; }
 
+    std::string text() const;
     void setText(std::string_view caption);
     void setMenuItemEnabled(int command, bool isEnabled);
 

@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include "toolkit/Form.h"
+#include "toolkit/WindowText.h"
 
 void TextBox::attached() {
     known.reset();
@@ -12,7 +13,7 @@ void TextBox::attached() {
 }
 
 std::string TextBox::text() const {
-    if (!known) known = windowText();
+    if (!known) known = WindowText(handle());
     return *known;
 }
 
