@@ -35,17 +35,17 @@ ColorMarks::ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors
 }
 
 void ColorMarks::Prepare() {
-    constexpr int longestName = 21;
     for (TextBox& box : txtName) box.setMaxLength(longestName);
 }
 
-void ColorMarks::ApplyPalette(const MarkNames& names, const std::array<Color, markCount>& colors) {
+void ColorMarks::ApplyPalette(const Palette& palette) {
     for (int mark = markCount - 1; mark >= 0; --mark) {
-        picSample(mark).setBackColor(Pack(colors[mark]));
-        txtName(mark).setText(names[mark]);
-        marks.savedMarkName[mark] = names[mark];
-        marks.markColor[mark] = colors[mark];
-        marks.savedMarkColor[mark] = colors[mark];
+        picSample(mark).setBackColor(Pack(palette.colors[mark]));
+        txtName(mark).setText(palette.names[mark]);
+        // What the box makes of the name: a palette that was just opened is unchanged.
+        marks.savedMarkName[mark] = txtName(mark).text();
+        marks.markColor[mark] = palette.colors[mark];
+        marks.savedMarkColor[mark] = palette.colors[mark];
     }
 }
 

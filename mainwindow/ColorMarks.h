@@ -19,10 +19,12 @@ public:
     void Prepare();
 
     /// Shows a new or opened palette, which counts as saved. The selected mark and the other views are left.
-    void ApplyPalette(const MarkNames& names, const std::array<Color, markCount>& colors);
+    void ApplyPalette(const Palette& palette);
     /// Selects a mark without applying its colour.
     void Select(int mark);
     MarkNames Names() const;
+    /// Names and colours as they stand.
+    Palette Shown() const { return {Names(), marks.markColor}; }
     void WhitenNames();
     /// Only the selected mark's sample can start a screen pick.
     void EnableSelectedSample();

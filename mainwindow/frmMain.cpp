@@ -52,7 +52,7 @@ void frmMain::CheckColorDepth() {
 }
 
 void frmMain::ShowNewPalette() {
-    marks.ApplyPalette(state.marks.defaultMarkName, state.marks.defaultMarkColor);
+    marks.ApplyPalette({state.marks.defaultMarkName, state.marks.defaultMarkColor});
     const Color first = state.marks.markColor[0];
     channels.SetSliders(first);
     marks.Select(0);

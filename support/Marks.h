@@ -8,15 +8,27 @@
 
 inline constexpr int markCount = 6;
 
+/// What a name box takes, in characters.
+inline constexpr int longestName = 21;
+
 using MarkNames = std::array<std::string, markCount>;
+using MarkColors = std::array<Color, markCount>;
+
+/// Six names and colours: what a file keeps.
+struct Palette {
+    MarkNames names;
+    MarkColors colors;
+
+    friend bool operator==(const Palette&, const Palette&) = default;
+};
 
 /// The names that the marks bear now are the texts of their name boxes and are not kept here.
 struct Marks {
     int selectedMark = 0;
-    std::array<Color, markCount> markColor;
-    std::array<Color, markCount> savedMarkColor;
+    MarkColors markColor;
+    MarkColors savedMarkColor;
     MarkNames savedMarkName;
-    std::array<Color, markCount> defaultMarkColor;
+    MarkColors defaultMarkColor;
     MarkNames defaultMarkName;
 
     const Color& selectedColor() const { return markColor[selectedMark]; }

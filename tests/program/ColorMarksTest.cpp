@@ -17,7 +17,7 @@ struct MarksForm : Form, ColorTarget {
         Load.bind([this] {
             channels.Prepare();
             view.Prepare();
-            view.ApplyPalette(marks.defaultMarkName, marks.defaultMarkColor);
+            view.ApplyPalette({marks.defaultMarkName, marks.defaultMarkColor});
             view.Select(0);
             channels.SetSliders(marks.markColor[0]);
             edit.userColorChange = edit.sliderSync = true;

@@ -4,13 +4,13 @@
 
 namespace {
 
-struct Palette {
+struct Shown {
     Marks marks;
     MarkNames names;
 };
 
-Palette NewPalette() {
-    Palette palette;
+Shown NewPalette() {
+    Shown palette;
     LoadDefaultMarks(palette.marks);
     palette.marks.markColor = palette.marks.savedMarkColor = palette.marks.defaultMarkColor;
     palette.names = palette.marks.savedMarkName = palette.marks.defaultMarkName;
@@ -32,14 +32,14 @@ TEST(LoadDefaultMarks, AreRedYellowGreenCyanBlueAndMagentaWithoutNames) {
 }
 
 TEST(IsPaletteChanged, ANewPaletteIsUnchanged) {
-    const Palette palette = NewPalette();
+    const Shown palette = NewPalette();
     EXPECT_FALSE(IsPaletteChanged(palette.marks, palette.names));
 }
 
 TEST(IsPaletteChanged, AnyChannelOfAnyMarkCounts) {
     for (int mark = 0; mark < markCount; ++mark) {
         for (int channel = 0; channel < 3; ++channel) {
-            Palette palette = NewPalette();
+            Shown palette = NewPalette();
             Color& color = palette.marks.markColor[mark];
             int& value = channel == 0 ? color.red : channel == 1 ? color.green : color.blue;
             value ^= 1;
@@ -50,14 +50,14 @@ TEST(IsPaletteChanged, AnyChannelOfAnyMarkCounts) {
 
 TEST(IsPaletteChanged, AnyNameCounts) {
     for (int mark = 0; mark < markCount; ++mark) {
-        Palette palette = NewPalette();
+        Shown palette = NewPalette();
         palette.names[mark] = "navy";
         EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names)) << mark;
     }
 }
 
 TEST(IsPaletteChanged, ThePlaceholdersAreEqualInEitherOrder) {
-    Palette palette = NewPalette();
+    Shown palette = NewPalette();
     palette.names[3] = "Not JavaScript colour";
     EXPECT_FALSE(IsPaletteChanged(palette.marks, palette.names));
     palette.marks.savedMarkName[3] = "Not JavaScript colour";
@@ -66,7 +66,7 @@ TEST(IsPaletteChanged, ThePlaceholdersAreEqualInEitherOrder) {
 }
 
 TEST(IsPaletteChanged, APlaceholderAndANameDiffer) {
-    Palette palette = NewPalette();
+    Shown palette = NewPalette();
     palette.marks.savedMarkName[0] = "navy";
     EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names));
     palette.names[0] = "Not JavaScript colour";
@@ -74,7 +74,7 @@ TEST(IsPaletteChanged, APlaceholderAndANameDiffer) {
 }
 
 TEST(IsPaletteChanged, NavyRetypedAsNavyWithACapitalIsAChange) {
-    Palette palette = NewPalette();
+    Shown palette = NewPalette();
     palette.marks.savedMarkName[0] = "navy";
     palette.names[0] = "Navy";
     EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names));

@@ -1,0 +1,26 @@
+// What does a palette file look like, and what is read back from one?
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/Characters.h"
+#include "support/Marks.h"
+
+/// The palette as a file keeps it: a name that only stands in until the next edit is no name.
+Palette AsSaved(Palette palette);
+
+/// The text of a file: 100 lines, each ended by CR LF. Channels are 0 to 255; no name contains CR LF.
+std::string WritePaletteFile(const Palette& palette, std::string_view customFormat);
+
+/// The lines of a file, at most `most` of them. Only CR LF ends a line; what follows the last CR LF is a line
+/// unless it is empty.
+std::vector<std::string_view> SplitLines(std::string_view text, std::size_t most);
+
+/// The palette of a file of any of the four generations; nothing when it is none of them. Names are cut to
+/// what a name box takes; channels of the current generation, which are not checked, are limited to 0..255.
+std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines, LeadByteTest isLeadByte);

@@ -1,0 +1,299 @@
+#include "palette/PaletteFile.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <random>
+
+namespace {
+
+constexpr std::size_t all = 1'000'000;
+
+bool NoLeadByte(char) { return false; }
+
+/// As in a code page of Japanese, where 0x5C, a backslash, may be the second byte of a character.
+bool ShiftJisLeadByte(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
+}
+
+std::string FileText(const std::string& name) {
+    std::ifstream file(std::string(HUEVOX_TEST_FILES) + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::optional<Palette> Parsed(std::string_view text, LeadByteTest isLeadByte = NoLeadByte) {
+    return ParsePaletteLines(SplitLines(text, all), isLeadByte);
+}
+
+std::string Joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) text += line + "\r\n";
+    return text;
+}
+
+/// The lines that a reader of the current generation looks at.
+std::vector<std::string> CurrentLines() {
+    return {"THIS FILE WAS MADE IN HUEVOX. DO NOT EDIT.",
+            "Do not use versions prior to Huevox 8.0 when you open this file.",
+            "",
+            "[Huevox data]",
+            "one",
+            "1,2,3",
+            "two",
+            "4,5,6",
+            "three",
+            "7,8,9",
+            "four",
+            "10,11,12",
+            "five",
+            "13,14,15",
+            "six",
+            "16,17,18"};
+}
+
+/// An older file whose colour line of mark 2 is another.
+std::string OlderWith(const std::string& colorLine, const std::string& nameLine = "[name]") {
+    std::vector<std::string> lines = {"This is a Huevox Palette File. Do not edit.", ""};
+    for (int mark = 0; mark < 6; ++mark) {
+        lines.push_back(mark == 2 ? nameLine : "[name]");
+        lines.insert(lines.end(), {"", "", mark == 2 ? colorLine : "12345678901234255, 0, 128)", ""});
+    }
+    return Joined(lines);
+}
+
+std::optional<Palette> CurrentWith(std::size_t line, const std::string& text) {
+    std::vector<std::string> lines = CurrentLines();
+    lines[line] = text;
+    return Parsed(Joined(lines));
+}
+
+Palette SavedPalette() {
+    return {.names = {"Sea", "Type a colour name", "a, b] and [c", "caf\xE9", "", "lightgoldenrodyellow!"},
+            .colors = {ColorOf(0, 128, 255), ColorOf(255, 0, 128), ColorOf(0, 0, 0), ColorOf(255, 255, 255),
+                       ColorOf(1, 20, 255), ColorOf(250, 250, 210)}};
+}
+
+Palette OlderPalette() {
+    return {.names = {"Brick", "Night", "x, y]", "", "white", "Type a colour name"},
+            .colors = {ColorOf(178, 34, 34), ColorOf(0, 0, 128), ColorOf(255, 255, 0), ColorOf(0, 0, 0),
+                       ColorOf(255, 255, 255), ColorOf(7, 70, 207)}};
+}
+
+std::string CustomLine(const Palette& palette, std::string_view customFormat) {
+    const std::string text = WritePaletteFile(palette, customFormat);
+    return std::string(SplitLines(text, all)[29]);
+}
+
+}  // namespace
+
+TEST(WritePaletteFile, WritesThe100LinesByteForByte) {
+    EXPECT_EQ(WritePaletteFile(SavedPalette(), "rgb %UR%/%LG%/%DB% (%LD%) %ur%"), FileText("saved.txt"));
+}
+
+TEST(WritePaletteFile, AnEmptyTemplateGivesCustomWithNothingAfterIt) {
+    EXPECT_EQ(CustomLine(SavedPalette(), ""), "Custom:");
+}
+
+TEST(WritePaletteFile, ATemplateOfABlankIsNotEmpty) {
+    EXPECT_EQ(CustomLine(SavedPalette(), " "), "Custom:  ");
+}
+
+TEST(WritePaletteFile, TokensAreMatchedCaseSensitively) {
+    Palette palette = SavedPalette();
+    palette.colors[0] = ColorOf(255, 0, 0);
+    EXPECT_EQ(CustomLine(palette, "%UR%%ur%"), "Custom: FF%ur%");
+}
+
+TEST(AsSaved, NotJavaScriptColourIsSavedAsTypeAColourName) {
+    Palette palette = SavedPalette();
+    palette.names[4] = "Not JavaScript colour";
+    palette.names[5] = "not JavaScript colour";
+    const std::optional<Palette> read = Parsed(WritePaletteFile(AsSaved(palette), ""));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->names[4], "Type a colour name");
+    EXPECT_EQ(read->names[5], "not JavaScript colour");
+    EXPECT_EQ(read->names[0], "Sea");
+}
+
+TEST(PaletteFile, WrittenAndReadBackIsTheSame) {
+    const std::optional<Palette> read = Parsed(WritePaletteFile(SavedPalette(), "%UR%"));
+    EXPECT_EQ(read, SavedPalette());
+}
+
+TEST(PaletteFile, AnyNamesAndColorsComeBack) {
+    std::mt19937 random(20041);
+    const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    for (int round = 0; round < 5000; ++round) {
+        Palette palette;
+        for (int mark = 0; mark < markCount; ++mark) {
+            for (int left = upTo(longestName); left > 0; --left) {
+                const char character = static_cast<char>(1 + upTo(254));
+                if (character != '\n') palette.names[mark] += character;
+            }
+            palette.colors[mark] = ColorOf(upTo(255), upTo(255), upTo(255));
+        }
+        ASSERT_EQ(Parsed(WritePaletteFile(palette, "%LD%")), palette) << round;
+    }
+}
+
+TEST(ParsePaletteLines, ReadsTheCurrentGeneration) {
+    EXPECT_EQ(Parsed(FileText("saved.txt")), SavedPalette());
+}
+
+TEST(ParsePaletteLines, ReadsTheThreeOlderGenerations) {
+    EXPECT_EQ(Parsed(FileText("generation1.txt")), OlderPalette());
+    EXPECT_EQ(Parsed(FileText("generation2.txt")), OlderPalette());
+    EXPECT_EQ(Parsed(FileText("generation3.txt")), OlderPalette());
+}
+
+TEST(ParsePaletteLines, ANameWithACommaOrABracketIsAWholeLine) {
+    const std::optional<Palette> read = CurrentWith(6, "a,b]c[");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->names[1], "a,b]c[");
+}
+
+TEST(ParsePaletteLines, NothingFromLine16OnHasAnEffect) {
+    const std::optional<Palette> short16 = Parsed(Joined(CurrentLines()));
+    ASSERT_TRUE(short16);
+    std::vector<std::string> lines = CurrentLines();
+    lines.insert(lines.end(), {"16,17", "", std::string(5000, 'x')});
+    EXPECT_EQ(Parsed(Joined(lines)), short16);
+}
+
+TEST(ParsePaletteLines, NeitherDoLines1To3) {
+    const std::optional<Palette> read = Parsed(Joined(CurrentLines()));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(CurrentWith(1, "other"), read);
+    EXPECT_EQ(CurrentWith(2, "other"), read);
+    EXPECT_EQ(CurrentWith(3, ""), read);
+}
+
+TEST(ParsePaletteLines, AFirstLineWithATrailingBlankOrInOtherLetterCaseIsRejected) {
+    for (const char* file : {"saved.txt", "generation1.txt", "generation2.txt", "generation3.txt"}) {
+        const std::string text = FileText(file);
+        ASSERT_TRUE(Parsed(text)) << file;
+        std::string blank = text;
+        blank.insert(text.find("\r\n"), " ");
+        EXPECT_FALSE(Parsed(blank)) << file;
+        std::string otherCase = text;
+        otherCase[1] ^= 0x20;
+        EXPECT_FALSE(Parsed(otherCase)) << file;
+    }
+}
+
+TEST(ParsePaletteLines, AFileThatEndsBeforeTheLastColorIsRejected) {
+    std::vector<std::string> lines = CurrentLines();
+    lines.pop_back();
+    EXPECT_FALSE(Parsed(Joined(lines)));
+    for (const auto& [file, linesNeeded] :
+         {std::pair{"generation1.txt", 46U}, std::pair{"generation2.txt", 41U},
+          std::pair{"generation3.txt", 31U}}) {
+        const std::string text = FileText(file);
+        const std::vector first = SplitLines(text, linesNeeded);
+        EXPECT_TRUE(ParsePaletteLines(first, NoLeadByte)) << file;
+        EXPECT_FALSE(ParsePaletteLines(std::span(first).first(linesNeeded - 1), NoLeadByte)) << file;
+    }
+}
+
+TEST(ParsePaletteLines, TextsThatAreNoPaletteAreRejected) {
+    const std::string text = Joined(CurrentLines());
+    std::string unixText = text;
+    std::erase(unixText, '\r');
+    std::string utf16 = "\xFF\xFE";
+    for (const char character : text) utf16 += {character, '\0'};
+    for (const std::string& other :
+         {std::string(), std::string("\r\n"), "\xEF\xBB\xBF" + text, utf16, unixText})
+        EXPECT_FALSE(Parsed(other));
+}
+
+TEST(ParsePaletteLines, ANumberIsBlanksASignDigitsBlanks) {
+    for (const char* line :
+         {"7, 8,9 ", "  7  ,+8,009", "7,8,9,", "7,8,9,x,y", "+7,8,9", "007,0000000000008,9"}) {
+        const std::optional<Palette> read = CurrentWith(9, line);
+        ASSERT_TRUE(read) << line;
+        EXPECT_EQ(read->colors[2], ColorOf(7, 8, 9)) << line;
+    }
+    for (const char* line :
+         {"", "7", "7,8", "7,8,", ",8,9", "7,,9", "7,8, ", "7,8,9x", "7,8,x9", "7,8,9 0", "7,8,- 9",
+          "7,8,--9", "7,8,+-9", "7,8,-", "7,8,+", "7,8,0x9", "7,8,9.0", "7;8;9", "7,8,\t9"}) {
+        EXPECT_FALSE(CurrentWith(9, line)) << line;
+    }
+}
+
+TEST(ParsePaletteLines, ANumberFits32Bits) {
+    EXPECT_TRUE(CurrentWith(9, "7,8,2147483647"));
+    EXPECT_FALSE(CurrentWith(9, "7,8,2147483648"));
+    EXPECT_TRUE(CurrentWith(9, "7,8,-2147483648"));
+    EXPECT_FALSE(CurrentWith(9, "7,8,-2147483649"));
+}
+
+TEST(ParsePaletteLines, TheCurrentGenerationLimitsChannelsAndOlderOnesRejectThem) {
+    const std::optional<Palette> read = CurrentWith(9, "256,-1,255");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->colors[2], ColorOf(255, 0, 255));
+    EXPECT_TRUE(Parsed(OlderWith("12345678901234255, 0, 255)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234256, 0, 255)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234255, 256, 255)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234255, 0, 256)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234-1, 0, 255)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234255, -1, 255)")));
+    EXPECT_FALSE(Parsed(OlderWith("12345678901234255, 0, -1)")));
+}
+
+TEST(ParsePaletteLines, WithoutABlankAfterItsCommasAnOlderFileLosesFirstDigits) {
+    const std::optional<Palette> read = Parsed(OlderWith("12345678901234112,113,114)"));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->colors[2], ColorOf(112, 13, 14));
+}
+
+TEST(ParsePaletteLines, OlderLinesTooShortForWhatIsDroppedAreRejected) {
+    EXPECT_TRUE(Parsed(OlderWith("123456789012341, 2, 3)", "[]")));
+    EXPECT_FALSE(Parsed(OlderWith("123456789012341, 2, 3)", "[")));
+    EXPECT_FALSE(Parsed(OlderWith("123456789012341, 2, 3)", "")));
+    for (const char* line : {"", "1234567890123", "12345678901234", "123456789012341,,)",
+                             "123456789012341, 2,", "123456789012341, 2, ", "123456789012341, 2,)"}) {
+        EXPECT_FALSE(Parsed(OlderWith(line))) << line;
+    }
+}
+
+TEST(ParsePaletteLines, NamesAreCutTo21Characters) {
+    const std::string letters = "abcdefghijklmnopqrstu";
+    EXPECT_EQ(CurrentWith(6, letters)->names[1], letters);
+    EXPECT_EQ(CurrentWith(6, letters + "v")->names[1], letters);
+    EXPECT_EQ(Parsed(OlderWith("123456789012341, 2, 3)", '[' + letters + "v]"))->names[2], letters);
+}
+
+TEST(ParsePaletteLines, NeverCutsACharacterOfTwoBytes) {
+    std::vector<std::string> lines = CurrentLines();
+    const std::string character = "\x83\x5C";
+    for (int count = 0; count < 22; ++count) lines[6] += character;
+    lines[6].erase(0, 3);
+    EXPECT_EQ(Parsed(Joined(lines), ShiftJisLeadByte)->names[1],
+              lines[6].substr(0, std::size_t{2} * longestName));
+    const std::string label = "1234567890123" + character;
+    const std::optional<Palette> read =
+        Parsed(OlderWith(label + "1," + character + "2, 3" + character, character + "x" + character),
+               ShiftJisLeadByte);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->names[2], "x");
+    EXPECT_EQ(read->colors[2], ColorOf(1, 2, 3));
+}
+
+TEST(SplitLines, OnlyCrLfEndsALine) {
+    EXPECT_EQ(SplitLines("a\rb\nc\n\rd\r\n", all), std::vector<std::string_view>{"a\rb\nc\n\rd"});
+    EXPECT_EQ(SplitLines("a\r\r\nb", all), (std::vector<std::string_view>{"a\r", "b"}));
+}
+
+TEST(SplitLines, ALastLineWithoutOneCountsAndAFinalOneAddsNone) {
+    EXPECT_EQ(SplitLines("a\r\nb", all), (std::vector<std::string_view>{"a", "b"}));
+    EXPECT_EQ(SplitLines("a\r\nb\r\n", all), (std::vector<std::string_view>{"a", "b"}));
+    EXPECT_EQ(SplitLines("a\r\n\r\n", all), (std::vector<std::string_view>{"a", ""}));
+    EXPECT_TRUE(SplitLines("", all).empty());
+}
+
+TEST(SplitLines, StopsAtTheMostThatAreWanted) {
+    EXPECT_EQ(SplitLines("a\r\nb\r\nc", 2), (std::vector<std::string_view>{"a", "b"}));
+    EXPECT_EQ(SplitLines("a\r\nb", 2), (std::vector<std::string_view>{"a", "b"}));
+}
