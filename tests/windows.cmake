@@ -18,18 +18,22 @@ target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_
 
 # From another process, by real keys and mouse.
 add_executable(ui_tests
+    ui/ActivationTest.cpp
     ui/AutocopyTest.cpp
     ui/BurstTest.cpp
-    ui/ChannelEditorsTest.cpp
     ui/ClosingTest.cpp
     ui/CommandsTest.cpp
     ui/Huevox.cpp
     ui/Input.cpp
+    ui/JavaScriptNamesTest.cpp
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp
     ui/SettingsTest.cpp
+    ui/SlidersTest.cpp
     ui/StartTest.cpp
-    ui/UiTest.cpp)
+    ui/TypedValuesTest.cpp
+    ui/UiTest.cpp
+    ui/WaitingValuesTest.cpp)
 target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
 add_dependencies(ui_tests Huevox)
 target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe")

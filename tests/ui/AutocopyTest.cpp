@@ -1,4 +1,4 @@
-// The notation list, the JavaScript names and the way to the clipboard.
+// How does a notation get to the clipboard?
 #include <string>
 #include <vector>
 
@@ -7,21 +7,6 @@
 namespace {
 
 class Autocopy : public UiTest {};
-class JavaScriptNames : public UiTest {};
-class Activation : public UiTest {};
-
-void SetColor(const Huevox& huevox, const Color& color) {
-    huevox.retype(IDC_txtSetRed, std::to_string(color.red));
-    huevox.retype(IDC_txtSetGreen, std::to_string(color.green));
-    huevox.retype(IDC_txtSetBlue, std::to_string(color.blue));
-    Press(VK_RETURN);
-    ASSERT_BECOMES(huevox.sliders(), color);
-}
-
-void CheckNames(const Huevox& huevox, bool isChecked) {
-    Click(huevox.control(IDC_chkJSNamesOnly));
-    ASSERT_BECOMES(huevox.isEnabled(IDC_lstAutocopy), !isChecked);
-}
 
 /// Holds the clipboard open, as a program that hangs does.
 class ClipboardHeld {
@@ -174,99 +159,4 @@ TEST_F(Autocopy, ToolTipsTellWhatIsWhat) {
     EXPECT_EQ(tipOf(IDC_txtSetBlue), "Type the blue value");
     EXPECT_EQ(tipOf(IDC_optSetDec), "Click here for decimal colour values");
     EXPECT_EQ(tipOf(IDC_optSetHex), "Click here for hexadecimal colour values");
-}
-
-TEST_F(JavaScriptNames, AreCopiedInsteadOfTheNotationWhichComesBack) {
-    const Huevox huevox;
-    huevox.chooseNotation(6);
-    ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "255");
-    CheckNames(huevox, true);
-    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "red");
-    EXPECT_BECOMES(huevox.listIndex(), -1);
-    EXPECT_BECOMES(ClipboardText(), "red");
-    CheckNames(huevox, false);
-    EXPECT_BECOMES(huevox.listIndex(), 6);
-    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
-    EXPECT_BECOMES(ClipboardText(), "255");
-}
-
-TEST_F(JavaScriptNames, OfEqualColorsAreCyanAndMagenta) {
-    const Huevox huevox;
-    CheckNames(huevox, true);
-    huevox.selectMark(3);
-    EXPECT_BECOMES(ClipboardText(), "cyan");
-    huevox.selectMark(5);
-    EXPECT_BECOMES(ClipboardText(), "magenta");
-}
-
-TEST_F(JavaScriptNames, SpellBlanchedalmondRight) {
-    const Huevox huevox;
-    CheckNames(huevox, true);
-    SetColor(huevox, ColorOf(0xFF, 0xEB, 0xCD));
-    EXPECT_BECOMES(ClipboardText(), "blanchedalmond");
-}
-
-TEST_F(JavaScriptNames, AreEmptyForAColorWithoutOne) {
-    const Huevox huevox;
-    CheckNames(huevox, true);
-    ASSERT_BECOMES(ClipboardText(), "red");
-    SetColor(huevox, ColorOf(0x12, 0x34, 0x56));
-    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "");
-    EXPECT_BECOMES(ClipboardText(), "");
-}
-
-TEST_F(Activation, CopiesTheColorAgainOverWhatWasCopiedElsewhere) {
-    const Huevox huevox;
-    ASSERT_BECOMES(ClipboardText(), "#FF0000");
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-        other.selectMark(4);
-        ASSERT_BECOMES(ClipboardText(), "#0000FF");
-    }
-    ::SetForegroundWindow(huevox.window());
-    EXPECT_BECOMES(ClipboardText(), "#FF0000");
-}
-
-TEST_F(Activation, KeepsNotationAndFocus) {
-    const Huevox huevox;
-    huevox.chooseNotation(10);
-    huevox.focusByClick(Name(3));
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(3));
-    EXPECT_EQ(huevox.listIndex(), 10);
-    EXPECT_EQ(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
-}
-
-TEST_F(Activation, InJavaScriptNamesModeSelectsNoNotation) {
-    const Huevox huevox;
-    huevox.chooseNotation(4);
-    CheckNames(huevox, true);
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
-    EXPECT_BECOMES(ClipboardText(), "red");
-    EXPECT_EQ(huevox.listIndex(), -1);
-    CheckNames(huevox, false);
-    EXPECT_BECOMES(huevox.listIndex(), 4);
-}
-
-TEST_F(Activation, AfterAMessageLeavesABadValueInItsBox) {
-    const Huevox huevox;
-    huevox.retype(IDC_txtSetBlue, "999");
-    Press(VK_RETURN);
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    CopyElsewhere("theirs");
-    Answer(message, IDOK);
-    // Copied again: the window has been activated, and yet the box is as it was.
-    EXPECT_BECOMES(ClipboardText(), "#FF0000");
-    EXPECT_EQ(huevox.text(IDC_txtSetBlue), "999");
 }

@@ -82,3 +82,16 @@ bool HasStoredSettings() {
     ::RegCloseKey(key);
     return true;
 }
+
+void SetColor(const Huevox& huevox, const Color& color) {
+    huevox.retype(IDC_txtSetRed, std::to_string(color.red));
+    huevox.retype(IDC_txtSetGreen, std::to_string(color.green));
+    huevox.retype(IDC_txtSetBlue, std::to_string(color.blue));
+    Press(VK_RETURN);
+    ASSERT_BECOMES(huevox.sliders(), color);
+}
+
+void CheckNames(const Huevox& huevox, bool isChecked) {
+    Click(huevox.control(IDC_chkJSNamesOnly));
+    ASSERT_BECOMES(huevox.isEnabled(IDC_lstAutocopy), !isChecked);
+}

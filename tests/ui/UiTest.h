@@ -30,6 +30,11 @@ void StoreText(const char* valueName, std::string_view text);
 std::string StoredText(const char* valueName);
 bool HasStoredSettings();
 
+/// Types all three values and applies them, in decimal mode.
+void SetColor(const Huevox& huevox, const Color& color);
+/// Clicks the box for JavaScript names and waits until the list is disabled or enabled.
+void CheckNames(const Huevox& huevox, bool isChecked);
+
 constexpr int Name(int mark) { return IDC_txtName + mark; }
 constexpr int Option(int mark) { return IDC_optColor + mark; }
 constexpr int Property(int mark) { return IDC_lblColorProp + mark; }

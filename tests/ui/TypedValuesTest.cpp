@@ -1,17 +1,13 @@
-// Sliders and typed values.
+// How are values typed, applied and refused?
 #include <string>
 
+#include "tests/ui/Refusal.h"
 #include "tests/ui/UiTest.h"
 
 namespace {
 
-class Sliders : public UiTest {};
 class DecimalValues : public UiTest {};
 class HexValues : public UiTest {};
-class WaitingValues : public UiTest {};
-
-constexpr const char* decimalRefusal = "The value is not allowed. Only values from 0 to 255 are allowed.";
-constexpr const char* hexRefusal = "The value is not allowed. Only values from 00 to FF are allowed.";
 
 void ChooseHex(const Huevox& huevox) {
     Click(huevox.control(IDC_optSetHex));
@@ -28,20 +24,6 @@ void PasteInto(const Huevox& huevox, int box, const char* text) {
     Press('V', {VK_CONTROL});
 }
 
-void ExpectRefusal(const Huevox& huevox, const char* text, int failingBox) {
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(TextOf(message), "Huevox");
-    EXPECT_EQ(MessageOf(message), text);
-    Answer(message, IDOK);
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), failingBox);
-    const int length = static_cast<int>(huevox.text(failingBox).size());
-    EXPECT_BECOMES(huevox.selection(failingBox), (std::pair<int, int>{0, length}));
-    EXPECT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), false);
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetDec), true);
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetHex), true);
-}
-
 /// Types a value into the red box, applies it, and expects that it is refused and nothing has changed.
 void ExpectRefused(const char* typed, const char* refusal) {
     const Huevox huevox;
@@ -55,64 +37,6 @@ void ExpectRefused(const char* typed, const char* refusal) {
 }
 
 }  // namespace
-
-TEST_F(Sliders, ArrowKeysMoveByOneAndEverythingFollows) {
-    const Huevox huevox;
-    huevox.focusSlider(IDC_hsbGreen);
-    Press(VK_RIGHT);
-    Press(VK_RIGHT);
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 2, 0));
-    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 2, 0));
-    EXPECT_BECOMES(huevox.text(IDC_txtSetGreen), "2");
-    EXPECT_BECOMES(huevox.barStep(0), ColorOf(255, 2, 0));
-    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "#FF0200");
-    EXPECT_BECOMES(ClipboardText(), "#FF0200");
-}
-
-TEST_F(Sliders, PageKeysMoveByOneTooAndHomeAndEndGoToTheLimits) {
-    const Huevox huevox;
-    huevox.focusSlider(IDC_hsbBlue);
-    Press(VK_NEXT);
-    EXPECT_BECOMES(huevox.sliders().blue, 1);
-    Press(VK_PRIOR);
-    EXPECT_BECOMES(huevox.sliders().blue, 0);
-    Press(VK_END);
-    EXPECT_BECOMES(huevox.sliders().blue, 255);
-    Press(VK_RIGHT);
-    Press(VK_HOME);
-    EXPECT_BECOMES(huevox.sliders().blue, 0);
-    Press(VK_LEFT);
-    Press(VK_RIGHT);
-    EXPECT_BECOMES(huevox.sliders().blue, 1);
-}
-
-TEST_F(Sliders, DraggingUpdatesSampleBoxesBarAndPreviewOnTheWay) {
-    const Huevox huevox;
-    PressButton(huevox.thumb(IDC_hsbGreen, 0));
-    int last = 0;
-    for (const int target : {60, 120, 180, 240}) {
-        MoveMouse(huevox.thumb(IDC_hsbGreen, target));
-        ASSERT_TRUE(Eventually([&] { return huevox.sliders().green > last; }));
-        const int green = huevox.sliders().green;
-        EXPECT_NEAR(green, target, 6);
-        EXPECT_BECOMES(huevox.sample(0), ColorOf(255, green, 0));
-        EXPECT_BECOMES(huevox.text(IDC_txtSetGreen), std::to_string(green));
-        EXPECT_BECOMES(huevox.barStep(0), ColorOf(255, green, 0));
-        last = green;
-    }
-    ReleaseButton(huevox.thumb(IDC_hsbGreen, 240));
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, last, 0));
-}
-
-TEST_F(Sliders, AHeldArrowKeyIsNeverBehind) {
-    const Huevox huevox;
-    huevox.focusSlider(IDC_hsbGreen);
-    for (int step = 0; step < 200; ++step) KeyDown(VK_RIGHT);
-    KeyUp(VK_RIGHT);
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 200, 0));
-    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 200, 0));
-    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "#FFC800");
-}
 
 TEST_F(DecimalValues, AreAppliedByEnterWhichSelectsTheBox) {
     const Huevox huevox;
@@ -243,75 +167,4 @@ TEST_F(HexValues, ModeIsLeftByDecRewritingTheBoxes) {
     Click(huevox.control(IDC_optSetDec));
     EXPECT_BECOMES(huevox.text(IDC_txtSetRed), "255");
     EXPECT_BECOMES(huevox.text(IDC_txtSetGreen), "0");
-}
-
-TEST_F(WaitingValues, EnableSetAndLockTheMode) {
-    const Huevox huevox;
-    huevox.retype(IDC_txtSetRed, "12");
-    EXPECT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), true);
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetDec), false);
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetHex), false);
-    Click(huevox.control(IDC_optSetHex));
-    Press(VK_RETURN);
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(12, 0, 0));
-    EXPECT_TRUE(huevox.isChecked(IDC_optSetDec));
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetHex), true);
-}
-
-TEST_F(WaitingValues, AreDiscardedBySwitchingTheModeAfterARefusal) {
-    const Huevox huevox;
-    huevox.retype(IDC_txtSetRed, "999");
-    Press(VK_RETURN);
-    ExpectRefusal(huevox, decimalRefusal, IDC_txtSetRed);
-    Click(huevox.control(IDC_optSetHex));
-    EXPECT_BECOMES(huevox.text(IDC_txtSetRed), "FF");
-}
-
-TEST_F(WaitingValues, KeepTheModeLockedWhateverElseChangesTheColor) {
-    const Huevox huevox;
-    huevox.retype(IDC_txtSetRed, "12");
-    huevox.focusSlider(IDC_hsbGreen);
-    Press(VK_RIGHT);
-    ASSERT_BECOMES(huevox.text(IDC_txtSetRed), "255");
-    EXPECT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), false);
-    EXPECT_FALSE(huevox.isEnabled(IDC_optSetDec));
-    EXPECT_FALSE(huevox.isEnabled(IDC_optSetHex));
-    huevox.focusByClick(IDC_txtSetRed);
-    Press(VK_RETURN);
-    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetDec), true);
-}
-
-TEST_F(WaitingValues, TakeAtMostThreeTypedCharacters) {
-    const Huevox huevox;
-    huevox.focusByClick(IDC_txtSetRed);
-    Press(VK_END);
-    Press(VK_HOME, {VK_SHIFT});
-    Type("1234");
-    EXPECT_BECOMES(huevox.text(IDC_txtSetRed), "123");
-}
-
-TEST_F(WaitingValues, SurviveAVisitToAnotherProgram) {
-    const Huevox huevox;
-    huevox.retype(IDC_txtSetRed, "12");
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
-    EXPECT_BECOMES(ClipboardText(), "#FF0000");
-    EXPECT_EQ(huevox.text(IDC_txtSetRed), "12");
-    EXPECT_TRUE(huevox.isEnabled(IDC_cmdSetColor));
-    Press(VK_RETURN);
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(12, 0, 0));
-}
-
-TEST_F(WaitingValues, TheTabKeySelectsABoxAndTheMouseDoesNot) {
-    const Huevox huevox;
-    huevox.focusByClick(IDC_txtSetRed);
-    EXPECT_EQ(huevox.selection(IDC_txtSetRed).first, huevox.selection(IDC_txtSetRed).second);
-    huevox.focusSlider(IDC_hsbBlue);
-    Press(VK_TAB);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
-    EXPECT_BECOMES(huevox.selection(IDC_txtSetRed), (std::pair<int, int>{0, 3}));
 }
