@@ -23,7 +23,7 @@ if(WIN32)
     endforeach()
     get_target_property(definitions huevox_flags INTERFACE_COMPILE_DEFINITIONS)
     list(TRANSFORM definitions PREPEND -D)
-    list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe")
+    list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe" -DHUEVOX_STAND_IN="StandIn.exe")
 endif()
 
 # tidy_sources(TARGET...): a target "tidy" that checks the targets' sources, and a test that builds it. The sources of

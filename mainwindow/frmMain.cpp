@@ -14,10 +14,12 @@ frmMain::frmMain(AppState& state)
       channels(*this, edit, *this),
       marks(*this, state.marks, edit, channels, *this),
       colorBar(*this),
-      autocopy(*this, state, edit, commands, channels, marks, *this) {
+      autocopy(*this, state, edit, commands, channels, marks, *this),
+      palettes(*this, state, edit, commands, channels, marks, *this) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);
+    QueryUnload.bind(this, &frmMain::Form_QueryUnload);
     Unload.bind(this, &frmMain::Form_Unload);
     commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
 }
@@ -27,17 +29,14 @@ void frmMain::Form_Load() {
     ArmErrorTrap();
     LoadSettings(state, registry, *this);
     autocopy.FillNotations();
-    LoadDefaultMarks(state.marks);
     {
         const RedrawFrozen frozen(handle());
         commands.Prepare();
         channels.Prepare();
         marks.Prepare();
-        ShowNewPalette();
-        setText(messages::newPaletteCaption);
+        palettes.ShowNewPalette();
         autocopy.DisablePaste();
     }
-    marks.EnableSelectedSample();
     edit.userColorChange = true;
     edit.sliderSync = true;
     edit.clipTicks.reset();
@@ -51,19 +50,13 @@ void frmMain::CheckColorDepth() {
     MsgBox(this, messages::lowColorDepth, MB_OK | MB_ICONINFORMATION, messages::title);
 }
 
-void frmMain::ShowNewPalette() {
-    marks.ApplyPalette({state.marks.defaultMarkName, state.marks.defaultMarkColor});
-    const Color first = state.marks.markColor[0];
-    channels.SetSliders(first);
-    marks.Select(0);
-    SetSelectedColor(first.red, first.green, first.blue);
-    marks.RefreshProperties();
-    marks.WhitenNames();
-}
-
 void frmMain::Form_Activate() { autocopy.RestoreNotation(); }
 
 void frmMain::Form_Deactivate() { autocopy.KeepNotation(); }
+
+void frmMain::Form_QueryUnload(bool& isCancelled) {
+    if (!IsErrorExitInProgress()) isCancelled = !palettes.MayClose();
+}
 
 void frmMain::Form_Unload() { unloadAll(this); }
 

@@ -8,6 +8,7 @@
 #include "mainwindow/ColorTarget.h"
 #include "mainwindow/CommandBar.h"
 #include "mainwindow/EditState.h"
+#include "palette/PaletteCommands.h"
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
@@ -21,11 +22,11 @@ private:
     void Form_Load();
     void Form_Activate();
     void Form_Deactivate();
+    void Form_QueryUnload(bool& isCancelled);
     void Form_Unload();
     void mnuFileExit_Click();
 
     void CheckColorDepth();
-    void ShowNewPalette();
     void SetSelectedColor(int red, int green, int blue) override;
 
     AppState& state;
@@ -36,5 +37,6 @@ private:
     ColorMarks marks;
     ColorBar colorBar;
     Autocopy autocopy;
+    PaletteCommands palettes;
     unsigned turns = 0;
 };

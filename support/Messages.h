@@ -1,9 +1,14 @@
 // What does the program say? Every sentence once.
 #pragma once
 
+#include <string_view>
+
 namespace messages {
 
 inline constexpr const char* title = "Huevox";
+inline constexpr std::string_view titlePrefix =
+    "Huevox - ";  ///< of the main window; the palette's name follows
+inline constexpr std::string_view newPaletteName = "New palette";
 inline constexpr const char* newPaletteCaption = "Huevox - New palette";
 
 inline constexpr const char* alreadyRunning = "Huevox is already running on your system.";
@@ -12,6 +17,11 @@ inline constexpr const char* lowColorDepth =
     "Huevox will look better if you select a higher value in the Control Panel in Windows.";
 inline constexpr const char* unexpectedError = "Huevox encountered an unexpected error and must close.";
 inline constexpr const char* paletteChanged = "The palette has been changed. Do you want to save it?";
+inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
+inline constexpr const char* noNotepad = "Could not open file in Notepad.";
+inline constexpr const char* notMadeHereBeforePath = "You tried to open the file\r\n\r\n";
+inline constexpr const char* notMadeHereAfterPath =
+    "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox";
 inline constexpr const char* unusableSettings =
     "Unusable settings found in Registry. Default settings restored.";
 

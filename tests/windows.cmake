@@ -21,6 +21,8 @@ add_executable(ui_tests
     ui/ActivationTest.cpp
     ui/AutocopyTest.cpp
     ui/BurstTest.cpp
+    ui/ChangedFileTest.cpp
+    ui/ChangedNewPaletteTest.cpp
     ui/ClosingTest.cpp
     ui/CommandsTest.cpp
     ui/Huevox.cpp
@@ -28,6 +30,11 @@ add_executable(ui_tests
     ui/JavaScriptNamesTest.cpp
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp
+    ui/NotepadTest.cpp
+    ui/PaletteFaultTest.cpp
+    ui/PaletteOpenTest.cpp
+    ui/PaletteSaveTest.cpp
+    ui/Palettes.cpp
     ui/SettingsTest.cpp
     ui/SlidersTest.cpp
     ui/StartTest.cpp
@@ -36,18 +43,27 @@ add_executable(ui_tests
     ui/WaitingValuesTest.cpp)
 target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
 add_dependencies(ui_tests Huevox)
-target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe")
+target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
+    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/")
+
+add_executable(StandIn WIN32 ui/StandIn.cpp)
+target_link_libraries(StandIn PRIVATE huevox_flags)
+add_dependencies(ui_tests StandIn)
 
 set(in_turn RUN_SERIAL ON TIMEOUT 120)
 gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${in_turn})
-gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*"
+gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*"
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${in_turn})
 add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
-set_tests_properties(ui.on_a_display_of_16_bits PROPERTIES ${in_turn})
+add_test(NAME ui.on_a_full_disk
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk PROPERTIES ${in_turn})
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests huevox_bench)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn huevox_bench)

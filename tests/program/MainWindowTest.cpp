@@ -27,7 +27,10 @@ protected:
         PumpUntil([&] { return ::GetForegroundWindow() == window.handle(); });
         PumpAll();
     }
-    void TearDown() override { window.unload(); }
+    void TearDown() override {
+        state.settings.promptToSave = 0;
+        window.unload();
+    }
 
     HWND control(int id) const { return ::GetDlgItem(window.handle(), id); }
     HMENU menu() const { return ::GetMenu(window.handle()); }

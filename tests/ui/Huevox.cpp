@@ -54,7 +54,8 @@ BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
 
 Huevox::Huevox(WORD showCommand) {
     start(showCommand);
-    waitForWindow();
+    if (!waitForWindow())
+        ADD_FAILURE() << (isRunning() ? "the program shows no window" : "the program has ended");
 }
 
 Huevox::Huevox(DoNotWait, WORD showCommand) { start(showCommand); }
@@ -72,9 +73,9 @@ void Huevox::start(WORD showCommand) {
 Huevox::~Huevox() {
     if (isRunning()) {
         ::PostMessageA(main, WM_CLOSE, 0, 0);
-        if (::WaitForSingleObject(process.hProcess, 500) != WAIT_OBJECT_0)
-            ::TerminateProcess(process.hProcess, 9);
-        ::WaitForSingleObject(process.hProcess, limit);
+        Eventually([&] { return !isRunning() || dialog() != nullptr; }, 500);
+        // It may ask whether to save what the test has changed.
+        kill();
     }
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
@@ -82,7 +83,7 @@ Huevox::~Huevox() {
 
 bool Huevox::waitForWindow() {
     const bool isThere =
-        Eventually([&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr; });
+        Eventually([&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr; }, limit);
     ::WaitForInputIdle(process.hProcess, limit);
     return isThere;
 }
@@ -101,6 +102,11 @@ HWND Huevox::focus() const {
 }
 
 bool Huevox::isRunning() const { return ::WaitForSingleObject(process.hProcess, 0) == WAIT_TIMEOUT; }
+
+void Huevox::kill() const {
+    ::TerminateProcess(process.hProcess, 9);
+    ::WaitForSingleObject(process.hProcess, limit);
+}
 
 int Huevox::waitForEnd() const {
     if (::WaitForSingleObject(process.hProcess, limit) != WAIT_OBJECT_0) return -1;

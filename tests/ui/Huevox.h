@@ -28,6 +28,8 @@ public:
     HWND focus() const;
 
     bool isRunning() const;
+    /// Ends the program without a chance to do anything more.
+    void kill() const;
     /// The exit code, when the program ends in time; -1 when it does not.
     int waitForEnd() const;
 

@@ -15,7 +15,7 @@ const std::pair<int, int> nothingAtEnd = {18, 18};
 const std::pair<int, int> wholePlaceholder = {0, 18};
 
 /// One step to the left: a change of colour by the user.
-void ChangeColor(const Huevox& huevox, int slider = IDC_hsbRed) {
+void MoveSlider(const Huevox& huevox, int slider = IDC_hsbRed) {
     huevox.focusSlider(slider);
     const LRESULT before = huevox.send(slider, SBM_GETPOS);
     Press(VK_LEFT);
@@ -62,9 +62,9 @@ TEST_F(SelectingMarks, ByArrowKeysGoesRoundTheGroup) {
 
 TEST_F(SelectingMarks, KeepsEachMarksColor) {
     const Huevox huevox;
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     huevox.selectMark(1);
-    ChangeColor(huevox, IDC_hsbGreen);
+    MoveSlider(huevox, IDC_hsbGreen);
     huevox.selectMark(0);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(254, 0, 0));
     EXPECT_BECOMES(huevox.sample(0), ColorOf(254, 0, 0));
@@ -144,9 +144,9 @@ TEST_F(NameBoxes, TypingInTheMiddleLeavesTheCaretThere) {
 TEST_F(NameHighlight, ShowsThatTheColorHasChangedSinceTheNameWasGiven) {
     const Huevox huevox;
     huevox.retype(Name(0), "navy");
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
     EXPECT_EQ(huevox.text(Name(0)), "navy");
 }
@@ -154,7 +154,7 @@ TEST_F(NameHighlight, ShowsThatTheColorHasChangedSinceTheNameWasGiven) {
 TEST_F(NameHighlight, IsRemovedByTypingInTheBox) {
     const Huevox huevox;
     huevox.retype(Name(0), "navy");
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     ASSERT_BECOMES(huevox.backColor(Name(0)), highlight);
     huevox.focusByClick(Name(0));
     Press(VK_END);
@@ -165,7 +165,7 @@ TEST_F(NameHighlight, IsRemovedByTypingInTheBox) {
 
 TEST_F(NameHighlight, NeverTouchesAMarkWithoutAName) {
     const Huevox huevox;
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "#FE0000");
     EXPECT_BECOMES(huevox.backColor(Name(0)), white);
 }
@@ -174,7 +174,7 @@ TEST_F(NameHighlight, TouchesTheSelectedMarkOnly) {
     const Huevox huevox;
     huevox.retype(Name(0), "navy");
     huevox.retype(Name(1), "rose");
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     ASSERT_BECOMES(huevox.backColor(Name(0)), highlight);
     EXPECT_EQ(huevox.backColor(Name(1)), white);
 }
@@ -192,6 +192,6 @@ TEST_F(NameHighlight, ChoosingANotationDoesNot) {
     huevox.chooseNotation(6);
     EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
     EXPECT_BECOMES(huevox.backColor(Name(0)), white);
-    ChangeColor(huevox);
+    MoveSlider(huevox);
     EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
 }

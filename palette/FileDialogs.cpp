@@ -1,0 +1,93 @@
+#include "palette/FileDialogs.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <array>
+
+#include "settings/Folders.h"
+#include "support/PathText.h"
+#include "toolkit/CodePage.h"
+
+struct FileDialogs::Kind {
+    BOOL(WINAPI* show)(OPENFILENAMEA*);
+    const char* title;
+    DWORD flags;
+    bool isForExistingFiles;
+};
+
+namespace {
+
+/// Blanks and two NULs, with a NUL in front: the dialog would offer the blanks as a name.
+template <std::size_t size>
+std::array<char, size> EmptyBuffer() {
+    std::array<char, size> buffer{};
+    std::fill(buffer.begin() + 1, buffer.end() - 2, ' ');
+    return buffer;
+}
+
+std::string CurrentFolder() {
+    std::string folder(::GetCurrentDirectoryA(0, nullptr), '\0');
+    folder.resize(::GetCurrentDirectoryA(static_cast<DWORD>(folder.size()), folder.data()));
+    return folder;
+}
+
+bool IsFile(const std::string& path) {
+    const DWORD attributes = ::GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+}  // namespace
+
+FileDialogs::FileDialogs(const Form& owner, AppState& state) : owner(owner), state(state) {}
+
+std::string FileDialogs::ShowSaveDialog() {
+    return Show({::GetSaveFileNameA, "Save Palette As", OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, false});
+}
+
+std::string FileDialogs::ShowOpenDialog() {
+    return Show({::GetOpenFileNameA, "Open Palette In Huevox", OFN_HIDEREADONLY, true});
+}
+
+std::string FileDialogs::ShowNotepadDialog() {
+    return Show({::GetOpenFileNameA, "Open Palette In Notepad", OFN_HIDEREADONLY, true});
+}
+
+std::string FileDialogs::Show(const Kind& kind) {
+    ReplaceUnusableFolder();
+    std::array file = EmptyBuffer<1026>();
+    std::array fileTitle = EmptyBuffer<514>();
+    OPENFILENAMEA record{};
+    record.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
+    record.hwndOwner = owner.handle();
+    record.hInstance = ::GetModuleHandleA(nullptr);
+    record.lpstrFilter = "Text Files (*.txt)\0*.txt\0";
+    record.nFilterIndex = 1;
+    record.lpstrFile = file.data();
+    record.nMaxFile = file.size();
+    record.lpstrFileTitle = fileTitle.data();
+    record.nMaxFileTitle = fileTitle.size();
+    record.lpstrInitialDir = state.settings.standardFolder.c_str();
+    record.lpstrTitle = kind.title;
+    record.Flags = kind.flags;
+    record.lpstrDefExt = "txt\0";
+
+    // Whether the dialog itself moves the current folder, and when, differs from platform to platform.
+    const std::string folderBefore = CurrentFolder();
+    if (!kind.show(&record)) {
+        ::SetCurrentDirectoryA(folderBefore.c_str());
+        return "";
+    }
+    const std::string path = file.data();
+    ::SetCurrentDirectoryA(std::string(FolderPart(path, IsLeadByte)).c_str());
+    const bool isWhole = HasExtension(path, IsLeadByte) || (kind.isForExistingFiles && IsFile(path));
+    return isWhole ? path : path + ".txt";
+}
+
+/// No folder is called "True" or "False": the platform then chooses one.
+void FileDialogs::ReplaceUnusableFolder() {
+    if (IsValidFolder(state.settings.standardFolder)) return;
+    const bool isDesktopKnown = GetDesktopFolder(state.desktopFolder);
+    state.desktopFolder = isDesktopKnown ? "True" : "False";
+    state.settings.standardFolder = state.desktopFolder;
+}

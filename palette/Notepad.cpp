@@ -1,0 +1,31 @@
+#include "palette/Notepad.h"
+
+#include <array>
+#include <stdexcept>
+
+#include "support/PathText.h"
+#include "toolkit/CodePage.h"
+#include "toolkit/Handles.h"
+
+std::string GetWindowsFolder() {
+    std::array<char, 260> buffer{};
+    ::GetWindowsDirectoryA(buffer.data(), buffer.size());
+    const std::string folder = buffer.data();
+    return FolderPart(folder, IsLeadByte) == folder ? folder : folder + '\\';
+}
+
+void StartNotepad(const std::string& path) {
+    using OwnedProcess = Owned<HANDLE, &::CloseHandle>;
+    // Notepad takes all that follows its name for the path, so the path is not quoted.
+    std::string command = GetWindowsFolder() + "Notepad.exe " + path;
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION started{};
+    const BOOL hasStarted = ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                             nullptr, &startup, &started);
+    if (!hasStarted) throw std::runtime_error("Notepad does not start");
+    const OwnedProcess process(started.hProcess);
+    const OwnedProcess thread(started.hThread);
+}

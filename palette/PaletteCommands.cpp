@@ -1,0 +1,144 @@
+#include "palette/PaletteCommands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "palette/Notepad.h"
+#include "palette/PaletteFile.h"
+#include "resources/resource.h"
+#include "support/Messages.h"
+#include "support/PathText.h"
+#include "support/Trap.h"
+#include "toolkit/CodePage.h"
+#include "toolkit/MsgBox.h"
+#include "toolkit/Pump.h"
+
+PaletteCommands::PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
+                                 ChannelEditors& channels, ColorMarks& marks, ColorTarget& target)
+    : form(form),
+      state(state),
+      edit(edit),
+      channels(channels),
+      marks(marks),
+      target(target),
+      dialogs(form, state) {
+    commands.bind(IDM_mnuFileNew, this, &PaletteCommands::mnuFileNew_Click);
+    commands.bind(IDM_mnuFileOpen, this, &PaletteCommands::mnuFileOpen_Click);
+    commands.bind(IDM_mnuFileOpenInNotepad, this, &PaletteCommands::mnuFileOpenInNotepad_Click);
+    commands.bind(IDM_mnuFileSave, this, &PaletteCommands::mnuFileSave_Click);
+    commands.bind(IDM_mnuFileSaveAs, this, &PaletteCommands::mnuFileSaveAs_Click);
+}
+
+void PaletteCommands::ShowNewPalette() {
+    LoadDefaultMarks(state.marks);
+    ShowPalette({state.marks.defaultMarkName, state.marks.defaultMarkColor});
+    form.setText(messages::newPaletteCaption);
+}
+
+bool PaletteCommands::MayClose() {
+    const bool isAsked = state.settings.promptToSave == 1 && IsChanged();
+    return !isAsked || OfferToSave();
+}
+
+void PaletteCommands::mnuFileNew_Click() {
+    saveCancelled = false;
+    if (IsChanged() && (!OfferToSave() || saveCancelled)) return;
+    ShowNewPalette();
+}
+
+void PaletteCommands::mnuFileOpen_Click() {
+    saveCancelled = false;
+    if (IsChanged() && !OfferToSave()) return;
+    const std::string path = dialogs.ShowOpenDialog();
+    if (!path.empty()) Open(path);
+}
+
+void PaletteCommands::mnuFileOpenInNotepad_Click() {
+    const std::string path = dialogs.ShowNotepadDialog();
+    if (path.empty()) return;
+    Yield();
+    Reported(form, messages::noNotepad, [&] { StartNotepad(path); });
+}
+
+void PaletteCommands::mnuFileSave_Click() {
+    const std::string title = form.text();
+    const std::string name = title.substr(std::min(messages::titlePrefix.size(), title.size()));
+    if (name == messages::newPaletteName) return mnuFileSaveAs_Click();
+    // Without a folder: where the last file dialog was.
+    Save(name);
+}
+
+void PaletteCommands::mnuFileSaveAs_Click() {
+    const std::string path = dialogs.ShowSaveDialog();
+    Yield();
+    if (path.empty()) {
+        saveCancelled = true;
+    } else if (Save(path)) {
+        NamePalette(path);
+    }
+}
+
+bool PaletteCommands::IsChanged() const { return IsPaletteChanged(state.marks, marks.Names()); }
+
+bool PaletteCommands::OfferToSave() {
+    AskToSavePalette();
+    if (promptAnswer == IDYES) mnuFileSave_Click();
+    return promptAnswer == IDYES || promptAnswer == IDNO;
+}
+
+void PaletteCommands::AskToSavePalette() {
+    promptAnswer = MsgBox(&form, messages::paletteChanged, MB_YESNOCANCEL | MB_ICONQUESTION, messages::title);
+}
+
+void PaletteCommands::Open(const std::string& path) {
+    constexpr std::size_t lineLimit = 1000;
+    OwnedFile file = OpenForReading(path);
+    const std::string text = ReadText(file);
+    const std::vector lines = SplitLines(text, lineLimit + 1);
+    // A user who has just opened a palette knows what a palette is: the limit is lifted.
+    if (lines.size() > lineLimit && !lastOpenAccepted) {
+        filesLeftOpen.push_back(std::move(file));
+        return Refuse(path);
+    }
+    file = {};
+    const std::optional palette = ParsePaletteLines(lines, IsLeadByte);
+    lastOpenAccepted = palette.has_value();
+    if (!palette) return Refuse(path);
+    ShowPalette(*palette);
+    NamePalette(path);
+}
+
+void PaletteCommands::Refuse(const std::string& path) {
+    const std::string refusal = messages::notMadeHereBeforePath + path + messages::notMadeHereAfterPath;
+    MsgBox(&form, refusal.c_str(), MB_OK | MB_ICONEXCLAMATION, messages::title);
+}
+
+void PaletteCommands::ShowPalette(const Palette& palette) {
+    const Cleared notAnEdit(edit.userColorChange);
+    const Cleared notApplying(edit.sliderSync);
+    marks.ApplyPalette(palette);
+    marks.Select(0);
+    const Color first = state.marks.markColor[0];
+    channels.SetSliders(first);
+    target.SetSelectedColor(first.red, first.green, first.blue);
+    marks.RefreshProperties();
+    marks.WhitenNames();
+    marks.EnableSelectedSample();
+}
+
+bool PaletteCommands::Save(const std::string& path) {
+    // A file that is open, be it here, cannot be replaced.
+    filesLeftOpen.clear();
+    const bool isSaved = Reported(form, messages::couldNotSave, [&] {
+        const Palette saved = AsSaved(marks.Shown());
+        ReplaceText(path, WritePaletteFile(saved, state.settings.customFormat));
+        state.marks.savedMarkName = saved.names;
+        state.marks.savedMarkColor = saved.colors;
+    });
+    if (isSaved) marks.WhitenNames();
+    return isSaved;
+}
+
+void PaletteCommands::NamePalette(std::string_view path) {
+    form.setText(std::string(messages::titlePrefix) + std::string(GetFileNamePart(path, "\\", IsLeadByte)));
+}

@@ -1,0 +1,59 @@
+// How does the user begin, open and save palettes, and when is saving offered?
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/ColorMarks.h"
+#include "mainwindow/ColorTarget.h"
+#include "mainwindow/CommandBar.h"
+#include "mainwindow/EditState.h"
+#include "palette/FileDialogs.h"
+#include "palette/TextFile.h"
+#include "support/AppState.h"
+#include "toolkit/Form.h"
+
+/// The commands of the File menu. The window's title tells which palette it is, and where Save puts it.
+class PaletteCommands {
+public:
+    PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
+                    ChannelEditors& channels, ColorMarks& marks, ColorTarget& target);
+
+    /// The default names and colours, unchanged and without a file.
+    void ShowNewPalette();
+    /// Before the window closes: offers to save a changed palette, if the user wants that. False when the
+    /// user would rather keep the window.
+    bool MayClose();
+
+private:
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    void mnuFileOpenInNotepad_Click();
+    void mnuFileSave_Click();
+    void mnuFileSaveAs_Click();
+
+    bool IsChanged() const;
+    /// False when the user would rather keep what there is.
+    bool OfferToSave();
+    void AskToSavePalette();
+    void Open(const std::string& path);
+    void Refuse(const std::string& path);
+    void ShowPalette(const Palette& palette);
+    bool Save(const std::string& path);
+    void NamePalette(std::string_view path);
+
+    Form& form;
+    AppState& state;
+    EditState& edit;
+    ChannelEditors& channels;
+    ColorMarks& marks;
+    ColorTarget& target;
+    FileDialogs dialogs;
+
+    bool saveCancelled = false;
+    bool lastOpenAccepted = false;
+    int promptAnswer = 0;
+    std::vector<OwnedFile> filesLeftOpen;
+};

@@ -1,0 +1,11 @@
+// Stands in for another program: puts the command line it was started with into a file beside the palettes.
+#include <fstream>
+
+#include "toolkit/Platform.h"
+
+int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/,
+                   int /*nShowCmd*/) {
+    std::ofstream file("C:\\Huevox Palettes\\command.txt", std::ios::binary);
+    file << ::GetCommandLineA();
+    return 0;
+}
