@@ -3,3 +3,4 @@
 
 void BenchStart();
 void BenchChange();
+void BenchOpen();

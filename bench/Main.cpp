@@ -4,7 +4,8 @@
 #include "bench/Benches.h"
 
 int main(int count, char** arguments) {
-    const std::string_view which = count > 1 ? arguments[1] : "";
-    if (which != "change") BenchStart();
-    if (which != "start") BenchChange();
+    const std::string_view which = count > 1 ? arguments[1] : "all";
+    if (which == "start" || which == "all") BenchStart();
+    if (which == "change" || which == "all") BenchChange();
+    if (which == "open" || which == "all") BenchOpen();
 }
