@@ -37,6 +37,18 @@ TEST_F(ChangedFile, NewYesSavesAndBeginsANewOne) {
     EXPECT_TRUE(IsSaved());
 }
 
+TEST_F(ChangedFile, ASaveAsThatWasCancelledBeforeDoesNotStopNew) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    Press('F', {VK_MENU});
+    Press('A');
+    CancelFileDialog(huevox, saveTitle);
+    PressNew();
+    AnswerQuestion(huevox, IDYES);
+    ExpectNewPalette(huevox);
+    EXPECT_TRUE(IsSaved());
+}
+
 TEST_F(ChangedFile, NewNoBeginsANewOne) {
     const Huevox huevox;
     OpenAndChange(huevox);
