@@ -80,8 +80,7 @@ std::string FileDialogs::Show(const Kind& kind) {
     }
     const std::string path = file.data();
     ::SetCurrentDirectoryA(std::string(FolderPart(path, IsLeadByte)).c_str());
-    const bool isWhole = HasExtension(path, IsLeadByte) || (kind.isForExistingFiles && IsFile(path));
-    return isWhole ? path : path + ".txt";
+    return kind.isForExistingFiles && IsFile(path) ? path : WithExtension(path, IsLeadByte);
 }
 
 /// No folder is called "True" or "False": the platform then chooses one.

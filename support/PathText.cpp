@@ -18,7 +18,8 @@ std::string_view FolderPart(std::string_view path, LeadByteTest isLeadByte) {
     return path.substr(0, path.size() - GetFileNamePart(path, "\\", isLeadByte).size());
 }
 
-bool HasExtension(std::string_view path, LeadByteTest isLeadByte) {
+std::string WithExtension(std::string_view path, LeadByteTest isLeadByte) {
     const std::string_view name = GetFileNamePart(path, "\\", isLeadByte);
-    return LastPlaceOf(".", name, isLeadByte) != std::string_view::npos;
+    const bool hasExtension = LastPlaceOf(".", name, isLeadByte) != std::string_view::npos;
+    return std::string(path) + (hasExtension ? "" : ".txt");
 }

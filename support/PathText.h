@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "support/Characters.h"
@@ -15,5 +16,5 @@ std::string_view GetFileNamePart(std::string_view text, std::string_view delimit
 /// The text up to and with its last backslash; "" when there is none.
 std::string_view FolderPart(std::string_view path, LeadByteTest isLeadByte);
 
-/// Whether there is a dot after the last backslash.
-bool HasExtension(std::string_view path, LeadByteTest isLeadByte);
+/// The path, with ".txt" behind it unless there is a dot after its last backslash.
+std::string WithExtension(std::string_view path, LeadByteTest isLeadByte);

@@ -50,10 +50,11 @@ add_executable(StandIn WIN32 ui/StandIn.cpp)
 target_link_libraries(StandIn PRIVATE huevox_flags)
 add_dependencies(ui_tests StandIn)
 
-set(in_turn RUN_SERIAL ON TIMEOUT 120)
-gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${in_turn})
+# One test at a time on each desktop: keys and clicks go to whatever window is in front.
+set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 120)
+gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${alone})
 gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*"
-    WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${in_turn})
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone})
 add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
@@ -62,7 +63,7 @@ add_test(NAME ui.on_a_full_disk
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
-set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk PROPERTIES ${in_turn})
+set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk PROPERTIES TIMEOUT 120)
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 

@@ -34,12 +34,17 @@ TEST(FolderPart, EndsWithTheLastBackslash) {
     EXPECT_EQ(FolderPart("D:\\a\x83\\b", IsLeadByte83), "D:\\");
 }
 
-TEST(HasExtension, LooksForADotAfterTheLastBackslash) {
-    EXPECT_TRUE(HasExtension("D:\\pal\\Reds.txt", NoLeadByte));
-    EXPECT_TRUE(HasExtension("D:\\pal\\Reds.", NoLeadByte));
-    EXPECT_FALSE(HasExtension("D:\\pal.old\\Reds", NoLeadByte));
-    EXPECT_FALSE(HasExtension("Reds", NoLeadByte));
-    EXPECT_FALSE(HasExtension("", NoLeadByte));
+TEST(WithExtension, AddsOneWhereThereIsNoDotAfterTheLastBackslash) {
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds", NoLeadByte), "D:\\pal\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\pal.old\\Reds", NoLeadByte), "D:\\pal.old\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\a.b\x83\\c", IsLeadByte83), "D:\\a.b\x83\\c");
+    EXPECT_EQ(WithExtension("D:\\a.b\x83\\c", NoLeadByte), "D:\\a.b\x83\\c.txt");
+}
+
+TEST(WithExtension, KeepsAnyOther) {
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds.txt", NoLeadByte), "D:\\pal\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds.", NoLeadByte), "D:\\pal\\Reds.");
+    EXPECT_EQ(WithExtension("Reds.pal", NoLeadByte), "Reds.pal");
 }
 
 TEST(FirstCharacters, NeverEndsInTheMiddleOfACharacter) {
