@@ -63,7 +63,7 @@ TEST_F(ChangedFile, NewCancelKeepsIt) {
     OpenAndChange(huevox);
     PressNew();
     AnswerQuestion(huevox, IDCANCEL);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(1, 3, 3));
     EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
     EXPECT_TRUE(IsUntouched());
 }
@@ -84,7 +84,7 @@ TEST_F(ChangedFile, OpenNoOpensAndACancelledDialogKeepsIt) {
     PressOpen();
     AnswerQuestion(huevox, IDNO);
     CancelFileDialog(huevox, openTitle);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(1, 3, 3));
     EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
     PressOpen();
     AnswerQuestion(huevox, IDNO);
@@ -98,7 +98,7 @@ TEST_F(ChangedFile, OpenCancelShowsNoDialog) {
     OpenAndChange(huevox);
     PressOpen();
     AnswerQuestion(huevox, IDCANCEL);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(1, 3, 3));
 }
 
 TEST_F(ChangedFile, CloseYesSavesAndCloses) {
@@ -126,7 +126,7 @@ TEST_F(ChangedFile, CloseCancelKeepsTheWindowAndAsksAgainNextTime) {
     for (int attempt = 0; attempt < 2; ++attempt) {
         PressClose(huevox);
         AnswerQuestion(huevox, IDCANCEL);
-        ExpectStillChanged(huevox);
+        ExpectStill(huevox, ColorOf(1, 3 + attempt, 3));
     }
     PressClose(huevox);
     AnswerQuestion(huevox, IDNO);
@@ -155,7 +155,7 @@ TEST_F(ChangedFile, TheEndOfTheSessionAsksAndCancelVetoesIt) {
     AnswerQuestion(huevox, IDCANCEL);
     EXPECT_FALSE(mayEnd.get());
     ::SendMessageA(huevox.window(), WM_ENDSESSION, FALSE, 0);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(1, 3, 3));
 }
 
 TEST_F(ChangedFile, TheEndOfTheSessionSavesWhenAskedToAndClosesOnlyThen) {
@@ -183,7 +183,7 @@ TEST_F(ChangedFile, OneQuestionAnAttempt) {
     EXPECT_FALSE(::SendMessageA(huevox.window(), WM_QUERYENDSESSION, 0, 0));
     EXPECT_EQ(huevox.dialogCount(), 1);
     AnswerQuestion(huevox, IDCANCEL);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(1, 3, 3));
 }
 
 TEST_F(ChangedFile, WhenSavingFailsOpenAndClosingGoOn) {

@@ -14,7 +14,7 @@ TEST_F(ChangedNewPalette, CancellingSaveAsDuringNewLeavesItInPlace) {
     PressNew();
     AnswerQuestion(huevox, IDYES);
     CancelFileDialog(huevox, saveTitle);
-    ExpectStillChanged(huevox);
+    ExpectStill(huevox, ColorOf(255, 1, 0));
     EXPECT_EQ(huevox.title(), "Huevox - New palette");
 }
 

@@ -4,6 +4,9 @@
 
 #include "tests/ui/Palettes.h"
 
+// Needs the platform's main header before it.
+#include <sddl.h>
+
 namespace {
 
 class RefusedSaving : public PaletteTest {
@@ -65,25 +68,25 @@ void RunBelow(const std::string& program, const std::string& arguments) {
 /// A folder that nobody may write in, for as long as the value lives.
 class ReadOnlyFolder {
 public:
-    explicit ReadOnlyFolder(const wchar_t* path) : quoted('"' + SystemPathOf(path) + '"') {
-        RunBelow("chmod", "555 " + quoted);
-        EXPECT_TRUE(Eventually([] { return !CanWrite(); }))
-            << "the tests must not run with the rights of root";
+    explicit ReadOnlyFolder(const char* path) : path(path) {
+        SetRights("D:(A;;GRGX;;;WD)");
+        WriteContent(OtherPathOf("probe"), "x");
+        EXPECT_FALSE(Exists(OtherPathOf("probe"))) << "the tests must not run with the rights of root";
     }
     ReadOnlyFolder(const ReadOnlyFolder&) = delete;
     ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
-    ~ReadOnlyFolder() {
-        RunBelow("chmod", "755 " + quoted);
-        Eventually([] { return CanWrite(); });
-    }
+    ~ReadOnlyFolder() { SetRights("D:(A;;GA;;;WD)"); }
 
 private:
-    static bool CanWrite() {
-        WriteContent(OtherPathOf("probe"), "x");
-        return ::DeleteFileA(OtherPathOf("probe").c_str()) != FALSE;
+    void SetRights(const char* rights) {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        ASSERT_TRUE(::ConvertStringSecurityDescriptorToSecurityDescriptorA(rights, SDDL_REVISION_1,
+                                                                           &descriptor, nullptr));
+        EXPECT_TRUE(::SetFileSecurityA(path, DACL_SECURITY_INFORMATION, descriptor));
+        ::LocalFree(descriptor);
     }
 
-    std::string quoted;
+    const char* path;
 };
 
 }  // namespace
@@ -103,7 +106,7 @@ TEST_F(RefusedSaving, ByAReadOnlyFolder) {
     const Huevox huevox;
     OpenAndChange(huevox);
     {
-        const ReadOnlyFolder refusing(L"C:\\Huevox Palettes\\other");
+        const ReadOnlyFolder refusing(otherFolder);
         ExpectRefusal(huevox);
         EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
     }

@@ -139,12 +139,13 @@ void PressNew() { Press('N', {VK_CONTROL}); }
 void PressOpen() { Press('O', {VK_CONTROL}); }
 void PressClose(const Huevox& huevox) { ::PostMessageA(huevox.window(), WM_SYSCOMMAND, SC_CLOSE, 0); }
 
-void ExpectStillChanged(const Huevox& huevox) {
+void ExpectStill(const Huevox& huevox, const Color& color) {
     EXPECT_EQ(huevox.dialogCount(), 0);
     EXPECT_TRUE(huevox.isRunning());
-    const Color before = huevox.sliders();
-    ChangeColor(huevox);
-    EXPECT_BECOMES(huevox.sample(0), ColorOf(before.red, before.green + 1, before.blue));
+    EXPECT_EQ(huevox.sliders(), color);
+    huevox.focusSlider(IDC_hsbGreen);
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(color.red, color.green + 1, color.blue));
 }
 
 void ExpectPalette(const Huevox& huevox, const Palette& palette) {

@@ -72,8 +72,8 @@ void ChangeColor(const Huevox& huevox);
 void PressNew();
 void PressOpen();
 void PressClose(const Huevox& huevox);
-/// The changed palette is on the screen still, and the window can be used.
-void ExpectStillChanged(const Huevox& huevox);
+/// The first mark has that colour still, and the window can be used: its colour is changed once more.
+void ExpectStill(const Huevox& huevox, const Color& color);
 
 void ExpectPalette(const Huevox& huevox, const Palette& palette);
 /// The six defaults without names.
