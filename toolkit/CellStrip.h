@@ -2,15 +2,21 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
 #include "core/Color.h"
 #include "toolkit/Control.h"
+#include "toolkit/Event.h"
 
 /// A window of class "CellStrip": a few hundred coloured cells, painted at once.
 class CellStrip : public Control {
 public:
     using Control::Control;
+
+    // Nothing is raised while the strip, or what it stands in, is disabled.
+    Event<int, int> MouseDown;  ///< the cell under the pointer and the button that was pressed
+    Event<int> Click;           ///< the cell that was pressed, when the left button was released on the strip
 
     static void registerClass() { registerOwnClass("CellStrip"); }
 
@@ -20,12 +26,35 @@ public:
     /// Places in pixels at 96 DPI from the left and top of the strip; a later cell lies over an earlier one.
     void setPlaces(std::vector<RECT> cellPlaces) { places = std::move(cellPlaces); }
 
+    /// One tool tip a cell.
+    void setTips(std::vector<std::string> cellTips);
+
+    /// New colours are shown at once at the end of a scope, and not one after another within it.
+    class Held {
+    public:
+        explicit Held(CellStrip& strip) : strip(strip) { strip.isHeld = true; }
+        Held(const Held&) = delete;
+        Held& operator=(const Held&) = delete;
+        ~Held() { strip.release(); }
+
+    private:
+        CellStrip& strip;
+    };
+
 private:
     void attached() override { receive(); }
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
+    void raiseMouse(UINT message, LPARAM lParam);
+    void release();
+    /// -1 where there is none.
+    int cellAt(POINT point) const;
     RECT scaledPlace(const RECT& place) const;
+    void showTips(ToolTips& toolTips) const override;
 
     std::vector<RECT> places;
     std::vector<PackedColor> colors;
+    std::vector<std::string> tips;
+    int pressedCell = -1;
+    bool isHeld = false;
 };

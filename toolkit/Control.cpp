@@ -26,6 +26,20 @@ void Control::setEnabled(bool isEnabled) {
     ::EnableWindow(window, isEnabled);
 }
 
+bool Control::isUsable() const {
+    HWND part = window;
+    while (part && ::IsWindowEnabled(part)) {
+        if (part == form.handle()) return true;
+        part = ::GetParent(part);
+    }
+    return false;
+}
+
+void Control::setVisible(bool isVisible) {
+    if (!isVisible) form.focusLeaves(window);
+    ::ShowWindow(window, isVisible ? SW_SHOWNA : SW_HIDE);
+}
+
 void Control::setToolTip(std::string_view text) {
     tip = text;
     form.tipChanged(*this);

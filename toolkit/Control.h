@@ -21,9 +21,14 @@ public:
     HWND handle() const { return window; }
 
     bool isEnabled() const { return ::IsWindowEnabled(window) != FALSE; }
+    /// Whether it and all that it stands in is enabled: what is not gets no mouse, but messages of others.
+    bool isUsable() const;
+    bool hasFocus() const { return window && ::GetFocus() == window; }
 
     /// When it has the focus and is disabled, the focus moves on to the next control.
     void setEnabled(bool isEnabled);
+    /// When it has the focus and is hidden, the focus moves on to the next control.
+    void setVisible(bool isVisible);
     void setFocus() { ::SetFocus(window); }
 
     void setToolTip(std::string_view text);

@@ -24,11 +24,11 @@ public:
     auto begin() { return controls.begin(); }
     auto end() { return controls.end(); }
 
-    /// Binds the event of every control to one handler, which is given the control's index.
-    template <class Target>
-    void bind(Event<> Kind::*event, Target* target, void (Target::*handler)(int)) {
+    /// Binds the event of every control to one handler, which is given the control's index first.
+    template <class Target, class... Args>
+    void bind(Event<Args...> Kind::*event, Target* target, void (Target::*handler)(int, Args...)) {
         for (int index = 0; index < count; ++index) {
-            (controls[index].*event).bind([=] { (target->*handler)(index); });
+            (controls[index].*event).bind([=](Args... args) { (target->*handler)(index, args...); });
         }
     }
 

@@ -107,6 +107,11 @@ std::string Form::text() const { return WindowText(window); }
 
 void Form::setText(std::string_view caption) { ::SetWindowTextA(window, std::string(caption).c_str()); }
 
+void Form::setPointer(HCURSOR shape) {
+    pointer = shape;
+    ::SetCursor(shape ? shape : ::LoadCursorA(nullptr, IDC_ARROW));
+}
+
 void Form::setMenuItemEnabled(int command, bool isEnabled) {
     ::EnableMenuItem(::GetMenu(window), command, MF_BYCOMMAND | (isEnabled ? MF_ENABLED : MF_GRAYED));
 }
@@ -159,7 +164,9 @@ LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 return brush;
             break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam) != WA_INACTIVE); break;
-        case WM_SETCURSOR: onMouse(); break;
+        case WM_SETCURSOR:
+            if (onMouse()) return TRUE;
+            break;
         case WM_NCDESTROY: onDestroyed(); break;
         default: break;
     }
@@ -226,16 +233,21 @@ LRESULT Form::onFocusLeft(HWND left) {
     const HWND focus = ::GetFocus();
     const bool isFocusUsable = focus && focus != window && focus != left;
     if (!isActive || isFocusUsable) return 0;
-    const HWND next = ::IsWindowEnabled(left) ? left : ::GetNextDlgTabItem(window, left, FALSE);
+    const bool isLeftUsable = ::IsWindowEnabled(left) && ::IsWindowVisible(left);
+    const HWND next = isLeftUsable ? left : ::GetNextDlgTabItem(window, left, FALSE);
     ::SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
     return 0;
 }
 
-/// The mouse is over the form: the first time for a tool tip to be of use.
-void Form::onMouse() {
-    if (toolTips || !isLoaded()) return;
-    toolTips = std::make_unique<ToolTips>(window);
-    controls.showTips(*toolTips);
+/// The mouse is over the form: the first time for a tool tip to be of use. True when the form gives the
+/// pointer its shape.
+bool Form::onMouse() {
+    if (!toolTips && isLoaded()) {
+        toolTips = std::make_unique<ToolTips>(window);
+        controls.showTips(*toolTips);
+    }
+    if (pointer) ::SetCursor(pointer);
+    return pointer != nullptr;
 }
 
 void Form::onDestroyed() {

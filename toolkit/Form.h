@@ -48,11 +48,15 @@ public:
 
     bool isLoaded() const { return state == State::loaded; }
     HWND handle() const { return window; }
+    /// Whether the keys go to this form.
+    bool isFront() const { return isActive; }
     /// The owner for a message box: the window, or none while it is not on the screen.
     HWND messageOwner() const { return ::IsWindowVisible(window) ? window : nullptr; }
 
     std::string text() const;
     void setText(std::string_view caption);
+    /// The pointer over the form and while it has captured the mouse; nullptr for the controls' own.
+    void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
 
     /// Pixels at 96 DPI in pixels of this window.
@@ -85,7 +89,7 @@ private:
     LRESULT onActivated();
     LRESULT onFocusLeft(HWND left);
     void onActivate(bool becomesActive);
-    void onMouse();
+    bool onMouse();
     void onDestroyed();
 
     void createFrame(const DialogTemplate& layout);
@@ -96,6 +100,7 @@ private:
     const char* name;
     HWND window = nullptr;
     HACCEL accelerators = nullptr;
+    HCURSOR pointer = nullptr;
     OwnedFont font;
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;

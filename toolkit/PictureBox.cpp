@@ -1,5 +1,6 @@
 #include "toolkit/PictureBox.h"
 
+#include "toolkit/Mouse.h"
 #include "toolkit/Painting.h"
 
 void PictureBox::setBackColor(COLORREF color) {
@@ -16,6 +17,15 @@ LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             FillWithColor(painting.context(), painting.area(), back);
             return 0;
         }
-        default: return Control::onMessage(message, wParam, lParam);
+        case WM_CAPTURECHANGED: MouseCaptureLost.raise(); return 0;
+        default: break;
     }
+    if (isUsable()) raiseMouse(message, wParam);
+    return Control::onMessage(message, wParam, lParam);
+}
+
+void PictureBox::raiseMouse(UINT message, WPARAM wParam) {
+    if (message == WM_MOUSEMOVE) MouseMove.raise(HeldButtons(wParam));
+    if (const int button = PressedButton(message)) MouseDown.raise(button);
+    if (const int button = ReleasedButton(message)) MouseUp.raise(button);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/Control.h"
+#include "toolkit/Event.h"
 
 /// A window of class "PictureBox"; it can hold other controls.
 class PictureBox : public Control {
@@ -9,14 +10,24 @@ public:
     using Control::Control;
     using Control::hold;
 
+    // The mouse over the box, or anywhere while the box has captured it. Nothing is raised while the box, or
+    // what it stands in, is disabled.
+    Event<int> MouseDown;      ///< the button that was pressed
+    Event<int> MouseMove;      ///< the buttons that are held
+    Event<int> MouseUp;        ///< the button that was released
+    Event<> MouseCaptureLost;  ///< the mouse was captured and is not any more
+
     static void registerClass() { registerOwnClass("PictureBox"); }
 
     COLORREF backColor() const { return back; }
     void setBackColor(COLORREF color);
 
+    void captureMouse() { ::SetCapture(handle()); }
+
 private:
     void attached() override { receive(); }
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void raiseMouse(UINT message, WPARAM wParam);
 
     COLORREF back = ::GetSysColor(COLOR_BTNFACE);
 };
