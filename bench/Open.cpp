@@ -2,11 +2,13 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "bench/Benches.h"
 #include "bench/Figures.h"
+#include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 #include "palette/TextFile.h"
 #include "toolkit/CodePage.h"
@@ -24,18 +26,18 @@ std::string PaletteOfSize(std::size_t size, std::string_view filler) {
 
 void ReadPlainly() {
     const OwnedFile file = OpenForReading(path);
-    std::vector<char> block(1 << 20);
+    const DWORD size = ::GetFileSize(file.get(), nullptr);
+    const auto text = std::make_unique_for_overwrite<char[]>(size);
     DWORD read = 0;
-    do {
-        ::ReadFile(file.get(), block.data(), static_cast<DWORD>(block.size()), &read, nullptr);
-    } while (read > 0);
+    if (!::ReadFile(file.get(), text.get(), size, &read, nullptr) || read != size) std::abort();
 }
 
 void OpenAsPalette() {
     constexpr std::size_t mostLines = 1001;
     const OwnedFile file = OpenForReading(path);
-    const std::string text = ReadText(file);
-    if (!ParsePaletteLines(SplitLines(text, mostLines), IsLeadByte)) std::abort();
+    FirstLines lines(linesLookedAt, mostLines);
+    ReadBlocks(file, [&](std::string_view block) { return lines.take(block); });
+    if (!ParsePaletteLines(lines.kept(), IsLeadByte)) std::abort();
 }
 
 double Milliseconds(void (*work)()) {

@@ -1,12 +1,12 @@
 // Any bytes may be opened: they are refused, or they are a palette that can be saved and opened again.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
+#include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 
 namespace {
-
-constexpr std::size_t all = 1'000'000;
 
 bool NoLeadByte(char) { return false; }
 bool HighLeadByte(char byte) { return (static_cast<unsigned char>(byte) & 0x80) != 0; }
@@ -26,12 +26,21 @@ bool IsShowable(const Palette& palette) {
     return true;
 }
 
+/// Reads a text that comes in blocks of any size.
+std::optional<Palette> Read(std::string_view text, std::size_t blockSize, LeadByteTest isLeadByte) {
+    FirstLines lines(linesLookedAt, 1001);
+    while (!text.empty() && lines.take(text.substr(0, blockSize)))
+        text.remove_prefix(std::min(blockSize, text.size()));
+    return ParsePaletteLines(lines.kept(), isLeadByte);
+}
+
 void Try(std::string_view text, LeadByteTest isLeadByte) {
-    const std::optional<Palette> palette = ParsePaletteLines(SplitLines(text, all), isLeadByte);
+    const std::optional<Palette> palette = Read(text, text.size(), isLeadByte);
+    Require(Read(text, 1 + text.size() % 7, isLeadByte) == palette);
     if (!palette) return;
     Require(IsShowable(*palette));
     const std::string written = WritePaletteFile(AsSaved(*palette), "%UR% %LD%");
-    Require(ParsePaletteLines(SplitLines(written, all), isLeadByte) == AsSaved(*palette));
+    Require(Read(written, written.size(), isLeadByte) == AsSaved(*palette));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "palette/FirstLines.h"
 #include "palette/Notepad.h"
 #include "palette/PaletteFile.h"
 #include "resources/resource.h"
@@ -93,15 +94,15 @@ void PaletteCommands::AskToSavePalette() {
 void PaletteCommands::Open(const std::string& path) {
     constexpr std::size_t lineLimit = 1000;
     OwnedFile file = OpenForReading(path);
-    const std::string text = ReadText(file);
-    const std::vector lines = SplitLines(text, lineLimit + 1);
+    FirstLines lines(linesLookedAt, lineLimit + 1);
+    ReadBlocks(file, [&](std::string_view block) { return lines.take(block); });
     // A user who has just opened a palette knows what a palette is: the limit is lifted.
-    if (lines.size() > lineLimit && !lastOpenAccepted) {
+    if (lines.count() > lineLimit && !lastOpenAccepted) {
         filesLeftOpen.push_back(std::move(file));
         return Refuse(path);
     }
     file = {};
-    const std::optional palette = ParsePaletteLines(lines, IsLeadByte);
+    const std::optional palette = ParsePaletteLines(lines.kept(), IsLeadByte);
     lastOpenAccepted = palette.has_value();
     if (!palette) return Refuse(path);
     ShowPalette(*palette);

@@ -182,16 +182,6 @@ std::string WritePaletteFile(const Palette& palette, std::string_view customForm
     return text;
 }
 
-std::vector<std::string_view> SplitLines(std::string_view text, std::size_t most) {
-    std::vector<std::string_view> lines;
-    while (!text.empty() && lines.size() < most) {
-        const std::size_t end = std::min(text.find(lineEnd), text.size());
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + lineEnd.size(), text.size()));
-    }
-    return lines;
-}
-
 std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines, LeadByteTest isLeadByte) {
     std::optional<Palette> palette = ParseGeneration(lines, isLeadByte);
     if (!palette) return std::nullopt;

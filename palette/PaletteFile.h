@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "support/Characters.h"
 #include "support/Marks.h"
@@ -17,9 +16,8 @@ Palette AsSaved(Palette palette);
 /// The text of a file: 100 lines, each ended by CR LF. Channels are 0 to 255; no name contains CR LF.
 std::string WritePaletteFile(const Palette& palette, std::string_view customFormat);
 
-/// The lines of a file, at most `most` of them. Only CR LF ends a line; what follows the last CR LF is a line
-/// unless it is empty.
-std::vector<std::string_view> SplitLines(std::string_view text, std::size_t most);
+/// As many lines as the reader looks at in the longest of the four generations.
+inline constexpr std::size_t linesLookedAt = 46;
 
 /// The palette of a file of any of the four generations; nothing when it is none of them. Names are cut to
 /// what a name box takes; channels of the current generation, which are not checked, are limited to 0..255.

@@ -1,15 +1,15 @@
 #include "palette/TextFile.h"
 
-#include <algorithm>
 #include <array>
 #include <stdexcept>
+#include <vector>
 
 #include "support/PathText.h"
 #include "toolkit/CodePage.h"
 
 namespace {
 
-constexpr LONGLONG mostBytes = 64 * 1024 * 1024;
+constexpr DWORD blockSize = 256 * 1024;
 
 void Check(bool hasSucceeded) {
     if (!hasSucceeded) throw std::runtime_error("the platform refused a file");
@@ -65,14 +65,12 @@ OwnedFile OpenForReading(const std::string& path) {
     return Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
 }
 
-std::string ReadText(const OwnedFile& file) {
-    LARGE_INTEGER size{};
-    Check(::GetFileSizeEx(file.get(), &size) != FALSE);
-    std::string text(static_cast<std::size_t>(std::min(size.QuadPart, mostBytes)), '\0');
-    DWORD read = 0;
-    Check(::ReadFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &read, nullptr) != FALSE);
-    text.resize(read);
-    return text;
+void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view block)>& take) {
+    std::vector<char> block(blockSize);
+    DWORD size = 0;
+    do {
+        Check(::ReadFile(file.get(), block.data(), blockSize, &size, nullptr) != FALSE);
+    } while (size > 0 && take({block.data(), size}));
 }
 
 void ReplaceText(const std::string& path, std::string_view text) {

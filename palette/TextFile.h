@@ -1,6 +1,7 @@
 // How do texts get from and to the disk?
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -11,9 +12,8 @@ using OwnedFile = Owned<HANDLE, &::CloseHandle>;
 /// Opens an existing file, which others may read and write meanwhile. Throws std::runtime_error.
 OwnedFile OpenForReading(const std::string& path);
 
-/// The file's bytes, at most 64 MB of them: nothing that a palette needs comes later. Throws
-/// std::runtime_error.
-std::string ReadText(const OwnedFile& file);
+/// Hands the file's bytes on, block by block, until take returns false. Throws std::runtime_error.
+void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view block)>& take);
 
 /// Puts the text in the place of the file, or makes the file, in one step. Throws std::runtime_error; then
 /// what was there before is there still, whole.

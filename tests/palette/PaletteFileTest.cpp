@@ -6,9 +6,9 @@
 #include <iterator>
 #include <random>
 
-namespace {
+#include "palette/FirstLines.h"
 
-constexpr std::size_t all = 1'000'000;
+namespace {
 
 bool NoLeadByte(char) { return false; }
 
@@ -23,8 +23,17 @@ std::string FileText(const std::string& name) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+std::vector<std::string> LinesOf(std::string_view text, std::size_t most = linesLookedAt) {
+    FirstLines lines(most, most);
+    lines.take(text);
+    const std::vector kept = lines.kept();
+    return {kept.begin(), kept.end()};
+}
+
 std::optional<Palette> Parsed(std::string_view text, LeadByteTest isLeadByte = NoLeadByte) {
-    return ParsePaletteLines(SplitLines(text, all), isLeadByte);
+    FirstLines lines(linesLookedAt, linesLookedAt);
+    lines.take(text);
+    return ParsePaletteLines(lines.kept(), isLeadByte);
 }
 
 std::string Joined(const std::vector<std::string>& lines) {
@@ -83,7 +92,7 @@ Palette OlderPalette() {
 
 std::string CustomLine(const Palette& palette, std::string_view customFormat) {
     const std::string text = WritePaletteFile(palette, customFormat);
-    return std::string(SplitLines(text, all)[29]);
+    return LinesOf(text)[29];
 }
 
 }  // namespace
@@ -191,9 +200,10 @@ TEST(ParsePaletteLines, AFileThatEndsBeforeTheLastColorIsRejected) {
          {std::pair{"generation1.txt", 46U}, std::pair{"generation2.txt", 41U},
           std::pair{"generation3.txt", 31U}}) {
         const std::string text = FileText(file);
-        const std::vector first = SplitLines(text, linesNeeded);
-        EXPECT_TRUE(ParsePaletteLines(first, NoLeadByte)) << file;
-        EXPECT_FALSE(ParsePaletteLines(std::span(first).first(linesNeeded - 1), NoLeadByte)) << file;
+        std::vector first = LinesOf(text, linesNeeded);
+        EXPECT_TRUE(Parsed(Joined(first))) << file;
+        first.pop_back();
+        EXPECT_FALSE(Parsed(Joined(first))) << file;
     }
 }
 
@@ -279,21 +289,4 @@ TEST(ParsePaletteLines, NeverCutsACharacterOfTwoBytes) {
     ASSERT_TRUE(read);
     EXPECT_EQ(read->names[2], "x");
     EXPECT_EQ(read->colors[2], ColorOf(1, 2, 3));
-}
-
-TEST(SplitLines, OnlyCrLfEndsALine) {
-    EXPECT_EQ(SplitLines("a\rb\nc\n\rd\r\n", all), std::vector<std::string_view>{"a\rb\nc\n\rd"});
-    EXPECT_EQ(SplitLines("a\r\r\nb", all), (std::vector<std::string_view>{"a\r", "b"}));
-}
-
-TEST(SplitLines, ALastLineWithoutOneCountsAndAFinalOneAddsNone) {
-    EXPECT_EQ(SplitLines("a\r\nb", all), (std::vector<std::string_view>{"a", "b"}));
-    EXPECT_EQ(SplitLines("a\r\nb\r\n", all), (std::vector<std::string_view>{"a", "b"}));
-    EXPECT_EQ(SplitLines("a\r\n\r\n", all), (std::vector<std::string_view>{"a", ""}));
-    EXPECT_TRUE(SplitLines("", all).empty());
-}
-
-TEST(SplitLines, StopsAtTheMostThatAreWanted) {
-    EXPECT_EQ(SplitLines("a\r\nb\r\nc", 2), (std::vector<std::string_view>{"a", "b"}));
-    EXPECT_EQ(SplitLines("a\r\nb", 2), (std::vector<std::string_view>{"a", "b"}));
 }
