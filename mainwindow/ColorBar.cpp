@@ -5,7 +5,9 @@
 
 #include "resources/resource.h"
 
-ColorBar::ColorBar(Form& form) : lblColorBar(form, IDC_lblColorBar) {
+ColorBar::ColorBar(Form& form, ChannelEditors& channels)
+    : channels(channels), lblColorBar(form, IDC_lblColorBar) {
+    lblColorBar.Click.bind(this, &ColorBar::lblColorBar_Click);
     std::vector<RECT> steps;
     for (int step = 0; step < barSteps; ++step) {
         const int left = BarStepLeft(step);
@@ -16,6 +18,13 @@ ColorBar::ColorBar(Form& form) : lblColorBar(form, IDC_lblColorBar) {
 
 void ColorBar::Refill(int red, int green, int blue) {
     std::array<PackedColor, barSteps> colors;
-    std::ranges::transform(ColorRamp(ColorOf(red, green, blue)), colors.begin(), Pack);
+    barColor = ColorRamp(ColorOf(red, green, blue));
+    std::ranges::transform(barColor, colors.begin(), Pack);
     lblColorBar.setColors(colors);
+}
+
+void ColorBar::lblColorBar_Click(int step) {
+    // Each slider that changes refills the bar; the user sees only the last of it.
+    const CellStrip::Held held(lblColorBar);
+    channels.SetSliders(barColor[step]);
 }

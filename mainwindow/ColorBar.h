@@ -3,16 +3,21 @@
 
 #include <array>
 
+#include "mainwindow/ChannelEditors.h"
 #include "mainwindow/ColorRamp.h"
 #include "toolkit/CellStrip.h"
 
-/// The current colour in 256 steps of brightness.
+/// The current colour in 256 steps of brightness, each of which the user can make the current one.
 class ColorBar {
 public:
-    explicit ColorBar(Form& form);
+    ColorBar(Form& form, ChannelEditors& channels);
 
     void Refill(int red, int green, int blue);
 
 private:
+    void lblColorBar_Click(int step);
+
+    ChannelEditors& channels;
+    std::array<Color, barSteps> barColor;
     CellStrip lblColorBar;
 };

@@ -4,6 +4,7 @@ add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest
 # In one process with the code: the toolkit's contract, and what talks to the platform.
 add_executable(program_tests
     program/AutocopyTest.cpp
+    program/ColorBarTest.cpp
     program/ColorMarksTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
@@ -24,6 +25,7 @@ add_executable(ui_tests
     ui/ChangedFileTest.cpp
     ui/ChangedNewPaletteTest.cpp
     ui/ClosingTest.cpp
+    ui/ColorBarTest.cpp
     ui/CommandsTest.cpp
     ui/Huevox.cpp
     ui/Input.cpp

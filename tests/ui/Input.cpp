@@ -79,6 +79,14 @@ void MoveMouse(POINT screen) { SendMouse(screen); }
 void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
 void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
 
+void PressRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTDOWN); }
+void ReleaseRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTUP); }
+
+void RightClick(POINT screen) {
+    PressRightButton(screen);
+    ReleaseRightButton(screen);
+}
+
 void Click(POINT screen) {
     PressButton(screen);
     ReleaseButton(screen);

@@ -1,0 +1,72 @@
+// How does a click on the bar choose a colour?
+#include "tests/ui/UiTest.h"
+
+namespace {
+
+class ColorBarClicks : public UiTest {};
+
+/// A step shows the most of itself at its left edge: the next one lies over its right.
+POINT StepOnScreen(const Huevox& huevox, int step) {
+    const int left = step * 731 / 255;
+    return OnScreen(huevox.control(IDC_lblColorBar), {left, 10});
+}
+
+}  // namespace
+
+TEST_F(ColorBarClicks, AStepBecomesTheCurrentColor) {
+    const Huevox huevox;
+    Click(StepOnScreen(huevox, 100));
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 100, 100));
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 100, 100));
+    EXPECT_EQ(huevox.text(IDC_txtSetBlue), "100");
+    EXPECT_BECOMES(ClipboardText(), "#FF6464");
+}
+
+TEST_F(ColorBarClicks, TheRampStaysUnderThePointerWhenNoChannelIsLimited) {
+    const Huevox huevox;
+    SetColor(huevox, ColorOf(100, 150, 200));
+    Click(StepOnScreen(huevox, 60));
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(60, 110, 160));
+    EXPECT_BECOMES(huevox.barStep(0), ColorOf(0, 50, 100));
+    EXPECT_BECOMES(huevox.barStep(60), ColorOf(60, 110, 160));
+    EXPECT_BECOMES(huevox.barStep(100), ColorOf(100, 150, 200));
+    EXPECT_BECOMES(huevox.barStep(155), ColorOf(155, 205, 255));
+    EXPECT_BECOMES(huevox.barStep(200), ColorOf(200, 250, 255));
+    EXPECT_BECOMES(huevox.barStep(255), ColorOf(255, 255, 255));
+}
+
+TEST_F(ColorBarClicks, EveryStepCanBeClicked) {
+    const Huevox huevox;
+    for (int step = 0; step < 256; ++step) {
+        Click(StepOnScreen(huevox, step));
+        ASSERT_BECOMES(huevox.sliders(), ColorOf(255, step, step));
+    }
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 255, 255));
+}
+
+TEST_F(ColorBarClicks, TheStepOfTheCurrentColorChangesNothing) {
+    const Huevox huevox;
+    huevox.retype(Name(0), "signal");
+    Click(StepOnScreen(huevox, 0));
+    Click(StepOnScreen(huevox, 0));
+    // The input behind the clicks has arrived when this has.
+    huevox.selectMark(1);
+    EXPECT_EQ(huevox.backColor(Name(0)), ColorOf(255, 255, 255));
+    EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
+}
+
+TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
+    const Huevox huevox;
+    huevox.retype(Name(0), "signal");
+    Click(StepOnScreen(huevox, 20));
+    EXPECT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
+}
+
+TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
+    const Huevox huevox;
+    RightClick(StepOnScreen(huevox, 100));
+    PressButton(StepOnScreen(huevox, 100));
+    ReleaseButton(CenterOf(huevox.control(IDC_frmSet)));
+    huevox.selectMark(1);
+    EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
+}
