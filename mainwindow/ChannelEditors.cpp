@@ -59,6 +59,20 @@ Color ChannelEditors::SliderColor() const {
     return ColorOf(hsbRed.value(), hsbGreen.value(), hsbBlue.value());
 }
 
+void ChannelEditors::HideSliders() {
+    // Looked for first: a hidden slider passes the focus on to the next.
+    for (ScrollBar* slider : {&hsbRed, &hsbGreen, &hsbBlue}) {
+        if (slider->hasFocus()) sliderWithFocus = slider;
+    }
+    for (ScrollBar* slider : {&hsbRed, &hsbGreen, &hsbBlue}) slider->setVisible(false);
+}
+
+void ChannelEditors::ShowSliders() {
+    for (ScrollBar* slider : {&hsbRed, &hsbGreen, &hsbBlue}) slider->setVisible(true);
+    if (sliderWithFocus && form.isFront()) sliderWithFocus->setFocus();
+    sliderWithFocus = nullptr;
+}
+
 void ChannelEditors::hsbColor_Change() {
     edit.clipTicks.reset();
     if (edit.sliderSync) target.SetSelectedColor(hsbRed.value(), hsbGreen.value(), hsbBlue.value());

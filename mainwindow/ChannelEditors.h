@@ -26,6 +26,10 @@ public:
     void SetSliders(const Color& color);
     Color SliderColor() const;
 
+    /// Makes room for what stands in the sliders' place for a while; then the focus is where it was.
+    void HideSliders();
+    void ShowSliders();
+
     /// Writes the colour into the typed values; what was typed and not yet applied is gone.
     void ShowValues(int red, int green, int blue);
 
@@ -53,7 +57,8 @@ private:
     ScrollBar hsbRed;
     ScrollBar hsbGreen;
     ScrollBar hsbBlue;
-    ControlArray<TextBox, 3> txtSet;  ///< txtSetRed, txtSetGreen and txtSetBlue
+    ScrollBar* sliderWithFocus = nullptr;  ///< while the sliders are hidden
+    ControlArray<TextBox, 3> txtSet;       ///< txtSetRed, txtSetGreen and txtSetBlue
     Button cmdSetColor;
     OptionGroup mode;
     OptionButton optSetDec;

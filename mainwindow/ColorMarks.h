@@ -28,6 +28,9 @@ public:
     void WhitenNames();
     /// Only the selected mark's sample can start a screen pick.
     void EnableSelectedSample();
+    /// What happens to the samples by the mouse is somebody else's to say.
+    ControlArray<PictureBox, markCount>& Samples() { return picSample; }
+    void LetSamplesBePressed(bool isLet) { picSampleContainer.setEnabled(isLet); }
     void RefreshProperties();
 
     void PaintSelected(int red, int green, int blue);

@@ -11,8 +11,8 @@ constexpr ToolButton separator = {};
 
 constexpr std::array<ToolButton, 14> toolButtons = {{
     {IDM_mnuFileNew, IDI_New, "New Palette (Ctrl+N)"},
-    {IDM_mnuFileOpen, IDI_Open, "Open Palette In Huevox (Ctrl+O)"},
-    {IDM_mnuFileOpenInNotepad, IDI_OpenInNotepad, "Open Palette In Notepad (Ctrl+I)"},
+    {IDM_mnuFileOpen, IDI_Open, messages::openTip},
+    {IDM_mnuFileOpenInNotepad, IDI_OpenInNotepad, messages::notepadTip},
     {IDM_mnuFileSave, IDI_Save, "Save Palette (Ctrl+S)"},
     separator,
     {IDM_mnuEditCopyColor, IDI_CopyColor, "Copy Colour From Selected Colour Mark (F2)"},

@@ -15,7 +15,8 @@ frmMain::frmMain(AppState& state)
       marks(*this, state.marks, edit, channels, *this),
       colorBar(*this, channels),
       autocopy(*this, state, edit, commands, channels, marks, *this),
-      palettes(*this, state, edit, commands, channels, marks, *this) {
+      palettes(*this, state, edit, commands, channels, marks, *this),
+      screenPick(*this, commands, channels, marks) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);

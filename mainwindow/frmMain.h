@@ -8,6 +8,7 @@
 #include "mainwindow/ColorTarget.h"
 #include "mainwindow/CommandBar.h"
 #include "mainwindow/EditState.h"
+#include "mainwindow/ScreenPick.h"
 #include "palette/PaletteCommands.h"
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
@@ -38,5 +39,6 @@ private:
     ColorBar colorBar;
     Autocopy autocopy;
     PaletteCommands palettes;
+    ScreenPick screenPick;
     unsigned turns = 0;
 };

@@ -52,6 +52,7 @@
 #define IDC_txtName 1100
 #define IDC_optColor 1110
 #define IDC_picSampleContainer 1120
+#define IDC_picPick 1121
 #define IDC_picSample 1130
 #define IDC_lblColorProp 1140
 #define IDC_lblColorBar 1150

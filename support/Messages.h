@@ -49,6 +49,10 @@ inline constexpr const char* jsNamesTip =
     "Check this check box if you want to copy the JavaScript name instead of the RGB colour code";
 inline constexpr const char* previewTip =
     "This is what you get if you paste right now in another application";
+inline constexpr const char* colorPickTip = "Uncheck this check box to open palettes";
+inline constexpr const char* openTip = "Open Palette In Huevox (Ctrl+O)";
+inline constexpr const char* notepadTip = "Open Palette In Notepad (Ctrl+I)";
+inline constexpr const char* openDisabledTip = "Uncheck the check box Colour Pick Mode to enable";
 inline constexpr const char* pasteEnabledTip = "Paste Colour To Selected Colour Mark (F3)";
 inline constexpr const char* pasteDisabledTip = "Use the Copy button to enable";
 

@@ -10,6 +10,7 @@ add_executable(program_tests
     program/FoldersTest.cpp
     program/MainWindowTest.cpp
     program/RegistryStringHandlerTest.cpp
+    program/ScreenPickTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
     toolkit/YieldTest.cpp
@@ -37,6 +38,7 @@ add_executable(ui_tests
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp
     ui/Palettes.cpp
+    ui/ScreenPickTest.cpp
     ui/SettingsTest.cpp
     ui/SlidersTest.cpp
     ui/StartTest.cpp
@@ -53,7 +55,7 @@ target_link_libraries(StandIn PRIVATE huevox_flags)
 add_dependencies(ui_tests StandIn)
 
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
-set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 120)
+set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 300)
 gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${alone})
 gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*"
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone})

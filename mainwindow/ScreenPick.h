@@ -1,0 +1,43 @@
+// How does the user take a colour from anywhere on the screen?
+#pragma once
+
+#include <optional>
+
+#include "core/Color.h"
+#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/ColorMarks.h"
+#include "mainwindow/CommandBar.h"
+#include "mainwindow/ScreenPixels.h"
+#include "toolkit/Buttons.h"
+#include "toolkit/PictureBox.h"
+
+/// Colour Pick Mode: the selected mark's sample is pressed and the pointer dragged to any pixel, whose colour
+/// is shown on the way and applied at the end.
+class ScreenPick {
+public:
+    ScreenPick(Form& form, CommandBar& commands, ChannelEditors& channels, ColorMarks& marks);
+
+private:
+    void chkColorPick_Click();
+    void picSample_MouseDown(int mark, int button);
+    void picSample_MouseMove(int mark, int buttons);
+    void picSample_MouseUp(int mark, int button);
+    void picSample_MouseCaptureLost(int mark);
+
+    void EnableOpening(bool isEnabled);
+    void ShowPreview(PictureBox& pressed);
+    void HidePreview();
+
+    Form& form;
+    CommandBar& commands;
+    ChannelEditors& channels;
+    ColorMarks& marks;
+
+    CheckBox chkColorPick;
+    PictureBox picPick;
+
+    ScreenPixels screen;
+    Color pickedColor;                ///< black until the first pick, then kept from one to the next
+    std::optional<POINT> pressPlace;  ///< until the pointer has left it
+    bool isPicking = false;
+};

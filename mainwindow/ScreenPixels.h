@@ -1,0 +1,19 @@
+// What colour is a pixel of the screen?
+#pragma once
+
+#include "core/Color.h"
+#include "toolkit/Platform.h"
+
+/// Asks for a new context of the screen at every reading and gives none back, up to a bound: long picking
+/// must not use up what the platform has of them. The platform takes them back when the program ends.
+class ScreenPixels {
+public:
+    /// Any place on any monitor, in screen coordinates; what cannot be read is (255, 0, 0).
+    Color at(POINT place);
+
+private:
+    static constexpr int mostContexts = 1000;
+
+    HDC newest = nullptr;
+    int contexts = 0;
+};
