@@ -15,18 +15,22 @@ struct EditState {
     ClipTicks clipTicks;
 };
 
-/// Sets a flag to False for a scope; on every way out it is what it was before.
-class Cleared {
+/// Sets a flag to a value for a scope; on every way out it is what it was before.
+template <bool value>
+class FlagGuard {
 public:
-    explicit Cleared(bool& flag) : flag(flag), before(std::exchange(flag, false)) {}
-    Cleared(const Cleared&) = delete;
-    Cleared& operator=(const Cleared&) = delete;
-    ~Cleared() { flag = before; }
+    explicit FlagGuard(bool& flag) : flag(flag), before(std::exchange(flag, value)) {}
+    FlagGuard(const FlagGuard&) = delete;
+    FlagGuard& operator=(const FlagGuard&) = delete;
+    ~FlagGuard() { flag = before; }
 
 private:
     bool& flag;
     bool before;
 };
+
+using Cleared = FlagGuard<false>;
+using Raised = FlagGuard<true>;
 
 /// One turn of a routine that yields: a newer turn, let in meanwhile, has shown a newer colour.
 class Turn {

@@ -30,6 +30,32 @@ TEST(Cleared, AnErrorPutsTheFlagBack) {
     EXPECT_TRUE(flag);
 }
 
+TEST(Raised, FlagIsTrueForAScopeAndFalseAfterIt) {
+    bool flag = false;
+    {
+        const Raised guard(flag);
+        EXPECT_TRUE(flag);
+    }
+    EXPECT_FALSE(flag);
+}
+
+TEST(Raised, AnInnerScopeDoesNotEndTheOuterOne) {
+    bool flag = false;
+    const Raised outer(flag);
+    { const Raised inner(flag); }
+    EXPECT_TRUE(flag);
+}
+
+TEST(Raised, AnErrorPutsTheFlagBack) {
+    bool flag = false;
+    try {
+        const Raised guard(flag);
+        throw std::runtime_error("");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_FALSE(flag);
+}
+
 TEST(Turn, IsOvertakenByANewerOne) {
     unsigned turns = 0;
     const Turn older(turns);
