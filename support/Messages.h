@@ -34,6 +34,21 @@ inline constexpr const char* hexNotAllowed =
 inline constexpr const char* noName = "Type a colour name";
 inline constexpr const char* notJavaScript = "Not JavaScript colour";
 
+/// The report on a colour: one sentence of each pair, the JavaScript name and the question after them.
+inline constexpr const char* colorPropertiesTitle = "Colour Properties";
+inline constexpr const char* websafeColor = "The selected colour is a websafe colour.";
+inline constexpr const char* notWebsafeColor = "The selected colour is not a websafe colour.";
+inline constexpr const char* failsafeColor = "The selected colour will look good in failsafe mode.";
+inline constexpr const char* notFailsafeColor = "The selected colour will not look good in failsafe mode.";
+inline constexpr const char* javaScriptColor = "The selected colour is a JavaScript colour.";
+inline constexpr const char* notJavaScriptColor = "The selected colour is not a JavaScript colour.";
+inline constexpr const char* javaScriptNameBeforeName = "In JavaScript, the name of the selected colour is ";
+inline constexpr const char* javaScriptNameAfterName = ".";
+inline constexpr const char* alsoKnownAsAqua = " (also known as aqua)";
+inline constexpr const char* alsoKnownAsFuchsia = " (also known as fuchsia)";
+inline constexpr const char* renameBeforeName = "Do you want to change the name of the selected colour to ";
+inline constexpr const char* renameAfterName = "?";
+
 inline constexpr const char* nameTip = "Click and type a colour name";
 inline constexpr const char* markTip = "Click here to select this colour mark";
 inline constexpr const char* sampleTip = "Drag and drop from here to pick a colour anywhere on the screen";

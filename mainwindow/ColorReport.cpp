@@ -1,0 +1,47 @@
+#include "mainwindow/ColorReport.h"
+
+#include "core/ColorTables.h"
+#include "support/Messages.h"
+
+namespace {
+
+constexpr const char* paragraph = "\r\n\r\n";
+
+/// The name and, of two names for one colour, the other.
+std::string DisplayName(std::string_view name) {
+    std::string display(name);
+    if (name == "cyan") display += messages::alsoKnownAsAqua;
+    if (name == "magenta") display += messages::alsoKnownAsFuchsia;
+    return display;
+}
+
+std::string JavaScriptText(std::string_view name) {
+    if (name.empty()) return messages::notJavaScriptColor;
+    return messages::javaScriptColor + std::string(paragraph) + messages::javaScriptNameBeforeName +
+           DisplayName(name) + messages::javaScriptNameAfterName;
+}
+
+std::string Question(std::string_view name) {
+    return messages::renameBeforeName + std::string(name) + messages::renameAfterName;
+}
+
+}  // namespace
+
+ColorReport ReportColor(PackedColor color, std::string_view name) {
+    const std::string_view javaScriptName = JavaScriptName(Unpack(color));
+    ColorReport report;
+    report.text = IsWebsafe(color) ? messages::websafeColor : messages::notWebsafeColor;
+    report.text += paragraph;
+    report.text += IsFailsafe(color) ? messages::failsafeColor : messages::notFailsafeColor;
+    report.text += paragraph + JavaScriptText(javaScriptName);
+    if (javaScriptName.empty() || javaScriptName == name) return report;
+    report.offeredName = javaScriptName;
+    report.text += paragraph + Question(javaScriptName);
+    return report;
+}
+
+std::string_view FindJavaScriptName(PackedColor color) {
+    const std::string_view name = JavaScriptName(Unpack(color));
+    const bool isFound = !name.empty() && color != colorTables.jsColor.front();
+    return isFound ? name : messages::notJavaScript;
+}
