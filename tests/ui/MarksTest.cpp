@@ -9,8 +9,6 @@ class SelectingMarks : public UiTest {};
 class NameBoxes : public UiTest {};
 class NameHighlight : public UiTest {};
 
-const Color white = ColorOf(255, 255, 255);
-const Color highlight = ColorOf(255, 250, 205);
 const std::pair<int, int> nothingAtEnd = {18, 18};
 const std::pair<int, int> wholePlaceholder = {0, 18};
 

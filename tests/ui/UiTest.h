@@ -35,6 +35,10 @@ void SetColor(const Huevox& huevox, const Color& color);
 /// Clicks the box for JavaScript names and waits until the list is disabled or enabled.
 void CheckNames(const Huevox& huevox, bool isChecked);
 
+/// What a name box looks like, and what it looks like when the name may not fit any more.
+inline constexpr Color white = ColorOf(255, 255, 255);
+inline constexpr Color highlight = ColorOf(255, 250, 205);
+
 constexpr int Name(int mark) { return IDC_txtName + mark; }
 constexpr int Option(int mark) { return IDC_optColor + mark; }
 constexpr int Property(int mark) { return IDC_lblColorProp + mark; }
