@@ -56,8 +56,13 @@ void ColorMarks::Select(int mark) {
 
 MarkNames ColorMarks::Names() const {
     MarkNames names;
-    for (int mark = 0; mark < markCount; ++mark) names[mark] = txtName(mark).text();
+    for (int mark = 0; mark < markCount; ++mark) names[mark] = Name(mark);
     return names;
+}
+
+void ColorMarks::Rename(int mark, std::string_view name) {
+    SetName(mark, name);
+    txtName(mark).setCaretToEnd();
 }
 
 void ColorMarks::WhitenNames() {
@@ -74,8 +79,7 @@ void ColorMarks::EnableSelectedSample() {
 
 void ColorMarks::RefreshProperties() {
     for (int mark = 0; mark < markCount; ++mark) {
-        lblColorProp(mark).setText(
-            ColorPropertyLetters(static_cast<PackedColor>(picSample(mark).backColor())));
+        lblColorProp(mark).setText(ColorPropertyLetters(SampleColor(mark)));
     }
 }
 

@@ -1,6 +1,9 @@
 // What does the window show of the six colour marks, and how is one selected and named?
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "mainwindow/ChannelEditors.h"
 #include "mainwindow/ColorTarget.h"
 #include "mainwindow/EditState.h"
@@ -22,9 +25,14 @@ public:
     void ApplyPalette(const Palette& palette);
     /// Selects a mark without applying its colour.
     void Select(int mark);
+    PackedColor SampleColor(int mark) const { return static_cast<PackedColor>(picSample(mark).backColor()); }
+    std::string Name(int mark) const { return txtName(mark).text(); }
     MarkNames Names() const;
     /// Names and colours as they stand.
     Palette Shown() const { return {Names(), marks.markColor}; }
+    void SetName(int mark, std::string_view name) { txtName(mark).setText(name); }
+    /// Sets the name and puts the caret after its last character.
+    void Rename(int mark, std::string_view name);
     void WhitenNames();
     /// Only the selected mark's sample can start a screen pick.
     void EnableSelectedSample();

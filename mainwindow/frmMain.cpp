@@ -13,6 +13,7 @@ frmMain::frmMain(AppState& state)
       commands(*this),
       channels(*this, edit, *this),
       marks(*this, state.marks, edit, channels, *this),
+      properties(*this, state, edit, commands, marks),
       colorBar(*this, channels),
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),

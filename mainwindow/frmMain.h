@@ -5,6 +5,7 @@
 #include "mainwindow/ChannelEditors.h"
 #include "mainwindow/ColorBar.h"
 #include "mainwindow/ColorMarks.h"
+#include "mainwindow/ColorProperties.h"
 #include "mainwindow/ColorTarget.h"
 #include "mainwindow/CommandBar.h"
 #include "mainwindow/EditState.h"
@@ -36,6 +37,7 @@ private:
     CommandBar commands;
     ChannelEditors channels;
     ColorMarks marks;
+    ColorProperties properties;
     ColorBar colorBar;
     Autocopy autocopy;
     PaletteCommands palettes;

@@ -27,7 +27,9 @@ add_executable(ui_tests
     ui/ChangedNewPaletteTest.cpp
     ui/ClosingTest.cpp
     ui/ColorBarTest.cpp
+    ui/ColorPropertiesTest.cpp
     ui/CommandsTest.cpp
+    ui/FindJavaScriptNamesTest.cpp
     ui/Huevox.cpp
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp

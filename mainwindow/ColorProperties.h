@@ -1,0 +1,27 @@
+// How does the user learn what is special about the marks' colours, and name the marks after them?
+#pragma once
+
+#include "mainwindow/ColorMarks.h"
+#include "mainwindow/CommandBar.h"
+#include "mainwindow/EditState.h"
+#include "support/AppState.h"
+#include "toolkit/Form.h"
+
+class ColorProperties {
+public:
+    ColorProperties(const Form& form, const AppState& state, EditState& edit, CommandBar& commands,
+                    ColorMarks& marks);
+
+private:
+    void mnuHelpColorProperties_Click();
+    void mnuEditFind_Click();
+
+    void FillName(int mark);
+
+    const Form& form;
+    const AppState& state;
+    EditState& edit;
+    ColorMarks& marks;
+
+    int renameAnswer = 0;
+};
