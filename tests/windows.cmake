@@ -65,6 +65,13 @@ add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+foreach(dpi IN ITEMS 120 144 192)
+    add_test(NAME ui.picking_at_${dpi}_dpi
+        COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --dpi ${dpi}
+            ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=ScreenPicking.Takes*:ColorBarClicks.*
+        WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+    set_tests_properties(ui.picking_at_${dpi}_dpi PROPERTIES TIMEOUT 300)
+endforeach()
 add_test(NAME ui.on_a_full_disk
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*

@@ -5,17 +5,11 @@ namespace {
 
 class ColorBarClicks : public UiTest {};
 
-/// A step shows the most of itself at its left edge: the next one lies over its right.
-POINT StepOnScreen(const Huevox& huevox, int step) {
-    const int left = step * 731 / 255;
-    return OnScreen(huevox.control(IDC_lblColorBar), {left, 10});
-}
-
 }  // namespace
 
 TEST_F(ColorBarClicks, AStepBecomesTheCurrentColor) {
     const Huevox huevox;
-    Click(StepOnScreen(huevox, 100));
+    Click(huevox.barStepPlace(100));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 100, 100));
     EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 100, 100));
     EXPECT_EQ(huevox.text(IDC_txtSetBlue), "100");
@@ -25,7 +19,7 @@ TEST_F(ColorBarClicks, AStepBecomesTheCurrentColor) {
 TEST_F(ColorBarClicks, TheRampStaysUnderThePointerWhenNoChannelIsLimited) {
     const Huevox huevox;
     SetColor(huevox, ColorOf(100, 150, 200));
-    Click(StepOnScreen(huevox, 60));
+    Click(huevox.barStepPlace(60));
     ASSERT_BECOMES(huevox.sliders(), ColorOf(60, 110, 160));
     EXPECT_BECOMES(huevox.barStep(0), ColorOf(0, 50, 100));
     EXPECT_BECOMES(huevox.barStep(60), ColorOf(60, 110, 160));
@@ -38,7 +32,7 @@ TEST_F(ColorBarClicks, TheRampStaysUnderThePointerWhenNoChannelIsLimited) {
 TEST_F(ColorBarClicks, EveryStepCanBeClicked) {
     const Huevox huevox;
     for (int step = 0; step < 256; ++step) {
-        Click(StepOnScreen(huevox, step));
+        Click(huevox.barStepPlace(step));
         ASSERT_BECOMES(huevox.sliders(), ColorOf(255, step, step));
     }
     EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 255, 255));
@@ -47,8 +41,8 @@ TEST_F(ColorBarClicks, EveryStepCanBeClicked) {
 TEST_F(ColorBarClicks, TheStepOfTheCurrentColorChangesNothing) {
     const Huevox huevox;
     huevox.retype(Name(0), "signal");
-    Click(StepOnScreen(huevox, 0));
-    Click(StepOnScreen(huevox, 0));
+    Click(huevox.barStepPlace(0));
+    Click(huevox.barStepPlace(0));
     // The input behind the clicks has arrived when this has.
     huevox.selectMark(1);
     EXPECT_EQ(huevox.backColor(Name(0)), ColorOf(255, 255, 255));
@@ -58,14 +52,14 @@ TEST_F(ColorBarClicks, TheStepOfTheCurrentColorChangesNothing) {
 TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
     const Huevox huevox;
     huevox.retype(Name(0), "signal");
-    Click(StepOnScreen(huevox, 20));
+    Click(huevox.barStepPlace(20));
     EXPECT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
 }
 
 TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
     const Huevox huevox;
-    RightClick(StepOnScreen(huevox, 100));
-    PressButton(StepOnScreen(huevox, 100));
+    RightClick(huevox.barStepPlace(100));
+    PressButton(huevox.barStepPlace(100));
     ReleaseButton(CenterOf(huevox.control(IDC_frmSet)));
     huevox.selectMark(1);
     EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));

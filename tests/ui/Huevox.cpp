@@ -1,6 +1,5 @@
 #include "tests/ui/Huevox.h"
 
-#include "mainwindow/ColorRamp.h"
 #include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
@@ -143,10 +142,14 @@ Color Huevox::sliders() const {
 
 Color Huevox::sample(int mark) const { return Pixel(CenterOf(control(IDC_picSample + mark))); }
 
-Color Huevox::barStep(int step) const {
+POINT Huevox::barStepPlace(int step) const {
     // The right edge of a step may lie under its neighbour, its left edge never does.
-    return Pixel(OnScreen(control(IDC_lblColorBar), {BarStepLeft(step), barStepHeight / 2}));
+    const int left =
+        ::MulDiv(step * 731 / 255, static_cast<int>(::GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
+    return OnScreen(control(IDC_lblColorBar), {left, 10});
 }
+
+Color Huevox::barStep(int step) const { return Pixel(barStepPlace(step)); }
 
 Color Huevox::backColor(int id) const {
     RECT area{};

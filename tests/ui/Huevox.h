@@ -47,6 +47,8 @@ public:
     Color sample(int mark) const;
     /// The colour that is on the screen in the middle of the bar's step.
     Color barStep(int step) const;
+    /// The left edge of the bar's step on the screen.
+    POINT barStepPlace(int step) const;
     Color backColor(int id) const;
     bool isToolButtonEnabled(int command) const;
     /// The middle of a tool-bar button on the screen.
