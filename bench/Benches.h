@@ -4,3 +4,4 @@
 void BenchStart();
 void BenchChange();
 void BenchOpen();
+void BenchPick();

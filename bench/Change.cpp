@@ -6,6 +6,7 @@
 
 #include "bench/Benches.h"
 #include "bench/Figures.h"
+#include "bench/Pump.h"
 #include "mainwindow/frmMain.h"
 #include "resources/resource.h"
 #include "support/AppState.h"
@@ -13,11 +14,6 @@
 #include "toolkit/Pump.h"
 
 namespace {
-
-void PumpAll() {
-    MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
-}
 
 void PaintAll(HWND window) { ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
 

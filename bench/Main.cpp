@@ -7,5 +7,6 @@ int main(int count, char** arguments) {
     const std::string_view which = count > 1 ? arguments[1] : "all";
     if (which == "start" || which == "all") BenchStart();
     if (which == "change" || which == "all") BenchChange();
+    if (which == "pick" || which == "all") BenchPick();
     if (which == "open" || which == "all") BenchOpen();
 }
