@@ -112,6 +112,5 @@ void BenchChange() {
     PrintRow("the same five controls told directly", wall[1], processor[1]);
     PrintRow("the program's own part", wall[2], processor[2]);
     std::printf("\nGDI handles lost in %d changes: %d\n\n", rounds * 250, handles - FreeHandles());
-    state.settings.promptToSave = 0;
-    window.unload();
+    CloseUnasked(window, state);
 }

@@ -2,7 +2,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,7 +26,7 @@ std::string PaletteOfSize(std::size_t size, std::string_view filler) {
 void ReadPlainly() {
     const OwnedFile file = OpenForReading(path);
     const DWORD size = ::GetFileSize(file.get(), nullptr);
-    const auto text = std::make_unique_for_overwrite<char[]>(size);
+    const OwnedGlobal text(::GlobalAlloc(GMEM_FIXED, size));
     DWORD read = 0;
     if (!::ReadFile(file.get(), text.get(), size, &read, nullptr) || read != size) std::abort();
 }

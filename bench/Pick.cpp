@@ -80,6 +80,5 @@ void BenchPick() {
     std::printf("| reading the pointer and the pixel alone | %.3f |\n", platform);
     std::printf("| the program's own part | %.3f |\n\n", program - platform);
     ::SendMessageA(drag.sample, WM_CANCELMODE, 0, 0);
-    state.settings.promptToSave = 0;
-    window.unload();
+    CloseUnasked(window, state);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::string_view lineEnd = "\r\n";
+constexpr std::string_view crLf = "\r\n";
 constexpr std::size_t mostText = 64 * 1024 * 1024;  // no palette has so long lines
 
 }  // namespace
@@ -28,9 +28,9 @@ std::vector<std::string_view> FirstLines::kept() const {
     std::vector<std::string_view> lines;
     std::string_view rest = text;
     while (!rest.empty() && lines.size() < mostKept) {
-        const std::size_t end = std::min(rest.find(lineEnd), rest.size());
+        const std::size_t end = std::min(rest.find(crLf), rest.size());
         lines.push_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + lineEnd.size(), rest.size()));
+        rest.remove_prefix(std::min(end + crLf.size(), rest.size()));
     }
     return lines;
 }

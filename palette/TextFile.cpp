@@ -49,12 +49,22 @@ public:
     }
 
     void takePlaceOf(const std::string& path) {
-        constexpr DWORD inOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-        isMoved = ::MoveFileExA(name.data(), path.c_str(), inOneStep) != FALSE;
+        // Scanners and searches open a file for a moment; meanwhile it cannot be replaced.
+        constexpr int attempts = 10;
+        constexpr DWORD pause = 20;
+        for (int attempt = 0; attempt < attempts && !isMoved; ++attempt) {
+            if (attempt > 0) ::Sleep(pause);
+            isMoved = moveTo(path);
+        }
         Check(isMoved);
     }
 
 private:
+    bool moveTo(const std::string& path) const {
+        constexpr DWORD inOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        return ::MoveFileExA(name.data(), path.c_str(), inOneStep) != FALSE;
+    }
+
     std::array<char, MAX_PATH> name{};
     bool isMoved = false;
 };

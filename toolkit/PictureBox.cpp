@@ -24,7 +24,7 @@ LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return Control::onMessage(message, wParam, lParam);
 }
 
-void PictureBox::raiseMouse(UINT message, WPARAM wParam) {
+void PictureBox::raiseMouse(UINT message, WPARAM wParam) const {
     if (message == WM_MOUSEMOVE) MouseMove.raise(HeldButtons(wParam));
     if (const int button = PressedButton(message)) MouseDown.raise(button);
     if (const int button = ReleasedButton(message)) MouseUp.raise(button);

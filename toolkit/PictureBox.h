@@ -27,7 +27,7 @@ public:
 private:
     void attached() override { receive(); }
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void raiseMouse(UINT message, WPARAM wParam);
+    void raiseMouse(UINT message, WPARAM wParam) const;
 
     COLORREF back = ::GetSysColor(COLOR_BTNFACE);
 };

@@ -57,7 +57,7 @@ TEST(FirstLines, WantsNoMoreThanMakesADifference) {
 }
 
 TEST(FirstLines, KeepsNoMoreThan64MegabytesOfOneLine) {
-    constexpr std::size_t megabyte = 1024 * 1024;
+    constexpr std::size_t megabyte = 1'048'576;
     const std::string block(megabyte, 'x');
     FirstLines lines(2, 2);
     for (int taken = 1; taken < 64; ++taken) ASSERT_TRUE(lines.take(block)) << taken;

@@ -53,8 +53,7 @@ BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
 
 Huevox::Huevox(WORD showCommand) {
     start(showCommand);
-    if (!waitForWindow())
-        ADD_FAILURE() << (isRunning() ? "the program shows no window" : "the program has ended");
+    if (!waitForWindow()) ADD_FAILURE() << "no window; the program's exit code is " << exitCode();
 }
 
 Huevox::Huevox(DoNotWait, WORD showCommand) { start(showCommand); }
@@ -65,8 +64,9 @@ void Huevox::start(WORD showCommand) {
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
     std::string command = HUEVOX_EXE;
-    ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                     &process);
+    const BOOL hasStarted = ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                             nullptr, &startup, &process);
+    EXPECT_TRUE(hasStarted) << "error " << ::GetLastError();
 }
 
 Huevox::~Huevox() {
@@ -108,7 +108,10 @@ void Huevox::kill() const {
 }
 
 int Huevox::waitForEnd() const {
-    if (::WaitForSingleObject(process.hProcess, limit) != WAIT_OBJECT_0) return -1;
+    return ::WaitForSingleObject(process.hProcess, limit) == WAIT_OBJECT_0 ? exitCode() : -1;
+}
+
+int Huevox::exitCode() const {
     DWORD code = 0;
     ::GetExitCodeProcess(process.hProcess, &code);
     return static_cast<int>(code);

@@ -32,6 +32,8 @@ public:
     void kill() const;
     /// The exit code, when the program ends in time; -1 when it does not.
     int waitForEnd() const;
+    /// STILL_ACTIVE while the program runs.
+    int exitCode() const;
 
     /// The message box or dialog that is on the screen, or nullptr. waitForDialog waits for one.
     HWND dialog() const;
