@@ -6,6 +6,7 @@
 
 #include "toolkit/Control.h"
 #include "toolkit/DialogTemplate.h"
+#include "toolkit/FocusMove.h"
 #include "toolkit/FormWindow.h"
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
@@ -230,12 +231,7 @@ LRESULT Form::onActivated() {
 }
 
 LRESULT Form::onFocusLeft(HWND left) {
-    const HWND focus = ::GetFocus();
-    const bool isFocusUsable = focus && focus != window && focus != left;
-    if (!isActive || isFocusUsable) return 0;
-    const bool isLeftUsable = ::IsWindowEnabled(left) && ::IsWindowVisible(left);
-    const HWND next = isLeftUsable ? left : ::GetNextDlgTabItem(window, left, FALSE);
-    ::SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    if (isActive) MoveFocusOn(window, left);
     return 0;
 }
 
