@@ -6,10 +6,10 @@
 #include "resources/resource.h"
 
 ColorBar::ColorBar(Form& form) : lblColorBar(form, IDC_lblColorBar) {
-    std::vector<RECT> steps;
+    std::vector<Area> steps;
     for (int step = 0; step < barSteps; ++step) {
-        const int left = BarStepLeft(step);
-        steps.push_back({left, 0, left + barStepWidth, barStepHeight});
+        const int left = BarStepLeft(step) * twipsPerPixel;
+        steps.push_back({left, 0, left + barStepWidth * twipsPerPixel, barStepHeight * twipsPerPixel});
     }
     lblColorBar.setPlaces(std::move(steps));
 }

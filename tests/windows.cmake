@@ -9,6 +9,7 @@ add_executable(program_tests
     program/FoldersTest.cpp
     program/MainWindowTest.cpp
     program/RegistryStringHandlerTest.cpp
+    toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
     toolkit/YieldTest.cpp

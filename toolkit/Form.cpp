@@ -159,6 +159,7 @@ LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ENDSESSION: return onEndSession(wParam != FALSE);
         case activatedMessage: return onActivated();
         case focusLeftMessage: return onFocusLeft(reinterpret_cast<HWND>(lParam));
+        case WM_CTLCOLORDLG:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
             if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
@@ -190,6 +191,7 @@ LRESULT Form::onScroll(int code, int position, HWND sender) {
 }
 
 LRESULT Form::onColor(HDC context, HWND sender) {
+    if (sender == window) return reinterpret_cast<LRESULT>(background);
     Control* control = controls.withWindow(sender);
     return control ? reinterpret_cast<LRESULT>(control->onColor(context)) : 0;
 }

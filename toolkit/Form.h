@@ -10,6 +10,7 @@
 #include "toolkit/Event.h"
 #include "toolkit/Handles.h"
 #include "toolkit/Platform.h"
+#include "toolkit/Twips.h"
 
 class Control;
 class Timer;
@@ -58,9 +59,13 @@ public:
     /// The pointer over the form and while it has captured the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
+    /// One of the platform's own brushes, in place of that of dialogs.
+    void setBackground(HBRUSH brush) { background = brush; }
 
     /// Pixels at 96 DPI in pixels of this window.
     int scaled(int pixels) const { return ::MulDiv(pixels, dpi, USER_DEFAULT_SCREEN_DPI); }
+    /// Twips in pixels of this window.
+    Area scaled(const Area& twips) const { return PixelsFromTwips(twips, dpi); }
 
     /// The control's tool tips are not what they were.
     void tipChanged(const Control& control);
@@ -101,6 +106,7 @@ private:
     HWND window = nullptr;
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;
+    HBRUSH background = nullptr;
     OwnedFont font;
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;
