@@ -22,7 +22,7 @@ Form* formBeingCreated = nullptr;
 
 }  // namespace
 
-Form::Form(const char* name) : name(name) {}
+Form::Form(const char* name, int twipsPerUnit) : name(name), twipsPerUnit(twipsPerUnit) {}
 
 Form::~Form() {
     if (window) ::DestroyWindow(window);
@@ -47,14 +47,13 @@ void Form::createFrame(const DialogTemplate& layout) {
     loadedForms.push_back(this);
     dpi = static_cast<int>(::GetDpiForWindow(window));
     font = MessageFont(dpi);
-    PlaceFormWindow(window, scaled(layout.width), scaled(layout.height), dpi);
+    PlaceFormWindow(window, fromUnits(layout.width), fromUnits(layout.height), dpi);
 }
 
 void Form::createControl(const TemplateItem& item) {
-    const int left = scaled(item.x);
-    const int top = scaled(item.y);
     // Edges are scaled, not sizes, so that what meets at 96 DPI meets at every DPI.
-    RECT place = {left, top, scaled(item.x + item.width), scaled(item.y + item.height)};
+    RECT place = {fromUnits(item.x), fromUnits(item.y), fromUnits(item.x + item.width),
+                  fromUnits(item.y + item.height)};
     Control* control = controls.withId(static_cast<int>(item.id));
     const Control* container = control ? control->container : nullptr;
     const HWND parent = container ? container->window : window;

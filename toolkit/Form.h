@@ -18,12 +18,12 @@ class ToolTips;
 struct DialogTemplate;
 struct TemplateItem;
 
-/// A window made from a DIALOGEX template whose units are pixels at 96 DPI. Forms are unloaded, not deleted,
-/// while handlers may be on the stack.
+/// A window made from a DIALOGEX template whose units are pixels at 96 DPI, or twips. Forms are unloaded, not
+/// deleted, while handlers may be on the stack.
 class Form {
 public:
     /// name is the window class, the name of the template and the name of the accelerators.
-    explicit Form(const char* name);
+    explicit Form(const char* name, int twipsPerUnit = twipsPerPixel);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
     virtual ~Form();
@@ -78,10 +78,10 @@ private:
     friend class Timer;
     enum class State { unloaded, loading, loaded, unloading };
 
+    int fromUnits(int units) const { return PixelsFromTwips(units * twipsPerUnit, dpi); }
     void add(Timer& timer) { timers.push_back(&timer); }
     /// The window is about to be disabled or hidden: if it has the focus, the next control gets it.
     void focusLeaves(HWND leaving);
-
     static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(int id, int code, HWND sender);
@@ -103,6 +103,7 @@ private:
     void close();
 
     const char* name;
+    int twipsPerUnit;
     HWND window = nullptr;
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;

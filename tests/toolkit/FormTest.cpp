@@ -92,6 +92,22 @@ TEST_F(FormTest, EdgesStandWhereTheTemplateSays) {
     form.unload();
 }
 
+TEST_F(FormTest, ATemplateMayBeInTwips) {
+    TwipsForm twips;
+    twips.load();
+    RECT client{};
+    ::GetClientRect(twips.handle(), &client);
+    const Area all = twips.scaled(Area{0, 0, 1750, 5420});
+    EXPECT_EQ(client.right, all.right);
+    EXPECT_EQ(client.bottom, all.bottom);
+    RECT strip{};
+    ::GetWindowRect(twips.cellTest.handle(), &strip);
+    ::MapWindowPoints(nullptr, twips.handle(), reinterpret_cast<POINT*>(&strip), 2);
+    EXPECT_EQ(strip.top, twips.scaled(28));
+    EXPECT_EQ(strip.bottom, all.bottom);
+    twips.unload();
+}
+
 TEST_F(FormTest, AHeldControlIsAChildOfItsContainerAtItsPlaceOnTheForm) {
     form.load();
     EXPECT_EQ(::GetParent(form.picTest.handle()), form.picContainer.handle());

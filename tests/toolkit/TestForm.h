@@ -45,6 +45,13 @@ struct TestForm : Form {
     Timer tmrTest{*this, IDC_tmrTest, 20};
 };
 
+/// A form whose template is in twips.
+struct TwipsForm : Form {
+    TwipsForm() : Form("frmTwips", 1) {}
+
+    CellStrip cellTest{*this, IDC_cellTest};
+};
+
 /// Takes back the end of the message loop that the last form of an earlier test has asked for.
 inline void ForgetQuit() {
     MSG message;
