@@ -8,6 +8,7 @@
 #include "toolkit/DialogTemplate.h"
 #include "toolkit/FocusMove.h"
 #include "toolkit/FormWindow.h"
+#include "toolkit/ModalHold.h"
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
 #include "toolkit/WindowText.h"
@@ -19,6 +20,7 @@ constexpr UINT focusLeftMessage = WM_APP + 2;
 
 std::vector<Form*> loadedForms;
 Form* formBeingCreated = nullptr;
+ModalHold modalHold;
 
 }  // namespace
 
@@ -45,6 +47,7 @@ void Form::createFrame(const DialogTemplate& layout) {
     CreateFormWindow(name, layout, &Form::proc);
     if (!window) throw std::runtime_error("the platform refused a window");
     loadedForms.push_back(this);
+    modalHold.join(window);
     dpi = static_cast<int>(::GetDpiForWindow(window));
     font = MessageFont(dpi);
     PlaceFormWindow(window, fromUnits(layout.width), fromUnits(layout.height), dpi);
@@ -164,6 +167,7 @@ LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
                 return brush;
             break;
+        case WM_ENABLE: modalHold.changed(form, wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam) != WA_INACTIVE); break;
         case WM_SETCURSOR:
             if (onMouse()) return TRUE;
@@ -250,6 +254,7 @@ bool Form::onMouse() {
 void Form::onDestroyed() {
     controls.detachAll();
     std::erase(loadedForms, this);
+    modalHold.leave(window);
     toolTips.reset();
     window = nullptr;
     state = State::unloaded;
