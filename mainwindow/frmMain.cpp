@@ -15,7 +15,8 @@ frmMain::frmMain(AppState& state)
       marks(*this, state.marks, edit, channels, *this),
       colorBar(*this),
       autocopy(*this, state, edit, commands, channels, marks, *this),
-      palettes(*this, state, edit, commands, channels, marks, *this) {
+      palettes(*this, state, edit, commands, channels, marks, *this),
+      pickers(*this, state.settings, channels) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);

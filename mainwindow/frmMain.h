@@ -9,6 +9,7 @@
 #include "mainwindow/CommandBar.h"
 #include "mainwindow/EditState.h"
 #include "palette/PaletteCommands.h"
+#include "pickers/Pickers.h"
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
@@ -38,5 +39,6 @@ private:
     ColorBar colorBar;
     Autocopy autocopy;
     PaletteCommands palettes;
+    Pickers pickers;
     unsigned turns = 0;
 };

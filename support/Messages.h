@@ -49,6 +49,9 @@ inline constexpr const char* jsNamesTip =
     "Check this check box if you want to copy the JavaScript name instead of the RGB colour code";
 inline constexpr const char* previewTip =
     "This is what you get if you paste right now in another application";
+inline constexpr const char* websafeTip = "Click here to open the Websafe Palette";
+inline constexpr const char* failsafeTip = "Click here to open the Failsafe Palette";
+inline constexpr const char* javaScriptTip = "Click here to open the JavaScript Palette";
 inline constexpr const char* pasteEnabledTip = "Paste Colour To Selected Colour Mark (F3)";
 inline constexpr const char* pasteDisabledTip = "Use the Copy button to enable";
 
