@@ -86,6 +86,11 @@ void Click(POINT screen) {
 
 void Click(HWND window) { Click(CenterOf(window)); }
 
+void RightClick(POINT screen) {
+    SendMouse(screen, MOUSEEVENTF_RIGHTDOWN);
+    SendMouse(screen, MOUSEEVENTF_RIGHTUP);
+}
+
 void DoubleClick(HWND window) {
     Click(window);
     Click(window);

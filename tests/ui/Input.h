@@ -22,4 +22,5 @@ void PressButton(POINT screen);
 void ReleaseButton(POINT screen);
 void Click(POINT screen);
 void Click(HWND window);
+void RightClick(POINT screen);
 void DoubleClick(HWND window);
