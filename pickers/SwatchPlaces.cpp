@@ -32,8 +32,8 @@ std::vector<Area> FailsafePlaces() {
 }
 
 std::vector<Area> JavaScriptPlaces() {
-    std::vector<Area> places;
+    std::vector<Area> places(JAVASCRIPT_COLUMNS * JAVASCRIPT_ROWS);
     for (int i = 0; i < JAVASCRIPT_COLUMNS * JAVASCRIPT_ROWS; ++i)
-        places.push_back(Square(i % JAVASCRIPT_COLUMNS, i / JAVASCRIPT_COLUMNS, JAVASCRIPT_SIZE));
+        places[i] = Square(i % JAVASCRIPT_COLUMNS, i / JAVASCRIPT_COLUMNS, JAVASCRIPT_SIZE);
     return places;
 }
