@@ -19,14 +19,15 @@ function(render_icon name)
 endfunction()
 
 render_icon(huevox 16 20 24 32 48 64 128 256)
-foreach(name New Open OpenInNotepad Save CopyColor PasteColor Find CustomFormat Options Help ColorProperties)
+foreach(name New Open OpenInNotepad Save CopyColor PasteColor Find CustomFormat Options Help ColorProperties
+    Back Forward)
     render_icon(${name} 16 20 24 32)
 endforeach()
 
 string(REPLACE "." "," version_numbers "${PROJECT_VERSION}.0")
 configure_file(resources/version.rc.h.in ${PROJECT_BINARY_DIR}/resources/version.rc.h @ONLY)
 file(GLOB resource_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.rc
-    ${PROJECT_SOURCE_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc)
+    ${PROJECT_SOURCE_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc ${PROJECT_SOURCE_DIR}/*/*.rc.h)
 
 # add_resources(LIBRARY FILE): an object library of a resource script and all that it takes in.
 function(add_resources library file)

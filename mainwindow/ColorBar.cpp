@@ -8,10 +8,10 @@
 ColorBar::ColorBar(Form& form, ChannelEditors& channels)
     : channels(channels), lblColorBar(form, IDC_lblColorBar) {
     lblColorBar.Click.bind(this, &ColorBar::lblColorBar_Click);
-    std::vector<RECT> steps;
+    std::vector<Area> steps;
     for (int step = 0; step < barSteps; ++step) {
-        const int left = BarStepLeft(step);
-        steps.push_back({left, 0, left + barStepWidth, barStepHeight});
+        const int left = BarStepLeft(step) * twipsPerPixel;
+        steps.push_back({left, 0, left + barStepWidth * twipsPerPixel, barStepHeight * twipsPerPixel});
     }
     lblColorBar.setPlaces(std::move(steps));
 }

@@ -17,7 +17,8 @@ frmMain::frmMain(AppState& state)
       colorBar(*this, channels),
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
-      screenPick(*this, commands, channels, marks) {
+      screenPick(*this, commands, channels, marks),
+      pickers(*this, state.settings, channels) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);

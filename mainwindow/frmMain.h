@@ -11,6 +11,7 @@
 #include "mainwindow/EditState.h"
 #include "mainwindow/ScreenPick.h"
 #include "palette/PaletteCommands.h"
+#include "pickers/Pickers.h"
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
@@ -42,5 +43,6 @@ private:
     Autocopy autocopy;
     PaletteCommands palettes;
     ScreenPick screenPick;
+    Pickers pickers;
     unsigned turns = 0;
 };

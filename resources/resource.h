@@ -16,6 +16,8 @@
 #define IDI_Options 19
 #define IDI_Help 20
 #define IDI_ColorProperties 21
+#define IDI_Back 22
+#define IDI_Forward 23
 
 // Commands of the main window, in the order of its menu.
 #define IDM_mnuFileNew 40001
@@ -33,6 +35,10 @@
 #define IDM_mnuHomePage 40032
 #define IDM_mnuHelpColorProperties 40033
 #define IDM_mnuHelpAboutHuevox 40034
+
+// Buttons of frmJavaScript's tool bar.
+#define IDM_Alphabetically 40101
+#define IDM_DotNet 40102
 
 // Controls of frmMain. Arrays are consecutive from their base.
 #define IDC_tbrTools 1001
@@ -66,3 +72,9 @@
 #define IDC_cmdFailsafe 1302
 #define IDC_cmdJavaScript 1303
 #define IDC_chkColorPick 1304
+
+// Controls of the palette windows.
+#define IDC_lblWebsafeColor 1401
+#define IDC_lblFailsafeColor 1402
+#define IDC_lblJavaScriptColor 1403
+#define IDC_tbrSortTools 1404

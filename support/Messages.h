@@ -68,6 +68,9 @@ inline constexpr const char* colorPickTip = "Uncheck this check box to open pale
 inline constexpr const char* openTip = "Open Palette In Huevox (Ctrl+O)";
 inline constexpr const char* notepadTip = "Open Palette In Notepad (Ctrl+I)";
 inline constexpr const char* openDisabledTip = "Uncheck the check box Colour Pick Mode to enable";
+inline constexpr const char* websafeTip = "Click here to open the Websafe Palette";
+inline constexpr const char* failsafeTip = "Click here to open the Failsafe Palette";
+inline constexpr const char* javaScriptTip = "Click here to open the JavaScript Palette";
 inline constexpr const char* pasteEnabledTip = "Paste Colour To Selected Colour Mark (F3)";
 inline constexpr const char* pasteDisabledTip = "Use the Copy button to enable";
 

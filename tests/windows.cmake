@@ -9,10 +9,14 @@ add_executable(program_tests
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
     program/MainWindowTest.cpp
+    program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
     program/ScreenPickTest.cpp
+    toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
+    toolkit/ModalHoldTest.cpp
+    toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
     ui/Input.cpp)
 add_resources(test_resources toolkit/TestForm.rc)
@@ -33,6 +37,7 @@ add_executable(ui_tests
     ui/Huevox.cpp
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
+    ui/JavaScriptPickerTest.cpp
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp
     ui/NotepadTest.cpp
@@ -40,6 +45,9 @@ add_executable(ui_tests
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp
     ui/Palettes.cpp
+    ui/PickerWindow.cpp
+    ui/PickerWindowsTest.cpp
+    ui/PickersTest.cpp
     ui/ScreenPickTest.cpp
     ui/SettingsTest.cpp
     ui/SlidersTest.cpp
@@ -50,7 +58,8 @@ add_executable(ui_tests
 target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
 add_dependencies(ui_tests Huevox)
 target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
-    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/")
+    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
+    HUEVOX_COLOR_NAMES="Z:${color_names}")
 
 add_executable(StandIn WIN32 ui/StandIn.cpp)
 target_link_libraries(StandIn PRIVATE huevox_flags)
@@ -76,6 +85,14 @@ add_test(NAME ui.on_a_full_disk
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+foreach(dpi 120 144 192)
+    add_test(NAME program.pickers_at_${dpi}_dpi
+        COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --dpi ${dpi}
+            ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests>
+            --gtest_filter=PickerForms.*:CellStripTest.*
+        WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+    set_tests_properties(program.pickers_at_${dpi}_dpi PROPERTIES TIMEOUT 120)
+endforeach()
 set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk PROPERTIES TIMEOUT 120)
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)

@@ -27,8 +27,15 @@ void CellStrip::setTips(std::vector<std::string> cellTips) {
 
 void CellStrip::showTips(ToolTips& toolTips) const {
     const std::size_t count = std::min(places.size(), tips.size());
-    for (std::size_t cell = 0; cell < count; ++cell)
-        toolTips.set(handle(), static_cast<int>(cell), scaledPlace(places[cell]), tips[cell]);
+    // The first tip that has the pointer is shown, and of cells that overlap the later lies on top.
+    for (std::size_t cell = count; cell-- > 0;)
+        toolTips.set(handle(), static_cast<int>(cell), placeOf(cell), tips[cell]);
+}
+
+void CellStrip::attached() {
+    colors.clear();
+    tips.clear();
+    receive();
 }
 
 LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -61,7 +68,7 @@ void CellStrip::raiseMouse(UINT message, LPARAM lParam) {
 
 int CellStrip::cellAt(POINT point) const {
     for (std::size_t cell = places.size(); cell-- > 0;) {
-        const RECT place = scaledPlace(places[cell]);
+        const RECT place = placeOf(cell);
         if (::PtInRect(&place, point)) return static_cast<int>(cell);
     }
     return -1;
@@ -69,13 +76,21 @@ int CellStrip::cellAt(POINT point) const {
 
 void CellStrip::paint() {
     const Painting painting(handle());
+    if (colors.empty()) paintBackground(painting);
     const std::size_t count = std::min(places.size(), colors.size());
     for (std::size_t cell = 0; cell < count; ++cell) {
-        FillWithColor(painting.context(), scaledPlace(places[cell]), static_cast<COLORREF>(colors[cell]));
+        FillWithColor(painting.context(), placeOf(cell), static_cast<COLORREF>(colors[cell]));
     }
 }
 
-RECT CellStrip::scaledPlace(const RECT& place) const {
-    return {form.scaled(place.left), form.scaled(place.top), form.scaled(place.right),
-            form.scaled(place.bottom)};
+void CellStrip::paintBackground(const Painting& painting) const {
+    const LRESULT brush =
+        ::SendMessageA(form.handle(), WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(painting.context()),
+                       reinterpret_cast<LPARAM>(form.handle()));
+    ::FillRect(painting.context(), &painting.area(), reinterpret_cast<HBRUSH>(brush));
+}
+
+RECT CellStrip::placeOf(std::size_t cell) const {
+    const Area place = form.scaled(places[cell]);
+    return {place.left, place.top, place.right, place.bottom};
 }

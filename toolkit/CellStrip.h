@@ -8,6 +8,9 @@
 #include "core/Color.h"
 #include "toolkit/Control.h"
 #include "toolkit/Event.h"
+#include "toolkit/Twips.h"
+
+class Painting;
 
 /// A window of class "CellStrip": a few hundred coloured cells, painted at once.
 class CellStrip : public Control {
@@ -20,11 +23,12 @@ public:
 
     static void registerClass() { registerOwnClass("CellStrip"); }
 
-    /// One colour a cell for as many cells as there are places; shows them at the next paint.
+    /// One colour a cell for as many cells as there are places; shows them at the next paint. A new window
+    /// has neither colours nor tips.
     void setColors(std::span<const PackedColor> cellColors);
 
-    /// Places in pixels at 96 DPI from the left and top of the strip; a later cell lies over an earlier one.
-    void setPlaces(std::vector<RECT> cellPlaces) { places = std::move(cellPlaces); }
+    /// Places in twips from the left and top of the strip; a later cell lies over an earlier one.
+    void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
     /// One tool tip a cell.
     void setTips(std::vector<std::string> cellTips);
@@ -42,17 +46,19 @@ public:
     };
 
 private:
-    void attached() override { receive(); }
+    void attached() override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
+    /// As the form's, while there are no colours.
+    void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
     void release();
     /// -1 where there is none.
     int cellAt(POINT point) const;
-    RECT scaledPlace(const RECT& place) const;
+    RECT placeOf(std::size_t cell) const;
     void showTips(ToolTips& toolTips) const override;
 
-    std::vector<RECT> places;
+    std::vector<Area> places;
     std::vector<PackedColor> colors;
     std::vector<std::string> tips;
     int pressedCell = -1;

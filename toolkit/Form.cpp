@@ -6,7 +6,9 @@
 
 #include "toolkit/Control.h"
 #include "toolkit/DialogTemplate.h"
+#include "toolkit/FocusMove.h"
 #include "toolkit/FormWindow.h"
+#include "toolkit/ModalHold.h"
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
 #include "toolkit/WindowText.h"
@@ -18,10 +20,11 @@ constexpr UINT focusLeftMessage = WM_APP + 2;
 
 std::vector<Form*> loadedForms;
 Form* formBeingCreated = nullptr;
+ModalHold modalHold;
 
 }  // namespace
 
-Form::Form(const char* name) : name(name) {}
+Form::Form(const char* name, int twipsPerUnit) : name(name), twipsPerUnit(twipsPerUnit) {}
 
 Form::~Form() {
     if (window) ::DestroyWindow(window);
@@ -44,16 +47,16 @@ void Form::createFrame(const DialogTemplate& layout) {
     CreateFormWindow(name, layout, &Form::proc);
     if (!window) throw std::runtime_error("the platform refused a window");
     loadedForms.push_back(this);
+    modalHold.join(window);
     dpi = static_cast<int>(::GetDpiForWindow(window));
     font = MessageFont(dpi);
-    PlaceFormWindow(window, scaled(layout.width), scaled(layout.height), dpi);
+    PlaceFormWindow(window, fromUnits(layout.width), fromUnits(layout.height), dpi);
 }
 
 void Form::createControl(const TemplateItem& item) {
-    const int left = scaled(item.x);
-    const int top = scaled(item.y);
     // Edges are scaled, not sizes, so that what meets at 96 DPI meets at every DPI.
-    RECT place = {left, top, scaled(item.x + item.width), scaled(item.y + item.height)};
+    RECT place = {fromUnits(item.x), fromUnits(item.y), fromUnits(item.x + item.width),
+                  fromUnits(item.y + item.height)};
     Control* control = controls.withId(static_cast<int>(item.id));
     const Control* container = control ? control->container : nullptr;
     const HWND parent = container ? container->window : window;
@@ -158,11 +161,13 @@ LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ENDSESSION: return onEndSession(wParam != FALSE);
         case activatedMessage: return onActivated();
         case focusLeftMessage: return onFocusLeft(reinterpret_cast<HWND>(lParam));
+        case WM_CTLCOLORDLG:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
             if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
                 return brush;
             break;
+        case WM_ENABLE: modalHold.changed(form, wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam) != WA_INACTIVE); break;
         case WM_SETCURSOR:
             if (onMouse()) return TRUE;
@@ -189,6 +194,7 @@ LRESULT Form::onScroll(int code, int position, HWND sender) {
 }
 
 LRESULT Form::onColor(HDC context, HWND sender) {
+    if (sender == window) return reinterpret_cast<LRESULT>(background);
     Control* control = controls.withWindow(sender);
     return control ? reinterpret_cast<LRESULT>(control->onColor(context)) : 0;
 }
@@ -230,12 +236,7 @@ LRESULT Form::onActivated() {
 }
 
 LRESULT Form::onFocusLeft(HWND left) {
-    const HWND focus = ::GetFocus();
-    const bool isFocusUsable = focus && focus != window && focus != left;
-    if (!isActive || isFocusUsable) return 0;
-    const bool isLeftUsable = ::IsWindowEnabled(left) && ::IsWindowVisible(left);
-    const HWND next = isLeftUsable ? left : ::GetNextDlgTabItem(window, left, FALSE);
-    ::SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    if (isActive) MoveFocusOn(window, left);
     return 0;
 }
 
@@ -253,6 +254,7 @@ bool Form::onMouse() {
 void Form::onDestroyed() {
     controls.detachAll();
     std::erase(loadedForms, this);
+    modalHold.leave(window);
     toolTips.reset();
     window = nullptr;
     state = State::unloaded;

@@ -10,6 +10,7 @@
 #include "toolkit/Event.h"
 #include "toolkit/Handles.h"
 #include "toolkit/Platform.h"
+#include "toolkit/Twips.h"
 
 class Control;
 class Timer;
@@ -17,12 +18,12 @@ class ToolTips;
 struct DialogTemplate;
 struct TemplateItem;
 
-/// A window made from a DIALOGEX template whose units are pixels at 96 DPI. Forms are unloaded, not deleted,
-/// while handlers may be on the stack.
+/// A window made from a DIALOGEX template whose units are pixels at 96 DPI, or twips. Forms are unloaded, not
+/// deleted, while handlers may be on the stack.
 class Form {
 public:
     /// name is the window class, the name of the template and the name of the accelerators.
-    explicit Form(const char* name);
+    explicit Form(const char* name, int twipsPerUnit = twipsPerPixel);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
     virtual ~Form();
@@ -58,9 +59,13 @@ public:
     /// The pointer over the form and while it has captured the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
+    /// One of the platform's own brushes, in place of that of dialogs.
+    void setBackground(HBRUSH brush) { background = brush; }
 
     /// Pixels at 96 DPI in pixels of this window.
     int scaled(int pixels) const { return ::MulDiv(pixels, dpi, USER_DEFAULT_SCREEN_DPI); }
+    /// Twips in pixels of this window.
+    Area scaled(const Area& twips) const { return PixelsFromTwips(twips, dpi); }
 
     /// The control's tool tips are not what they were.
     void tipChanged(const Control& control);
@@ -73,10 +78,10 @@ private:
     friend class Timer;
     enum class State { unloaded, loading, loaded, unloading };
 
+    int fromUnits(int units) const { return PixelsFromTwips(units * twipsPerUnit, dpi); }
     void add(Timer& timer) { timers.push_back(&timer); }
     /// The window is about to be disabled or hidden: if it has the focus, the next control gets it.
     void focusLeaves(HWND leaving);
-
     static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onCommand(int id, int code, HWND sender);
@@ -98,9 +103,11 @@ private:
     void close();
 
     const char* name;
+    int twipsPerUnit;
     HWND window = nullptr;
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;
+    HBRUSH background = nullptr;
     OwnedFont font;
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;

@@ -75,8 +75,11 @@ void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi) {
     const int height = area.bottom - area.top;
     RECT work{};
     ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    // Or the platform would cut a window off that is larger than the screen.
+    constexpr UINT uncut = SWP_NOSENDCHANGING;
     ::SetWindowPos(window, nullptr, (work.left + work.right - width) / 2,
-                   (work.top + work.bottom - height) / 2, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+                   (work.top + work.bottom - height) / 2, width, height,
+                   SWP_NOZORDER | SWP_NOACTIVATE | uncut);
 }
 
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {

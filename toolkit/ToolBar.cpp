@@ -10,6 +10,11 @@ namespace {
 constexpr int pictureSize = 16;
 constexpr int buttonSize = 24;
 
+BYTE StyleOf(const ToolButton& button) {
+    if (button.command == 0) return BTNS_SEP;
+    return button.isChoice ? BTNS_CHECKGROUP : BTNS_BUTTON;
+}
+
 }  // namespace
 
 void ToolBar::fill(std::span<const ToolButton> buttons) {
@@ -18,7 +23,7 @@ void ToolBar::fill(std::span<const ToolButton> buttons) {
     for (const ToolButton& button : buttons) {
         TBBUTTON record{};
         record.fsState = TBSTATE_ENABLED;
-        record.fsStyle = button.command == 0 ? BTNS_SEP : BTNS_BUTTON;
+        record.fsStyle = StyleOf(button);
         record.idCommand = button.command;
         record.iBitmap = button.command == 0 ? 0 : static_cast<int>(icons.size());
         records.push_back(record);

@@ -14,6 +14,7 @@ struct ToolButton {
     int command;
     int icon;
     std::string_view tip;
+    bool isChoice = false;  ///< of neighbouring choices at most one is pressed, and stays so
 };
 
 /// Buttons that raise the form's Command, each with a picture and a tool tip, which it has while it is
@@ -26,6 +27,9 @@ public:
     void fill(std::span<const ToolButton> buttons);
 
     void setButtonEnabled(int command, bool isEnabled) { send(TB_ENABLEBUTTON, command, isEnabled); }
+    bool isPressed(int command) const { return send(TB_ISBUTTONCHECKED, command) != 0; }
+    /// Presses a choice and releases its neighbours; raises nothing.
+    void press(int command) { send(TB_CHECKBUTTON, command, TRUE); }
     void setButtonTip(int command, std::string_view tip);
 
 private:

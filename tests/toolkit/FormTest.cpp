@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -91,6 +90,22 @@ TEST_F(FormTest, EdgesStandWhereTheTemplateSays) {
     EXPECT_EQ(place.left, form.scaled(140));
     EXPECT_EQ(place.right, form.scaled(260));
     form.unload();
+}
+
+TEST_F(FormTest, ATemplateMayBeInTwips) {
+    TwipsForm twips;
+    twips.load();
+    RECT client{};
+    ::GetClientRect(twips.handle(), &client);
+    const Area all = twips.scaled(Area{0, 0, 1750, 5420});
+    EXPECT_EQ(client.right, all.right);
+    EXPECT_EQ(client.bottom, all.bottom);
+    RECT strip{};
+    ::GetWindowRect(twips.cellTest.handle(), &strip);
+    ::MapWindowPoints(nullptr, twips.handle(), reinterpret_cast<POINT*>(&strip), 2);
+    EXPECT_EQ(strip.top, twips.scaled(28));
+    EXPECT_EQ(strip.bottom, all.bottom);
+    twips.unload();
 }
 
 TEST_F(FormTest, AHeldControlIsAChildOfItsContainerAtItsPlaceOnTheForm) {
@@ -249,24 +264,5 @@ TEST_F(FormTest, ALabelThatShowsDataShowsAmpersandsAsTheyAre) {
     form.lblTest.setText("&H00&");
     EXPECT_EQ(TextOf(form.lblTest.handle()), "&H00&");
     EXPECT_TRUE(::GetWindowLongA(form.lblTest.handle(), GWL_STYLE) & SS_NOPREFIX);
-    form.unload();
-}
-
-TEST_F(FormTest, ACellStripPaintsAllCellsInOnePaint) {
-    form.cellTest.setPlaces({{0, 0, 60, 20}, {50, 0, 100, 20}});
-    show();
-    const std::array<PackedColor, 2> colors = {0x0000FF, 0x00FF00};
-    form.cellTest.setColors(colors);
-    EXPECT_TRUE(::GetUpdateRect(form.cellTest.handle(), nullptr, FALSE));
-    ::UpdateWindow(form.cellTest.handle());
-    EXPECT_FALSE(::GetUpdateRect(form.cellTest.handle(), nullptr, FALSE));
-    const HDC context = ::GetDC(form.cellTest.handle());
-    EXPECT_EQ(::GetPixel(context, 1, 10), 0x0000FFU);
-    EXPECT_EQ(::GetPixel(context, form.scaled(50) - 1, 10), 0x0000FFU);
-    EXPECT_EQ(::GetPixel(context, form.scaled(50), 10), 0x00FF00U);
-    EXPECT_EQ(::GetPixel(context, form.scaled(100) - 1, 10), 0x00FF00U);
-    ::ReleaseDC(form.cellTest.handle(), context);
-    form.cellTest.setColors(colors);
-    EXPECT_FALSE(::GetUpdateRect(form.cellTest.handle(), nullptr, FALSE));
     form.unload();
 }

@@ -13,7 +13,10 @@
 #define IDC_picTest 2024
 #define IDC_cellTest 2025
 #define IDC_tmrTest 2026
+#define IDC_tbrTest 2027
 #define IDM_mnuTest 41001
+#define IDM_firstChoice 41011
+#define IDM_secondChoice 41012
 
 #ifndef RC_INVOKED
 
@@ -27,6 +30,7 @@
 #include "toolkit/ScrollBar.h"
 #include "toolkit/TextBox.h"
 #include "toolkit/Timer.h"
+#include "toolkit/ToolBar.h"
 
 struct TestForm : Form {
     TestForm() : Form("frmTest") { picContainer.hold(picTest); }
@@ -43,6 +47,14 @@ struct TestForm : Form {
     PictureBox picTest{*this, IDC_picTest};
     CellStrip cellTest{*this, IDC_cellTest};
     Timer tmrTest{*this, IDC_tmrTest, 20};
+};
+
+/// A form whose template is in twips.
+struct TwipsForm : Form {
+    TwipsForm() : Form("frmTwips", 1) {}
+
+    CellStrip cellTest{*this, IDC_cellTest};
+    ToolBar tbrTest{*this, IDC_tbrTest};
 };
 
 /// Takes back the end of the message loop that the last form of an earlier test has asked for.

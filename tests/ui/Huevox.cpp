@@ -117,6 +117,10 @@ int Huevox::exitCode() const {
     return static_cast<int>(code);
 }
 
+HWND Huevox::form(const char* name) const { return Find(process.dwProcessId, name).found; }
+
+int Huevox::formCount(const char* name) const { return Find(process.dwProcessId, name).count; }
+
 HWND Huevox::dialog() const { return Find(process.dwProcessId, "#32770").found; }
 
 HWND Huevox::waitForDialog() const {
@@ -164,14 +168,14 @@ bool Huevox::isToolButtonEnabled(int command) const {
     return send(IDC_tbrTools, TB_ISBUTTONENABLED, command) != 0;
 }
 
-POINT Huevox::toolButton(int command) const {
+POINT Huevox::toolButton(HWND bar, int command) const {
     // The bar writes the answer into memory of its own process.
     void* remote = ::VirtualAllocEx(process.hProcess, nullptr, sizeof(RECT), MEM_COMMIT, PAGE_READWRITE);
-    send(IDC_tbrTools, TB_GETRECT, command, reinterpret_cast<LPARAM>(remote));
+    ::SendMessageA(bar, TB_GETRECT, command, reinterpret_cast<LPARAM>(remote));
     RECT area{};
     ::ReadProcessMemory(process.hProcess, remote, &area, sizeof area, nullptr);
     ::VirtualFreeEx(process.hProcess, remote, 0, MEM_RELEASE);
-    return OnScreen(control(IDC_tbrTools), {(area.left + area.right) / 2, (area.top + area.bottom) / 2});
+    return OnScreen(bar, {(area.left + area.right) / 2, (area.top + area.bottom) / 2});
 }
 
 std::string Huevox::toolTip() const {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Color.h"
+#include "resources/resource.h"
 #include "toolkit/Platform.h"
 
 /// Huevox.exe in a process of its own, started by the constructor and ended, by force if need be, by the
@@ -23,6 +24,9 @@ public:
 
     bool waitForWindow();
     HWND window() const { return main; }
+    /// The form of that name when it is on the screen, or nullptr, and how many there are.
+    HWND form(const char* name) const;
+    int formCount(const char* name) const;
     /// The control with that id, in whatever container it stands.
     HWND control(int id) const;
     HWND focus() const;
@@ -53,8 +57,9 @@ public:
     POINT barStepPlace(int step) const;
     Color backColor(int id) const;
     bool isToolButtonEnabled(int command) const;
-    /// The middle of a tool-bar button on the screen.
-    POINT toolButton(int command) const;
+    /// The middle of a tool-bar button on the screen; of the main window's bar, or of any.
+    POINT toolButton(int command) const { return toolButton(control(IDC_tbrTools), command); }
+    POINT toolButton(HWND bar, int command) const;
     /// The text of the tool tip that is on the screen, "" when there is none.
     std::string toolTip() const;
 

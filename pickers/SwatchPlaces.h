@@ -1,0 +1,17 @@
+// Where does each swatch of the palette windows stand?
+#pragma once
+
+#include <vector>
+
+#include "toolkit/Twips.h"
+
+// Each in the order of its reference table, in twips from the left and top of the first swatch.
+
+/// A block of six columns a green level, from left to right; in it red grows to the right and blue upwards.
+std::vector<Area> WebsafePlaces();
+
+/// One row, in which each swatch lies a little over its left neighbour.
+std::vector<Area> FailsafePlaces();
+
+/// Rows of seven from the top.
+std::vector<Area> JavaScriptPlaces();

@@ -1,0 +1,27 @@
+// What does the window of the 140 JavaScript colours do?
+#pragma once
+
+#include "mainwindow/ChannelEditors.h"
+#include "pickers/SwatchWindow.h"
+#include "support/AppState.h"
+#include "toolkit/CellStrip.h"
+#include "toolkit/ToolBar.h"
+
+/// The JavaScript colours in one of two orders; a left press on one sets the sliders to it.
+class frmJavaScript final : public SwatchWindow {
+public:
+    frmJavaScript(const Settings& settings, ChannelEditors& channels);
+
+private:
+    void Form_Load();
+    void tbrSortTools_ButtonClick(int button);
+    void lblJavaScriptColor_MouseDown(int index, int button);
+
+    void FillAlphabetically();
+    void FillDotNetOrder();
+
+    const Settings& settings;
+    ChannelEditors& channels;
+    ToolBar tbrSortTools;
+    CellStrip lblJavaScriptColor;
+};

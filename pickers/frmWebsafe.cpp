@@ -1,0 +1,33 @@
+#include "pickers/frmWebsafe.h"
+
+#include <string>
+#include <vector>
+
+#include "core/ChannelText.h"
+#include "core/ColorTables.h"
+#include "pickers/SwatchPlaces.h"
+#include "resources/resource.h"
+#include "toolkit/Mouse.h"
+
+frmWebsafe::frmWebsafe(ChannelEditors& channels)
+    : SwatchWindow("frmWebsafe"), channels(channels), lblWebsafeColor(*this, IDC_lblWebsafeColor) {
+    Load.bind(this, &frmWebsafe::Form_Load);
+    lblWebsafeColor.MouseDown.bind(this, &frmWebsafe::lblWebsafeColor_MouseDown);
+    lblWebsafeColor.setPlaces(WebsafePlaces());
+    setBackground(static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+}
+
+void frmWebsafe::Form_Load() {
+    std::vector<std::string> tips;
+    for (const Color& color : colorTables.websafeChannels) {
+        std::string tip = "#";
+        for (const int channel : {color.red, color.green, color.blue}) tip += HexPairs[channel];
+        tips.push_back(tip);
+    }
+    lblWebsafeColor.setColors(colorTables.websafeColor);
+    lblWebsafeColor.setTips(std::move(tips));
+}
+
+void frmWebsafe::lblWebsafeColor_MouseDown(int index, int button) {
+    if (button == leftButton) channels.SetSliders(colorTables.websafeChannels[index]);
+}

@@ -1,0 +1,84 @@
+// A tool bar's choices: of neighbours one is pressed.
+#include "toolkit/ToolBar.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+#include "resources/resource.h"
+#include "tests/toolkit/TestForm.h"
+#include "toolkit/Pump.h"
+
+namespace {
+
+constexpr std::array<ToolButton, 2> choices = {{
+    {IDM_firstChoice, IDI_Save, "first", true},
+    {IDM_secondChoice, IDI_Find, "second", true},
+}};
+
+class ToolBarChoices : public testing::Test {
+protected:
+    void SetUp() override {
+        ForgetQuit();
+        PrepareControls();
+        form.Command.bind([&](int command) { chosen.push_back(command); });
+        form.load();
+        form.tbrTest.fill(choices);
+    }
+    void TearDown() override { form.unload(); }
+
+    void click(int command) {
+        RECT area{};
+        ::SendMessageA(form.tbrTest.handle(), TB_GETRECT, command, reinterpret_cast<LPARAM>(&area));
+        const LPARAM point = MAKELPARAM(area.left + 3, area.top + 3);
+        ::SendMessageA(form.tbrTest.handle(), WM_LBUTTONDOWN, MK_LBUTTON, point);
+        ::SendMessageA(form.tbrTest.handle(), WM_LBUTTONUP, 0, point);
+    }
+
+    bool isFirst() const { return form.tbrTest.isPressed(IDM_firstChoice); }
+    bool isSecond() const { return form.tbrTest.isPressed(IDM_secondChoice); }
+
+    std::vector<int> chosen;
+    TwipsForm form;
+};
+
+}  // namespace
+
+TEST_F(ToolBarChoices, NoneIsPressedAtFirst) {
+    EXPECT_FALSE(isFirst());
+    EXPECT_FALSE(isSecond());
+}
+
+TEST_F(ToolBarChoices, PressingOneReleasesTheOtherAndRaisesNothing) {
+    form.tbrTest.press(IDM_firstChoice);
+    EXPECT_TRUE(isFirst());
+    form.tbrTest.press(IDM_secondChoice);
+    EXPECT_FALSE(isFirst());
+    EXPECT_TRUE(isSecond());
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(ToolBarChoices, AClickPressesBeforeItRaises) {
+    bool wasPressed = false;
+    form.Command.bind([&](int) { wasPressed = isFirst() && !isSecond(); });
+    form.tbrTest.press(IDM_secondChoice);
+    click(IDM_firstChoice);
+    EXPECT_TRUE(wasPressed);
+}
+
+TEST_F(ToolBarChoices, AClickOnThePressedOneLeavesItPressed) {
+    click(IDM_secondChoice);
+    click(IDM_secondChoice);
+    EXPECT_TRUE(isSecond());
+    EXPECT_FALSE(isFirst());
+}
+
+TEST_F(ToolBarChoices, ANewWindowHasNonePressed) {
+    form.tbrTest.press(IDM_firstChoice);
+    form.unload();
+    EXPECT_FALSE(isFirst());
+    form.load();
+    form.tbrTest.fill(choices);
+    EXPECT_FALSE(isFirst());
+}

@@ -1,0 +1,32 @@
+#include "toolkit/WindowPlace.h"
+
+namespace {
+
+Area AreaOf(const RECT& area) {
+    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
+            static_cast<int>(area.bottom)};
+}
+
+}  // namespace
+
+Area PlaceOf(HWND window) {
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return AreaOf(place);
+}
+
+void MoveTo(HWND window, const Area& place) {
+    ::SetWindowPos(window, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Area WorkAreaAt(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoA(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    return AreaOf(monitor.rcWork);
+}
+
+bool IsReachable(const Area& place) {
+    const RECT caption = {place.left, place.top, place.right, place.top + ::GetSystemMetrics(SM_CYSMCAPTION)};
+    return ::MonitorFromRect(&caption, MONITOR_DEFAULTTONULL) != nullptr;
+}
