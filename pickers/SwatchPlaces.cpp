@@ -1,5 +1,7 @@
 #include "pickers/SwatchPlaces.h"
 
+#include <cstddef>
+
 #include "pickers/swatches.rc.h"
 
 namespace {
@@ -32,8 +34,10 @@ std::vector<Area> FailsafePlaces() {
 }
 
 std::vector<Area> JavaScriptPlaces() {
-    std::vector<Area> places(JAVASCRIPT_COLUMNS * JAVASCRIPT_ROWS);
-    for (int i = 0; i < JAVASCRIPT_COLUMNS * JAVASCRIPT_ROWS; ++i)
-        places[i] = Square(i % JAVASCRIPT_COLUMNS, i / JAVASCRIPT_COLUMNS, JAVASCRIPT_SIZE);
+    constexpr std::size_t count = std::size_t{JAVASCRIPT_COLUMNS} * JAVASCRIPT_ROWS;
+    std::vector<Area> places;
+    places.reserve(count);
+    for (int i = 0; i < static_cast<int>(count); ++i)
+        places.push_back(Square(i % JAVASCRIPT_COLUMNS, i / JAVASCRIPT_COLUMNS, JAVASCRIPT_SIZE));
     return places;
 }
