@@ -7,28 +7,33 @@
 #include "toolkit/WindowPlace.h"
 
 SwatchWindow::SwatchWindow(const char* name) : Form(name, 1) {
+    Activate.bind(this, &SwatchWindow::Form_Activate);
     Unload.bind(this, &SwatchWindow::Form_Unload);
 }
 
 void SwatchWindow::open(std::span<const HWND> others) {
     if (!isLoaded()) {
         load();
-        place(others);
+        newPlace = choosePlace(others);
+        MoveTo(handle(), *newPlace);
     }
     show(SW_SHOWNORMAL);
     ::SetForegroundWindow(handle());
 }
 
+/// A window manager may have put the new window elsewhere on its way to the screen.
+void SwatchWindow::Form_Activate() {
+    if (newPlace) MoveTo(handle(), *newPlace);
+    newPlace.reset();
+}
+
 void SwatchWindow::Form_Unload() { lastPlace = PlaceOf(handle()); }
 
-void SwatchWindow::place(std::span<const HWND> others) const {
+Area SwatchWindow::choosePlace(std::span<const HWND> others) const {
     // A monitor may have gone since.
-    if (lastPlace && IsReachable(*lastPlace)) {
-        MoveTo(handle(), *lastPlace);
-        return;
-    }
+    if (lastPlace && IsReachable(*lastPlace)) return *lastPlace;
     std::vector<Area> places(others.size());
     std::ranges::transform(others, places.begin(), PlaceOf);
     const Area own = PlaceOf(handle());
-    MoveTo(handle(), Beside(places, own.width(), own.height(), WorkAreaAt(others.front())));
+    return Beside(places, own.width(), own.height(), WorkAreaAt(others.front()));
 }

@@ -17,8 +17,10 @@ protected:
     explicit SwatchWindow(const char* name);
 
 private:
+    void Form_Activate();
     void Form_Unload();
-    void place(std::span<const HWND> others) const;
+    Area choosePlace(std::span<const HWND> others) const;
 
     std::optional<Area> lastPlace;
+    std::optional<Area> newPlace;  ///< until the window is first activated
 };

@@ -4,11 +4,26 @@
 #include "tests/ui/Input.h"
 #include "tests/ui/Wait.h"
 
+namespace {
+
+/// Until the program has handled what it has posted to itself: a caret moves behind that, twice, because the
+/// first move may have come before.
+void WaitForPosted(const Huevox& huevox) {
+    constexpr int box = IDC_txtName + 5;
+    for (const int caret : {3, 4}) {
+        ::PostMessageA(huevox.control(box), EM_SETSEL, caret, caret);
+        EXPECT_BECOMES(huevox.selection(box), (std::pair{caret, caret}));
+    }
+}
+
+}  // namespace
+
 PickerWindow::PickerWindow(const Huevox& huevox, const Grid& grid) : huevox(huevox), grid(grid) { open(); }
 
 void PickerWindow::open() const {
     clickButton();
     EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); })) << grid.name;
+    WaitForPosted(huevox);
 }
 
 void PickerWindow::clickButton() const { Click(huevox.control(grid.button)); }
@@ -43,6 +58,7 @@ void PickerWindow::moveTo(int left, int top) const {
 void PickerWindow::close() const {
     ::PostMessageA(window(), WM_CLOSE, 0, 0);
     EXPECT_BECOMES(window(), nullptr);
+    EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
 }
 
 void ExpectClick(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const Color& color) {

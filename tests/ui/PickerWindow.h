@@ -40,7 +40,7 @@ public:
     /// Presses the button that opens the window.
     void clickButton() const;
     void moveTo(int left, int top) const;
-    /// Closes the window and waits until it is gone.
+    /// Closes the window and waits until it is gone and the main window, of all that are left, is in front.
     void close() const;
     /// Opens it again.
     void open() const;
