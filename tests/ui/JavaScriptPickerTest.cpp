@@ -97,7 +97,7 @@ TEST_F(PickersJavaScript, SwitchingTheOrderRecolorsAllSwatches) {
     ExpectClick(huevox, javaScript, {0, 0}, ColorOf(0xF0, 0xF8, 0xFF));
     ChooseOrder(huevox, javaScript, IDM_DotNet);
     EXPECT_FALSE(IsPressed(javaScript, IDM_Alphabetically));
-    for (const auto& [index, color] : byHue) EXPECT_BECOMES(shown(index), color);
+    for (const auto& known : byHue) EXPECT_BECOMES(shown(known.first), known.second);
     ExpectClick(huevox, javaScript, {0, 0}, ColorOf(0, 0, 0));
     ChooseOrder(huevox, javaScript, IDM_Alphabetically);
     EXPECT_FALSE(IsPressed(javaScript, IDM_DotNet));

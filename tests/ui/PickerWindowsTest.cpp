@@ -1,7 +1,6 @@
 // The palette windows as windows: where they open, what they leave to others, and when they go.
-#include <algorithm>
 #include <array>
-#include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/ui/PickerWindow.h"
@@ -25,7 +24,7 @@ bool IsOnScreen(const RECT& place) {
     return ::EqualRect(&both, &place) != FALSE;
 }
 
-POINT Corner(const RECT& place) { return {place.left, place.top}; }
+std::pair<int, int> Corner(const RECT& place) { return {place.left, place.top}; }
 
 /// A window, what it owns and all that stands in them.
 struct Windows {
@@ -54,8 +53,6 @@ HWND BringMessage(const Huevox& huevox) {
 }
 
 }  // namespace
-
-bool operator==(const POINT& one, const POINT& other) { return one.x == other.x && one.y == other.y; }
 
 TEST_F(PickerWindows, TheButtonsSayWhatTheyOpen) {
     const Huevox huevox;
@@ -103,7 +100,11 @@ TEST_F(PickerWindows, OpenBesideTheMainWindowAndEachOther) {
     for (const auto& grid : grids) {
         const RECT place = PickerWindow(huevox, grid).place();
         EXPECT_TRUE(IsOnScreen(place)) << grid.name;
-        for (const RECT& other : places) EXPECT_TRUE(IsApart(place, other)) << grid.name;
+        for (const RECT& other : places) {
+            EXPECT_TRUE(IsApart(place, other))
+                << grid.name << " at " << place.left << ' ' << place.top << " covers what is at "
+                << other.left << ' ' << other.top << ' ' << other.right << ' ' << other.bottom;
+        }
         places.push_back(place);
     }
 }
@@ -113,14 +114,14 @@ TEST_F(PickerWindows, ThereIsOneOfEachAndASecondClickBringsItForward) {
     for (const auto& grid : grids) {
         const PickerWindow picker(huevox, grid);
         picker.moveTo(30, 40);
-        ASSERT_BECOMES(Corner(picker.place()), (POINT{30, 40}));
+        ASSERT_BECOMES(Corner(picker.place()), (std::pair{30, 40}));
         const HWND window = picker.window();
         huevox.focusByClick(Name(0));
         ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
         picker.clickButton();
         EXPECT_BECOMES(::GetForegroundWindow(), window);
         EXPECT_EQ(huevox.formCount(grid.name), 1);
-        EXPECT_EQ(Corner(picker.place()), (POINT{30, 40}));
+        EXPECT_EQ(Corner(picker.place()), (std::pair{30, 40}));
         picker.close();
     }
 }
@@ -130,10 +131,10 @@ TEST_F(PickerWindows, ComeBackToWhereTheUserHasPutThem) {
     for (const auto& grid : grids) {
         const PickerWindow picker(huevox, grid);
         picker.moveTo(50, 60);
-        ASSERT_BECOMES(Corner(picker.place()), (POINT{50, 60}));
+        ASSERT_BECOMES(Corner(picker.place()), (std::pair{50, 60}));
         picker.close();
         picker.open();
-        EXPECT_BECOMES(Corner(picker.place()), (POINT{50, 60}));
+        EXPECT_BECOMES(Corner(picker.place()), (std::pair{50, 60}));
         picker.close();
     }
 }
@@ -143,7 +144,7 @@ TEST_F(PickerWindows, ComeBackToTheScreenFromWhereThereIsNone) {
     const PickerWindow picker(huevox, failsafeGrid);
     const RECT first = picker.place();
     picker.moveTo(5'000, 5'000);
-    ASSERT_BECOMES(Corner(picker.place()), (POINT{5'000, 5'000}));
+    ASSERT_BECOMES(Corner(picker.place()), (std::pair{5'000, 5'000}));
     picker.close();
     picker.open();
     EXPECT_BECOMES(Corner(picker.place()), Corner(first));
