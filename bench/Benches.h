@@ -4,4 +4,5 @@
 void BenchStart();
 void BenchChange();
 void BenchOpen();
+void BenchOpenPicker();
 void BenchPick();

@@ -8,5 +8,6 @@ int main(int count, char** arguments) {
     if (which == "start" || which == "all") BenchStart();
     if (which == "change" || which == "all") BenchChange();
     if (which == "pick" || which == "all") BenchPick();
+    if (which == "picker" || which == "all") BenchOpenPicker();
     if (which == "open" || which == "all") BenchOpen();
 }

@@ -21,6 +21,7 @@ private:
 
 /// Fills area without a brush of its own.
 inline void FillWithColor(HDC context, const RECT& area, COLORREF color) {
-    ::SetDCBrushColor(context, color);
-    ::FillRect(context, &area, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+    // An empty text on an opaque ground: cheaper than a brush that changes its colour each time.
+    ::SetBkColor(context, color);
+    ::ExtTextOutA(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
 }
