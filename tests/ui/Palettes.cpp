@@ -22,6 +22,14 @@ HWND NameField(HWND dialog) {
     return found;
 }
 
+/// After a box or dialog: keys that come before the window is in front again go nowhere.
+void WaitForReturn(const Huevox& huevox) {
+    Eventually([&] {
+        const bool isBack = ::GetForegroundWindow() == huevox.window() && huevox.focus() != nullptr;
+        return isBack || huevox.dialog() || !huevox.isRunning();
+    });
+}
+
 }  // namespace
 
 void PaletteTest::SetUp() {
@@ -92,6 +100,7 @@ void AnswerQuestion(const Huevox& huevox, int button) {
     EXPECT_EQ(TextOf(box), "Huevox");
     EXPECT_EQ(MessageOf(box), question);
     Answer(box, button);
+    WaitForReturn(huevox);
 }
 
 void CloseMessage(const Huevox& huevox, std::string_view text) {
@@ -100,6 +109,7 @@ void CloseMessage(const Huevox& huevox, std::string_view text) {
     EXPECT_EQ(TextOf(box), "Huevox");
     EXPECT_EQ(MessageOf(box), text);
     Answer(box, IDOK);
+    WaitForReturn(huevox);
 }
 
 void TypePath(const Huevox& huevox, std::string_view path) {
@@ -114,12 +124,14 @@ void ChoosePath(const Huevox& huevox, std::string_view title, std::string_view p
     const HWND dialog = WaitForFileDialog(huevox, title);
     TypePath(huevox, path);
     EXPECT_TRUE(Eventually([&] { return !::IsWindow(dialog); }));
+    WaitForReturn(huevox);
 }
 
 void CancelFileDialog(const Huevox& huevox, std::string_view title) {
     const HWND dialog = WaitForFileDialog(huevox, title);
     Press(VK_ESCAPE);
     EXPECT_TRUE(Eventually([&] { return !::IsWindow(dialog); }));
+    WaitForReturn(huevox);
 }
 
 void OpenPalette(const Huevox& huevox, const std::string& path) {
