@@ -64,8 +64,11 @@ void Huevox::start(WORD showCommand) {
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
     std::string command = HUEVOX_EXE;
-    const BOOL hasStarted = ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                             nullptr, &startup, &process);
+    // Now and then the platform refuses a process with an internal error and creates it the next time.
+    const bool hasStarted = Eventually([&] {
+        return ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                &startup, &process) != FALSE;
+    });
     EXPECT_TRUE(hasStarted) << "error " << ::GetLastError();
 }
 
