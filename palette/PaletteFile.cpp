@@ -18,6 +18,7 @@ constexpr std::string_view currentHeader = "THIS FILE WAS MADE IN HUEVOX. DO NOT
 constexpr std::string_view versionNote = "Do not use versions prior to Huevox 8.0 when you open this file.";
 constexpr std::string_view dataHeader = "[Huevox data]";
 constexpr std::size_t dataLine = 4;
+constexpr std::size_t marksInFile = markCount;
 
 /// A layout that is read and not written any more: the lines of a mark come again after every period lines.
 struct OlderGeneration {
@@ -126,9 +127,9 @@ bool IsInRange(const Color& color) {
 }
 
 std::optional<Palette> ParseCurrent(Lines lines) {
-    if (lines.size() < dataLine + 2 * markCount) return std::nullopt;
+    if (lines.size() < dataLine + 2 * marksInFile) return std::nullopt;
     Palette palette;
-    for (int mark = 0; mark < markCount; ++mark) {
+    for (std::size_t mark = 0; mark < marksInFile; ++mark) {
         const std::size_t line = dataLine + 2 * mark;
         const std::optional<ColorParts> parts = SplitColor(lines[line + 1]);
         const std::optional<Color> color = parts ? ParseColor(*parts) : std::nullopt;
@@ -140,9 +141,9 @@ std::optional<Palette> ParseCurrent(Lines lines) {
 }
 
 std::optional<Palette> ParseOlder(Lines lines, std::size_t period, LeadByteTest isLeadByte) {
-    if (lines.size() <= olderColorLine + period * (markCount - 1)) return std::nullopt;
+    if (lines.size() <= olderColorLine + period * (marksInFile - 1)) return std::nullopt;
     Palette palette;
-    for (int mark = 0; mark < markCount; ++mark) {
+    for (std::size_t mark = 0; mark < marksInFile; ++mark) {
         const std::optional color = ParseOlderColor(lines[olderColorLine + period * mark], isLeadByte);
         const std::optional name = WithoutEnds(lines[olderNameLine + period * mark], isLeadByte);
         if (!color || !IsInRange(*color) || !name) return std::nullopt;
