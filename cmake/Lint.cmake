@@ -3,7 +3,7 @@ find_program(CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
 find_program(CLANG_FORMAT NAMES clang-format-14 clang-format REQUIRED)
 find_program(CPPCHECK cppcheck REQUIRED)
 
-set(rooms core mainwindow palette pickers settings support toolkit resources tests bench fuzz)
+set(rooms core help mainwindow palette pickers settings support toolkit resources tests bench fuzz)
 list(TRANSFORM rooms PREPEND ${PROJECT_SOURCE_DIR}/)
 set(header_patterns ${rooms})
 list(TRANSFORM header_patterns APPEND /*.h)
@@ -13,7 +13,7 @@ list(TRANSFORM source_patterns APPEND /*.cpp)
 file(GLOB_RECURSE all_sources CONFIGURE_DEPENDS ${source_patterns})
 
 set(tidy_arguments -std=c++20 -I${PROJECT_SOURCE_DIR} -DHUEVOX_TEST_FILES="files/"
-    -DHUEVOX_COLOR_NAMES="index.js")
+    -DHUEVOX_COLOR_NAMES="index.js" -I${PROJECT_BINARY_DIR}/help)
 if(WIN32)
     # clang knows the target, but not where the cross compiler keeps its headers.
     list(APPEND tidy_arguments --target=${HUEVOX_TARGET}-w64-mingw32 -isystem /usr/src/googletest/googletest/include)

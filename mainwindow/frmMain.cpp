@@ -18,7 +18,8 @@ frmMain::frmMain(AppState& state)
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks),
-      pickers(*this, state.settings, channels) {
+      pickers(*this, state.settings, channels),
+      helpCommands(*this, commands, help) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);
@@ -61,7 +62,10 @@ void frmMain::Form_QueryUnload(bool& isCancelled) {
     if (!IsErrorExitInProgress()) isCancelled = !palettes.MayClose();
 }
 
-void frmMain::Form_Unload() { unloadAll(this); }
+void frmMain::Form_Unload() {
+    unloadAll(this);
+    help.HelpClose();
+}
 
 void frmMain::mnuFileExit_Click() { unload(); }
 

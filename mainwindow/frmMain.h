@@ -1,6 +1,8 @@
 // What is the main window made of?
 #pragma once
 
+#include "help/HTMLHelp.h"
+#include "help/HelpCommands.h"
 #include "mainwindow/Autocopy.h"
 #include "mainwindow/ChannelEditors.h"
 #include "mainwindow/ColorBar.h"
@@ -34,6 +36,7 @@ private:
 
     AppState& state;
     EditState edit;
+    HTMLHelp help;
     RegistryStringHandler registry;
     CommandBar commands;
     ChannelEditors channels;
@@ -44,5 +47,6 @@ private:
     PaletteCommands palettes;
     ScreenPick screenPick;
     Pickers pickers;
+    HelpCommands helpCommands;
     unsigned turns = 0;
 };

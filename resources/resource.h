@@ -40,6 +40,10 @@
 #define IDM_Alphabetically 40101
 #define IDM_DotNet 40102
 
+// In every dialog: what Enter and Escape press.
+#define IDC_cmdOK 1
+#define IDC_cmdCancel 2
+
 // Controls of frmMain. Arrays are consecutive from their base.
 #define IDC_tbrTools 1001
 #define IDC_tmrClip 1002
@@ -78,3 +82,50 @@
 #define IDC_lblFailsafeColor 1402
 #define IDC_lblJavaScriptColor 1403
 #define IDC_tbrSortTools 1404
+
+// Controls of frmOptions.
+#define IDC_lblStandardFormat 1501
+#define IDC_lstStandardFormat 1502
+#define IDC_fraExample 1503
+#define IDC_lblExample 1504
+#define IDC_fraPromptToSave 1511
+#define IDC_optYes 1512
+#define IDC_optNo 1513
+#define IDC_fraStandardFolder 1521
+#define IDC_cmdChange 1522
+#define IDC_lblSelectedStandardFolder 1523
+#define IDC_fraSortOrder 1531
+#define IDC_optAlphabetically 1532
+#define IDC_optDotNet 1533
+
+// Controls of frmCustomFormat.
+#define IDC_txtFormat 1601
+#define IDC_cmdHelp 1602
+#define IDC_cmdUR 1611
+#define IDC_cmdUG 1612
+#define IDC_cmdUB 1613
+#define IDC_cmdLR 1614
+#define IDC_cmdLG 1615
+#define IDC_cmdLB 1616
+#define IDC_cmdDR 1617
+#define IDC_cmdDG 1618
+#define IDC_cmdDB 1619
+#define IDC_cmdLD 1620
+#define IDC_lblUpperCaseHex 1631
+#define IDC_lblLowerCaseHex 1632
+#define IDC_lblDecimal 1633
+#define IDC_lblLongDecimal 1634
+#define IDC_lblRed 1635
+#define IDC_lblGreen 1636
+#define IDC_lblBlue 1637
+
+// Controls of frmAbout.
+#define IDC_picInfo 1701
+#define IDC_lblDisclaimer 1702
+#define IDC_lblSlogan 1703
+#define IDC_lblLink 1704
+#define IDC_lblMailLink 1705
+#define IDC_lblFeedbackInfo 1706
+#define IDC_lblMoreInfo 1707
+#define IDC_lblTitle 1708
+#define IDC_lblCopyright 1709

@@ -19,6 +19,9 @@ inline constexpr const char* unexpectedError = "Huevox encountered an unexpected
 inline constexpr const char* paletteChanged = "The palette has been changed. Do you want to save it?";
 inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
 inline constexpr const char* noNotepad = "Could not open file in Notepad.";
+inline constexpr const char* noHelp = "Problem with HTML Help.";
+inline constexpr const char* noBrowser = "Problem with browser.";
+inline constexpr const char* noMail = "Problem with mail client.";
 inline constexpr const char* notMadeHereBeforePath = "You tried to open the file\r\n\r\n";
 inline constexpr const char* notMadeHereAfterPath =
     "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox";

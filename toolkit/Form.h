@@ -9,6 +9,7 @@
 #include "toolkit/ControlList.h"
 #include "toolkit/Event.h"
 #include "toolkit/Handles.h"
+#include "toolkit/ModalHold.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Twips.h"
 
@@ -39,6 +40,9 @@ public:
     /// when the platform refuses a window.
     void load();
     void show(int showCommand);
+    /// Loads the form, shows it over another and returns when it has been unloaded. Meanwhile no other form
+    /// takes input. The first control has the focus unless Load has given it to one.
+    void showModal(const Form& over);
     /// Raises Activate now, in place of one that is on its way.
     void activate();
     /// Raises QueryUnload and, unless it was cancelled, Unload; then the window goes. The program ends with
@@ -51,8 +55,8 @@ public:
     HWND handle() const { return window; }
     /// Whether the keys go to this form.
     bool isFront() const { return isActive; }
-    /// The owner for a message box: the window, or none while it is not on the screen.
-    HWND messageOwner() const { return ::IsWindowVisible(window) ? window : nullptr; }
+    /// The owner for a message box: the window, or, while it is not on the screen, what it is to stand over.
+    HWND messageOwner() const { return ::IsWindowVisible(window) ? window : owner; }
 
     std::string text() const;
     void setText(std::string_view caption);
@@ -102,9 +106,17 @@ private:
     bool mayUnload();
     void close();
 
+    static constexpr UINT activatedMessage = WM_APP + 1;
+    static constexpr UINT focusLeftMessage = WM_APP + 2;
+
+    static inline std::vector<Form*> loadedForms;
+    static inline Form* formBeingCreated = nullptr;
+    static inline ModalHold modalHold;
+
     const char* name;
     int twipsPerUnit;
     HWND window = nullptr;
+    HWND owner = nullptr;  ///< of a modal form
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;
     HBRUSH background = nullptr;

@@ -1,9 +1,12 @@
 #include "toolkit/FormWindow.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <stdexcept>
 #include <string_view>
+
+#include "toolkit/WindowPlace.h"
 
 namespace {
 
@@ -27,6 +30,19 @@ void RegisterFormClass(const char* name, WNDPROC proc) {
 /// The dialog manager counts a dialog as one only with a procedure; the form's own procedure does all the
 /// work.
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
+/// In the middle of the owner, but on its monitor; without an owner, of the work area.
+Area Centered(HWND window, int width, int height) {
+    const HWND owner = ::GetWindow(window, GW_OWNER);
+    const Area work = WorkAreaAt(owner ? owner : window);
+    const Area middle = owner ? PlaceOf(owner) : work;
+    const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
+    const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
+    Area place;
+    place.left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
+    place.top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
+    return place;
+}
 
 bool IsFace(HDC context, std::string_view face) {
     std::array<char, LF_FACESIZE> selected{};
@@ -61,10 +77,10 @@ DialogTemplate LoadDialogTemplate(const char* name) {
     return ParseDialogTemplate({bytes, ::SizeofResource(Instance(), found)});
 }
 
-HWND CreateFormWindow(const char* name, const DialogTemplate& layout, WNDPROC proc) {
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc) {
     RegisterFormClass(name, proc);
     return ::CreateDialogIndirectParamA(Instance(), reinterpret_cast<LPCDLGTEMPLATEA>(layout.frame.data()),
-                                        nullptr, NoDialogProc, 0);
+                                        owner, NoDialogProc, 0);
 }
 
 void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi) {
@@ -73,12 +89,10 @@ void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi) {
                                ::GetWindowLongA(window, GWL_EXSTYLE), dpi);
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
-    RECT work{};
-    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    const Area place = Centered(window, width, height);
     // Or the platform would cut a window off that is larger than the screen.
     constexpr UINT uncut = SWP_NOSENDCHANGING;
-    ::SetWindowPos(window, nullptr, (work.left + work.right - width) / 2,
-                   (work.top + work.bottom - height) / 2, width, height,
+    ::SetWindowPos(window, nullptr, place.left, place.top, width, height,
                    SWP_NOZORDER | SWP_NOACTIVATE | uncut);
 }
 

@@ -8,11 +8,13 @@
 /// The program's dialog resource of that name. Throws std::runtime_error when there is none.
 DialogTemplate LoadDialogTemplate(const char* name);
 
-/// Creates the form's own window, hidden and without controls, of the window class name with that procedure.
-/// The procedure gets its first message before this returns. Returns nullptr when the platform refuses.
-HWND CreateFormWindow(const char* name, const DialogTemplate& layout, WNDPROC proc);
+/// Creates the form's own window, hidden and without controls, of the window class name with that procedure,
+/// owned by owner if that is not nullptr. The procedure gets its first message before this returns. Returns
+/// nullptr when the platform refuses.
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc);
 
-/// Gives the window a client area of that size in pixels and puts it in the middle of the work area.
+/// Gives the window a client area of that size in pixels and puts it in the middle of its owner, or else of
+/// the work area.
 void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.

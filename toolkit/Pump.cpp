@@ -6,6 +6,16 @@
 #include "toolkit/PictureBox.h"
 #include "toolkit/Platform.h"
 
+namespace {
+
+void Deliver(MSG& message) {
+    if (Form::preTranslate(message)) return;
+    ::TranslateMessage(&message);
+    ::DispatchMessageA(&message);
+}
+
+}  // namespace
+
 void PrepareControls() {
     INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&classes);
@@ -16,12 +26,19 @@ void PrepareControls() {
 
 int RunMessageLoop() {
     MSG message{};
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (Form::preTranslate(message)) continue;
-        ::TranslateMessage(&message);
-        ::DispatchMessageA(&message);
-    }
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0) Deliver(message);
     return static_cast<int>(message.wParam);
+}
+
+void RunModalLoop(const Form& form) {
+    MSG message{};
+    while (form.isLoaded()) {
+        if (::GetMessageA(&message, nullptr, 0, 0) <= 0) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));  // it is the program's own loop that ends
+            return;
+        }
+        Deliver(message);
+    }
 }
 
 void Yield() {

@@ -1,0 +1,33 @@
+// How are pages of compiled help shown?
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/Platform.h"
+
+/// The platform's help viewer. It is looked for when it is first needed, in the folder of the system only.
+class HTMLHelp {
+public:
+    /// Full path of the compiled help file.
+    const std::string& CHMFile() const { return file; }
+    void setCHMFile(std::string_view path) { file = path; }
+
+    /// A page of it, such as "huevox1.htm".
+    const std::string& TopicURL() const { return topic; }
+    void setTopicURL(std::string_view page) { topic = page; }
+
+    /// Throws std::runtime_error when there is no viewer. A file or page that is missing is the viewer's to
+    /// report.
+    void DisplayTopicURL();
+
+    /// Closes every help window. Without a viewer there is none.
+    void HelpClose() const;
+
+private:
+    using Viewer = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
+
+    Viewer viewer = nullptr;
+    std::string file;
+    std::string topic;
+};
