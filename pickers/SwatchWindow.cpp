@@ -11,12 +11,10 @@ SwatchWindow::SwatchWindow(const char* name) : Form(name, 1) {
     Unload.bind(this, &SwatchWindow::Form_Unload);
 }
 
-void SwatchWindow::open(std::span<const HWND> others) {
-    if (!isLoaded()) {
-        load();
-        newPlace = choosePlace(others);
-        MoveTo(handle(), *newPlace);
-    }
+void SwatchWindow::open(std::span<const HWND> neighbors) {
+    others = neighbors;
+    if (!isLoaded()) load();
+    others = {};
     show(SW_SHOWNORMAL);
     ::SetForegroundWindow(handle());
 }
@@ -29,11 +27,16 @@ void SwatchWindow::Form_Activate() {
 
 void SwatchWindow::Form_Unload() { lastPlace = PlaceOf(handle()); }
 
-Area SwatchWindow::choosePlace(std::span<const HWND> others) const {
+Area SwatchWindow::firstPlace(const Area& middle) {
+    newPlace = choosePlace(middle.width(), middle.height());
+    return *newPlace;
+}
+
+Area SwatchWindow::choosePlace(int width, int height) const {
     // A monitor may have gone since.
-    if (lastPlace && IsReachable(*lastPlace)) return *lastPlace;
+    if (lastPlace && IsReachable(*lastPlace))
+        return {lastPlace->left, lastPlace->top, lastPlace->left + width, lastPlace->top + height};
     std::vector<Area> places(others.size());
     std::ranges::transform(others, places.begin(), PlaceOf);
-    const Area own = PlaceOf(handle());
-    return Beside(places, own.width(), own.height(), WorkAreaAt(others.front()));
+    return Beside(places, width, height, WorkAreaAt(others.front()));
 }

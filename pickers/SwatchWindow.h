@@ -10,8 +10,9 @@
 /// user has put it.
 class SwatchWindow : public Form {
 public:
-    /// Brings the window forward; loads it before when it is not on the screen, beside the others.
-    void open(std::span<const HWND> others);
+    /// Brings the window forward; loads it before, beside its neighbors, when it is not on the
+    /// screen.
+    void open(std::span<const HWND> neighbors);
 
 protected:
     explicit SwatchWindow(const char* name);
@@ -19,8 +20,10 @@ protected:
 private:
     void Form_Activate();
     void Form_Unload();
-    Area choosePlace(std::span<const HWND> others) const;
+    Area firstPlace(const Area& middle) override;
+    Area choosePlace(int width, int height) const;
 
+    std::span<const HWND> others;  ///< the windows that it is to stand beside, while it opens
     std::optional<Area> lastPlace;
     std::optional<Area> newPlace;  ///< until the window is first activated
 };

@@ -9,6 +9,7 @@
 #include "toolkit/Pump.h"
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
+#include "toolkit/WindowPlace.h"
 #include "toolkit/WindowText.h"
 
 Form::Form(const char* name, int twipsPerUnit) : name(name), twipsPerUnit(twipsPerUnit) {}
@@ -36,8 +37,8 @@ void Form::createFrame(const DialogTemplate& layout) {
     loadedForms.push_back(this);
     modalHold.join(window);
     dpi = static_cast<int>(::GetDpiForWindow(window));
-    font = MessageFont(dpi);
-    PlaceFormWindow(window, fromUnits(layout.width), fromUnits(layout.height), dpi);
+    PlaceAt(window,
+            firstPlace(CenteredPlace(window, fromUnits(layout.width), fromUnits(layout.height), dpi)));
 }
 
 void Form::createControl(const TemplateItem& item) {
@@ -48,7 +49,7 @@ void Form::createControl(const TemplateItem& item) {
     const Control* container = control ? control->container : nullptr;
     const HWND parent = container ? container->window : window;
     ::MapWindowPoints(window, parent, reinterpret_cast<POINT*>(&place), 2);
-    const HWND created = CreateFormControl(parent, item, place, font.get());
+    const HWND created = CreateFormControl(parent, item, place, MessageFont(dpi));
     if (!created) throw std::runtime_error("the platform refused a control");
     if (control) control->attach(created);
     if (::SendMessageA(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)

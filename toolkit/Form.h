@@ -8,7 +8,6 @@
 
 #include "toolkit/ControlList.h"
 #include "toolkit/Event.h"
-#include "toolkit/Handles.h"
 #include "toolkit/ModalHold.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Twips.h"
@@ -77,6 +76,11 @@ public:
     /// Shortcuts and keyboard navigation: true when the message is used up.
     static bool preTranslate(MSG& message);
 
+protected:
+    /// Where the window comes to the screen, given the middle of its owner or of the work area. The size
+    /// stays.
+    virtual Area firstPlace(const Area& middle) { return middle; }
+
 private:
     friend class Control;
     friend class Timer;
@@ -120,7 +124,6 @@ private:
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;
     HBRUSH background = nullptr;
-    OwnedFont font;
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;
     std::vector<Timer*> timers;

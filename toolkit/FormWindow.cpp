@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <span>
 #include <stdexcept>
 #include <string_view>
@@ -17,6 +18,7 @@ HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
 void RegisterFormClass(const char* name, WNDPROC proc) {
     WNDCLASSEXA windowClass{};
     windowClass.cbSize = sizeof windowClass;
+    if (::GetClassInfoExA(Instance(), name, &windowClass)) return;  // the form has been loaded before
     windowClass.lpfnWndProc = proc;
     windowClass.cbWndExtra = DLGWINDOWEXTRA + sizeof(void*);
     windowClass.hInstance = Instance();
@@ -24,7 +26,7 @@ void RegisterFormClass(const char* name, WNDPROC proc) {
     windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     windowClass.lpszClassName = name;
-    ::RegisterClassExA(&windowClass);  // registered already when the form is loaded again
+    ::RegisterClassExA(&windowClass);
 }
 
 /// The dialog manager counts a dialog as one only with a procedure; the form's own procedure does all the
@@ -38,10 +40,9 @@ Area Centered(HWND window, int width, int height) {
     const Area middle = owner ? PlaceOf(owner) : work;
     const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
     const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
-    Area place;
-    place.left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
-    place.top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
-    return place;
+    const int left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
+    const int top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
+    return {left, top, left + width, top + height};
 }
 
 bool IsFace(HDC context, std::string_view face) {
@@ -67,6 +68,13 @@ OwnedFont SegoeUi(int dpi) {
     return isThere ? std::move(font) : OwnedFont();
 }
 
+OwnedFont PlatformsFont(int dpi) {
+    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
 }  // namespace
 
 DialogTemplate LoadDialogTemplate(const char* name) {
@@ -83,17 +91,11 @@ HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner
                                         owner, NoDialogProc, 0);
 }
 
-void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi) {
+Area CenteredPlace(HWND window, int clientWidth, int clientHeight, int dpi) {
     RECT area = {0, 0, clientWidth, clientHeight};
     ::AdjustWindowRectExForDpi(&area, ::GetWindowLongA(window, GWL_STYLE), ::GetMenu(window) != nullptr,
                                ::GetWindowLongA(window, GWL_EXSTYLE), dpi);
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    const Area place = Centered(window, width, height);
-    // Or the platform would cut a window off that is larger than the screen.
-    constexpr UINT uncut = SWP_NOSENDCHANGING;
-    ::SetWindowPos(window, nullptr, place.left, place.top, width, height,
-                   SWP_NOZORDER | SWP_NOACTIVATE | uncut);
+    return Centered(window, area.right - area.left, area.bottom - area.top);
 }
 
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
@@ -108,10 +110,11 @@ HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place,
     return control;
 }
 
-OwnedFont MessageFont(int dpi) {
-    if (OwnedFont segoe = SegoeUi(dpi)) return segoe;
-    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
-    metrics.cbSize = sizeof metrics;
-    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
-    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
+HFONT MessageFont(int dpi) {
+    // All forms share them: to find out whether a font is there takes longer than to create a control.
+    static std::map<int, OwnedFont> fonts;
+    OwnedFont& font = fonts[dpi];
+    if (!font) font = SegoeUi(dpi);
+    if (!font) font = PlatformsFont(dpi);
+    return font.get();
 }

@@ -4,6 +4,7 @@
 #include "toolkit/DialogTemplate.h"
 #include "toolkit/Handles.h"
 #include "toolkit/Platform.h"
+#include "toolkit/Twips.h"
 
 /// The program's dialog resource of that name. Throws std::runtime_error when there is none.
 DialogTemplate LoadDialogTemplate(const char* name);
@@ -13,12 +14,13 @@ DialogTemplate LoadDialogTemplate(const char* name);
 /// nullptr when the platform refuses.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc);
 
-/// Gives the window a client area of that size in pixels and puts it in the middle of its owner, or else of
-/// the work area.
-void PlaceFormWindow(HWND window, int clientWidth, int clientHeight, int dpi);
+/// The window with its frame that has a client area of that size, in pixels, in the middle of its owner, or
+/// else of the work area.
+Area CenteredPlace(HWND window, int clientWidth, int clientHeight, int dpi);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);
 
-/// Segoe UI in 9 points where there is one, else the font that the platform shows messages in.
-OwnedFont MessageFont(int dpi);
+/// Segoe UI in 9 points where there is one, else the font that the platform shows messages in. It stays as
+/// long as the program runs.
+HFONT MessageFont(int dpi);

@@ -15,6 +15,13 @@ Area PlaceOf(HWND window) {
     return AreaOf(place);
 }
 
+void PlaceAt(HWND window, const Area& place) {
+    // Or the platform would cut a window off that is larger than the screen.
+    constexpr UINT uncut = SWP_NOSENDCHANGING;
+    ::SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE | uncut);
+}
+
 void MoveTo(HWND window, const Area& place) {
     ::SetWindowPos(window, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

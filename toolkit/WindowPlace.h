@@ -7,6 +7,9 @@
 /// The whole window with its frame, in pixels.
 Area PlaceOf(HWND window);
 
+/// Gives the window its place and size.
+void PlaceAt(HWND window, const Area& place);
+
 /// Moves the window to the left and top of place; its size stays.
 void MoveTo(HWND window, const Area& place);
 
