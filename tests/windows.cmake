@@ -39,6 +39,7 @@ add_executable(ui_tests
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
     ui/JavaScriptPickerTest.cpp
+    ui/LeftMonitorTest.cpp
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp
     ui/NotepadTest.cpp
@@ -69,11 +70,15 @@ add_dependencies(ui_tests StandIn)
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
 set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 300)
 gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${alone})
-gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*"
+gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*:LeftMonitor.*"
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone})
 add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+add_test(NAME ui.on_two_monitors
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --monitors 2
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LeftMonitor.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 foreach(dpi IN ITEMS 120 144 192)
     add_test(NAME ui.picking_at_${dpi}_dpi
@@ -94,7 +99,7 @@ foreach(dpi 120 144 192)
         WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
     set_tests_properties(program.pickers_at_${dpi}_dpi PROPERTIES TIMEOUT 120)
 endforeach()
-set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk PROPERTIES TIMEOUT 120)
+set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 

@@ -27,16 +27,19 @@ void SendKey(WORD key, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
-/// A pixel as a part of the screen's extent in 65536 steps, so that it comes out as the same pixel again.
-LONG Absolute(LONG pixel, int extent) { return (pixel * 65536 + 65536 / 2) / extent; }
+/// A pixel as a part of an extent of all monitors in 65536 steps, so that it comes out as the same pixel
+/// again.
+LONG Absolute(LONG pixel, int start, int extent) {
+    return ((pixel - ::GetSystemMetrics(start)) * 65536 + 65536 / 2) / ::GetSystemMetrics(extent);
+}
 
 /// Buttons bring their place with them: a display reports earlier moves late, and they take the pointer back.
 void SendMouse(POINT screen, DWORD button = 0) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dx = Absolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN));
-    input.mi.dy = Absolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN));
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
+    input.mi.dx = Absolute(screen.x, SM_XVIRTUALSCREEN, SM_CXVIRTUALSCREEN);
+    input.mi.dy = Absolute(screen.y, SM_YVIRTUALSCREEN, SM_CYVIRTUALSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK | button;
     ::SendInput(1, &input, sizeof input);
 }
 

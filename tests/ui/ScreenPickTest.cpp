@@ -1,34 +1,11 @@
 // How is a colour taken from anywhere on the screen?
 #include "tests/ui/ColoredWindow.h"
+#include "tests/ui/Picking.h"
 #include "tests/ui/UiTest.h"
 
 namespace {
 
 class ScreenPicking : public UiTest {};
-
-void TurnPickModeOn(const Huevox& huevox) {
-    Click(huevox.control(IDC_chkColorPick));
-    ASSERT_BECOMES(huevox.isEnabled(IDC_picSampleContainer), true);
-}
-
-POINT Sample(const Huevox& huevox, int mark) { return CenterOf(huevox.control(IDC_picSample + mark)); }
-
-bool IsShown(const Huevox& huevox, int id) { return ::IsWindowVisible(huevox.control(id)) != FALSE; }
-
-void Hold(const Huevox& huevox, POINT place) {
-    PressButton(place);
-    ASSERT_BECOMES(IsShown(huevox, IDC_picPick), true);
-}
-
-Color Preview(const Huevox& huevox) { return Pixel(CenterOf(huevox.control(IDC_picPick))); }
-
-/// Moves, as a hand does, more than once: a display that reports an earlier move late takes the pointer back.
-void DragTo(const Huevox& huevox, POINT place, const Color& expected) {
-    EXPECT_TRUE(Eventually([&] {
-        MoveMouse(place);
-        return Preview(huevox) == expected;
-    })) << testing::PrintToString(Preview(huevox));
-}
 
 }  // namespace
 
