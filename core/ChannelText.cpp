@@ -54,6 +54,12 @@ std::int16_t ToNumber(std::string_view text, int base) {
 
 constinit const std::array<std::string_view, 256> HexPairs = BuildHexPairs();
 
+std::string HexText(const Color& color) {
+    std::string text = "#";
+    for (const int channel : {color.red, color.green, color.blue}) text += HexPairs[channel];
+    return text;
+}
+
 std::string LowerCased(std::string_view text) {
     std::string result(text);
     std::ranges::transform(result, result.begin(), [](char c) {

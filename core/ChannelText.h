@@ -6,8 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "core/Color.h"
+
 /// Entry i is i as exactly two upper-case hexadecimal digits, "00" to "FF": the only source of such digits.
 extern const std::array<std::string_view, 256> HexPairs;
+
+/// "#" and the pairs of red, green and blue.
+std::string HexText(const Color& color);
 
 /// Lower-cases the letters A to Z and leaves every other character as it is.
 std::string LowerCased(std::string_view text);

@@ -21,6 +21,7 @@ void ColorBar::Refill(int red, int green, int blue) {
     barColor = ColorRamp(ColorOf(red, green, blue));
     std::ranges::transform(barColor, colors.begin(), Pack);
     lblColorBar.setColors(colors);
+    lblColorBar.setFirstCell(std::min({red, green, blue}));  // the step of the colour itself
 }
 
 void ColorBar::lblColorBar_Click(int step) {

@@ -1,5 +1,6 @@
 #include "mainwindow/ColorMarks.h"
 
+#include "core/ChannelText.h"
 #include "core/ColorTables.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
@@ -42,6 +43,7 @@ void ColorMarks::ApplyPalette(const Palette& palette) {
     for (int mark = markCount - 1; mark >= 0; --mark) {
         picSample(mark).setBackColor(Pack(palette.colors[mark]));
         txtName(mark).setText(palette.names[mark]);
+        DescribeSample(mark);
         // What the box makes of the name: a palette that was just opened is unchanged.
         marks.savedMarkName[mark] = txtName(mark).text();
         marks.markColor[mark] = palette.colors[mark];
@@ -86,7 +88,13 @@ void ColorMarks::RefreshProperties() {
 void ColorMarks::PaintSelected(int red, int green, int blue) {
     const Color color = ColorOf(red, green, blue);
     picSample(marks.selectedMark).setBackColor(Pack(color));
+    DescribeSample(marks.selectedMark);
     marks.markColor[marks.selectedMark] = color;
+}
+
+/// For those who hear the window: the name and the colour.
+void ColorMarks::DescribeSample(int mark) {
+    picSample(mark).setText(Name(mark) + " " + HexText(Unpack(SampleColor(mark))));
 }
 
 void ColorMarks::HighlightRenamed() {
@@ -114,6 +122,7 @@ void ColorMarks::optColor_Click(int mark) {
 
 void ColorMarks::txtName_Change(int mark) {
     txtName(mark).setBackColor(white);
+    DescribeSample(mark);
     if (edit.nameFillInProgress || txtName(mark).text() != messages::notJavaScript) return;
     txtName(mark).setText(messages::noName);
     txtName(mark).setCaretToEnd();

@@ -53,6 +53,8 @@ private:
     void txtName_GotFocus(int mark);
     void txtName_LostFocus(int mark);
 
+    void DescribeSample(int mark);
+
     Marks& marks;
     EditState& edit;
     ChannelEditors& channels;

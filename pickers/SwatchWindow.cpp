@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "resources/resource.h"
 #include "toolkit/Beside.h"
 #include "toolkit/WindowPlace.h"
 
 SwatchWindow::SwatchWindow(const char* name) : Form(name, 1) {
+    Command.bind(this, &SwatchWindow::Form_Command);
     Activate.bind(this, &SwatchWindow::Form_Activate);
     Unload.bind(this, &SwatchWindow::Form_Unload);
 }
@@ -17,6 +19,10 @@ void SwatchWindow::open(std::span<const HWND> neighbors) {
     others = {};
     show(SW_SHOWNORMAL);
     ::SetForegroundWindow(handle());
+}
+
+void SwatchWindow::Form_Command(int command) {
+    if (command == IDC_cmdCancel) unload();
 }
 
 /// A window manager may have put the new window elsewhere on its way to the screen.

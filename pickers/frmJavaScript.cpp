@@ -46,7 +46,7 @@ void frmJavaScript::tbrSortTools_ButtonClick(int button) {
     switch (button) {
         case IDM_Alphabetically: FillAlphabetically(); break;
         case IDM_DotNet: FillDotNetOrder(); break;
-        default: break;
+        default: Form_Command(button); break;
     }
 }
 

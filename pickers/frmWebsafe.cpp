@@ -19,11 +19,7 @@ frmWebsafe::frmWebsafe(ChannelEditors& channels)
 
 void frmWebsafe::Form_Load() {
     std::vector<std::string> tips;
-    for (const Color& color : colorTables.websafeChannels) {
-        std::string tip = "#";
-        for (const int channel : {color.red, color.green, color.blue}) tip += HexPairs[channel];
-        tips.push_back(tip);
-    }
+    for (const Color& color : colorTables.websafeChannels) tips.push_back(HexText(color));
     lblWebsafeColor.setColors(colorTables.websafeColor);
     lblWebsafeColor.setTips(std::move(tips));
 }

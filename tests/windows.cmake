@@ -17,6 +17,7 @@ add_executable(program_tests
     toolkit/FormTest.cpp
     toolkit/ModalFormTest.cpp
     toolkit/ModalHoldTest.cpp
+    toolkit/ScalingTest.cpp
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
     ui/Input.cpp)
@@ -39,6 +40,7 @@ add_executable(ui_tests
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
     ui/JavaScriptPickerTest.cpp
+    ui/KeyboardTest.cpp
     ui/LeftMonitorTest.cpp
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp

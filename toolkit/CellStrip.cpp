@@ -3,15 +3,38 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <optional>
 
+#include "core/ChannelText.h"
+#include "toolkit/CellMove.h"
 #include "toolkit/Form.h"
+#include "toolkit/Keys.h"
 #include "toolkit/Mouse.h"
 #include "toolkit/Painting.h"
 #include "toolkit/ToolTips.h"
 
+namespace {
+
+constexpr int narrowestFrame = 7;
+
+std::optional<CellStep> StepOf(WPARAM key) {
+    switch (key) {
+        case VK_LEFT: return CellStep::left;
+        case VK_RIGHT: return CellStep::right;
+        case VK_UP: return CellStep::up;
+        case VK_DOWN: return CellStep::down;
+        case VK_HOME: return CellStep::first;
+        case VK_END: return CellStep::last;
+        default: return std::nullopt;
+    }
+}
+
+}  // namespace
+
 void CellStrip::setColors(std::span<const PackedColor> cellColors) {
     if (std::ranges::equal(colors, cellColors)) return;
     colors.assign(cellColors.begin(), cellColors.end());
+    if (hasFocus()) tellCell();
     if (!isHeld) ::InvalidateRect(handle(), nullptr, FALSE);
 }
 
@@ -35,6 +58,7 @@ void CellStrip::showTips(ToolTips& toolTips) const {
 void CellStrip::attached() {
     colors.clear();
     tips.clear();
+    framedCell = 0;
     receive();
 }
 
@@ -43,6 +67,11 @@ LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: paint(); return 0;
         case WM_CAPTURECHANGED: pressedCell = -1; return 0;
+        case WM_GETDLGCODE: return DLGC_WANTARROWS | (IsEnter(lParam) ? DLGC_WANTMESSAGE : 0);
+        case WM_SETFOCUS: tellCell(); [[fallthrough]];
+        case WM_KILLFOCUS: ::InvalidateRect(handle(), nullptr, FALSE); return 0;
+        case WM_KEYDOWN: return onKey(wParam, lParam);
+        case WM_UPDATEUISTATE: ::InvalidateRect(handle(), nullptr, FALSE); break;
         default: break;
     }
     if (isUsable()) raiseMouse(message, lParam);
@@ -61,6 +90,7 @@ void CellStrip::raiseMouse(UINT message, LPARAM lParam) {
     if (button == 0 || cell < 0) return;
     if (button == leftButton) {
         pressedCell = cell;
+        moveFrame(cell);
         ::SetCapture(handle());
     }
     MouseDown.raise(cell, button);
@@ -81,6 +111,57 @@ void CellStrip::paint() {
     for (std::size_t cell = 0; cell < count; ++cell) {
         FillWithColor(painting.context(), placeOf(cell), static_cast<COLORREF>(colors[cell]));
     }
+    // The platform hides such frames until the keyboard is used.
+    const bool isHidden = (send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0;
+    if (hasFocus() && !isHidden && !colors.empty()) paintFrame(painting.context());
+}
+
+/// Black around white, so that it is seen on any colour, and wide enough to be seen around the narrowest
+/// cell.
+void CellStrip::paintFrame(HDC context) const {
+    RECT frame = placeOf(framedCell);
+    const int narrow = form.scaled(narrowestFrame) - static_cast<int>(frame.right - frame.left);
+    if (narrow > 0) ::InflateRect(&frame, narrow / 2, 0);
+    for (const int color : {BLACK_BRUSH, WHITE_BRUSH}) {
+        for (int line = 0; line < form.scaled(1); ++line) {
+            ::FrameRect(context, &frame, static_cast<HBRUSH>(::GetStockObject(color)));
+            ::InflateRect(&frame, -1, -1);
+        }
+    }
+}
+
+void CellStrip::setFirstCell(int cell) {
+    if (!hasFocus()) framedCell = cell;
+}
+
+void CellStrip::moveFrame(int cell) {
+    if (framedCell == cell) return;
+    framedCell = cell;
+    if (!hasFocus()) return;
+    tellCell();
+    ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+LRESULT CellStrip::onKey(WPARAM key, LPARAM lParam) {
+    if (const std::optional<CellStep> step = StepOf(key)) {
+        moveFrame(NextCell(places, framedCell, *step));
+    } else if ((key == VK_SPACE || key == VK_RETURN) && isUsable()) {
+        const int cell = framedCell;
+        MouseDown.raise(cell, leftButton);
+        Click.raise(cell);
+    } else {
+        return Control::onMessage(WM_KEYDOWN, key, lParam);
+    }
+    return 0;
+}
+
+void CellStrip::tellCell() const {
+    if (static_cast<std::size_t>(framedCell) < colors.size())
+        ::SetWindowTextA(handle(), textOf(framedCell).c_str());
+}
+
+std::string CellStrip::textOf(std::size_t cell) const {
+    return cell < tips.size() ? tips[cell] : HexText(Unpack(colors[cell]));
 }
 
 void CellStrip::paintBackground(const Painting& painting) const {

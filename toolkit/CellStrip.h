@@ -12,7 +12,8 @@
 
 class Painting;
 
-/// A window of class "CellStrip": a few hundred coloured cells, painted at once.
+/// A window of class "CellStrip": a few hundred coloured cells, painted at once. By the keyboard: arrows,
+/// Home and End move a frame from cell to cell, Space and Enter press the one that has it.
 class CellStrip : public Control {
 public:
     using Control::Control;
@@ -29,6 +30,9 @@ public:
 
     /// Places in twips from the left and top of the strip; a later cell lies over an earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
+
+    /// The cell that the keyboard begins with; it stays while the strip has the focus.
+    void setFirstCell(int cell);
 
     /// One tool tip a cell.
     void setTips(std::vector<std::string> cellTips);
@@ -53,6 +57,12 @@ private:
     void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
     void release();
+    LRESULT onKey(WPARAM key, LPARAM lParam);
+    void moveFrame(int cell);
+    void paintFrame(HDC context) const;
+    /// Tells screen readers what is under the frame.
+    void tellCell() const;
+    std::string textOf(std::size_t cell) const;
     /// -1 where there is none.
     int cellAt(POINT point) const;
     RECT placeOf(std::size_t cell) const;
@@ -62,5 +72,6 @@ private:
     std::vector<PackedColor> colors;
     std::vector<std::string> tips;
     int pressedCell = -1;
+    int framedCell = 0;
     bool isHeld = false;
 };

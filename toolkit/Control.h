@@ -65,6 +65,7 @@ private:
 
     // What the form passes on to its controls:
     virtual void attached() {}
+    virtual void rescaled() {}
     virtual void showTips(ToolTips& toolTips) const;
     virtual void onCommand(int /*id*/, int /*code*/) {}
     virtual void onScroll(int /*code*/, int /*position*/) {}

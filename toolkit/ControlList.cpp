@@ -18,6 +18,10 @@ void ControlList::showTips(ToolTips& toolTips) const {
     for (const Control* control : controls) control->showTips(toolTips);
 }
 
+void ControlList::rescaled() const {
+    for (Control* control : controls) control->rescaled();
+}
+
 void ControlList::detachAll() const {
     for (Control* control : controls) control->detach();
 }

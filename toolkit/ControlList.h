@@ -19,6 +19,8 @@ public:
     Control* withWindow(HWND window) const;
 
     void showTips(ToolTips& toolTips) const;
+    /// The form has another scaling, and its controls are in their new places.
+    void rescaled() const;
     void detachAll() const;
 
 private:

@@ -12,7 +12,7 @@
 #include "toolkit/WindowPlace.h"
 #include "toolkit/WindowText.h"
 
-Form::Form(const char* name, int twipsPerUnit) : name(name), twipsPerUnit(twipsPerUnit) {}
+Form::Form(const char* name, int twipsPerUnit) : name(name), layout(twipsPerUnit) {}
 
 Form::~Form() {
     if (window) ::DestroyWindow(window);
@@ -20,36 +20,30 @@ Form::~Form() {
 
 void Form::load() {
     if (window) return;
-    const DialogTemplate layout = LoadDialogTemplate(name);
-    createFrame(layout);
-    for (const TemplateItem& item : layout.items) createControl(item);
+    const DialogTemplate dialog = LoadDialogTemplate(name);
+    createFrame(dialog);
+    for (const TemplateItem& item : dialog.items) createControl(item);
     accelerators = ::LoadAcceleratorsA(::GetModuleHandleA(nullptr), name);
     for (const Timer* timer : timers) timer->start(window);
     Load.pass();
     if (window) state = State::loaded;
 }
 
-void Form::createFrame(const DialogTemplate& layout) {
+void Form::createFrame(const DialogTemplate& dialog) {
     state = State::loading;
     formBeingCreated = this;
-    CreateFormWindow(name, layout, owner, &Form::proc);
+    CreateFormWindow(name, dialog, owner, &Form::proc);
     if (!window) throw std::runtime_error("the platform refused a window");
     loadedForms.push_back(this);
     modalHold.join(window);
-    dpi = static_cast<int>(::GetDpiForWindow(window));
-    PlaceAt(window,
-            firstPlace(CenteredPlace(window, fromUnits(layout.width), fromUnits(layout.height), dpi)));
+    layout.begin(window, dialog);
+    PlaceAt(window, firstPlace(layout.middle()));
 }
 
 void Form::createControl(const TemplateItem& item) {
-    // Edges are scaled, not sizes, so that what meets at 96 DPI meets at every DPI.
-    RECT place = {fromUnits(item.x), fromUnits(item.y), fromUnits(item.x + item.width),
-                  fromUnits(item.y + item.height)};
     Control* control = controls.withId(static_cast<int>(item.id));
     const Control* container = control ? control->container : nullptr;
-    const HWND parent = container ? container->window : window;
-    ::MapWindowPoints(window, parent, reinterpret_cast<POINT*>(&place), 2);
-    const HWND created = CreateFormControl(parent, item, place, MessageFont(dpi));
+    const HWND created = layout.create(container ? container->window : window, item);
     if (!created) throw std::runtime_error("the platform refused a control");
     if (control) control->attach(created);
     if (::SendMessageA(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)

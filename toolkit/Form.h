@@ -8,6 +8,7 @@
 
 #include "toolkit/ControlList.h"
 #include "toolkit/Event.h"
+#include "toolkit/FormLayout.h"
 #include "toolkit/ModalHold.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Twips.h"
@@ -15,8 +16,6 @@
 class Control;
 class Timer;
 class ToolTips;
-struct DialogTemplate;
-struct TemplateItem;
 
 /// A window made from a DIALOGEX template whose units are pixels at 96 DPI, or twips. Forms are unloaded, not
 /// deleted, while handlers may be on the stack.
@@ -66,9 +65,9 @@ public:
     void setBackground(HBRUSH brush) { background = brush; }
 
     /// Pixels at 96 DPI in pixels of this window.
-    int scaled(int pixels) const { return ::MulDiv(pixels, dpi, USER_DEFAULT_SCREEN_DPI); }
+    int scaled(int pixels) const { return ::MulDiv(pixels, layout.dpi(), USER_DEFAULT_SCREEN_DPI); }
     /// Twips in pixels of this window.
-    Area scaled(const Area& twips) const { return PixelsFromTwips(twips, dpi); }
+    Area scaled(const Area& twips) const { return PixelsFromTwips(twips, layout.dpi()); }
 
     /// The control's tool tips are not what they were.
     void tipChanged(const Control& control);
@@ -86,31 +85,17 @@ private:
     friend class Timer;
     enum class State { unloaded, loading, loaded, unloading };
 
-    int fromUnits(int units) const { return PixelsFromTwips(units * twipsPerUnit, dpi); }
     void add(Timer& timer) { timers.push_back(&timer); }
     /// The window is about to be disabled or hidden: if it has the focus, the next control gets it.
     void focusLeaves(HWND leaving);
     static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT onCommand(int id, int code, HWND sender);
-    LRESULT onScroll(int code, int position, HWND sender);
-    LRESULT onColor(HDC context, HWND sender);
-    LRESULT onTimer(UINT_PTR id);
-    LRESULT onClose();
-    LRESULT onQueryEndSession();
-    LRESULT onEndSession(bool isEnding);
-    LRESULT onActivated();
-    LRESULT onFocusLeft(HWND left);
-    void onActivate(bool becomesActive);
-    bool onMouse();
-    void onDestroyed();
+    class Receiver;
 
-    void createFrame(const DialogTemplate& layout);
+    void createFrame(const DialogTemplate& dialog);
     void createControl(const TemplateItem& item);
     bool mayUnload();
     void close();
 
-    static constexpr UINT activatedMessage = WM_APP + 1;
     static constexpr UINT focusLeftMessage = WM_APP + 2;
 
     static inline std::vector<Form*> loadedForms;
@@ -118,7 +103,6 @@ private:
     static inline ModalHold modalHold;
 
     const char* name;
-    int twipsPerUnit;
     HWND window = nullptr;
     HWND owner = nullptr;  ///< of a modal form
     HACCEL accelerators = nullptr;
@@ -127,7 +111,7 @@ private:
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;
     std::vector<Timer*> timers;
-    int dpi = USER_DEFAULT_SCREEN_DPI;
+    FormLayout layout;
     State state = State::unloaded;
     bool isActive = false;
     bool isActivatePending = false;

@@ -6,6 +6,45 @@
 #include "toolkit/Timer.h"
 #include "toolkit/ToolTips.h"
 
+namespace {
+
+constexpr UINT activatedMessage = WM_APP + 1;
+
+HWND Window(LPARAM parameter) { return reinterpret_cast<HWND>(parameter); }
+
+BOOL CALLBACK PassOn(HWND child, LPARAM message) {
+    ::SendMessageA(child, static_cast<UINT>(message), 0, 0);
+    return TRUE;
+}
+
+}  // namespace
+
+/// What a form does about the platform's messages.
+class Form::Receiver {
+public:
+    explicit Receiver(Form& form) : form(form) {}
+
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+private:
+    LRESULT onCommand(int id, int code, HWND sender);
+    LRESULT onScroll(int code, int position, HWND sender);
+    LRESULT onColor(HDC context, HWND sender);
+    LRESULT onTimer(UINT_PTR id);
+    LRESULT onClose();
+    LRESULT onQueryEndSession();
+    LRESULT onEndSession(bool isEnding);
+    LRESULT onActivated();
+    LRESULT onFocusLeft(HWND left);
+    LRESULT onScalingWanted(int dpi, SIZE& size);
+    LRESULT onScaling(int dpi, const RECT& suggested);
+    void onActivate(bool becomesActive);
+    bool onMouse();
+    void onDestroyed();
+
+    Form& form;
+};
+
 bool Form::preTranslate(MSG& message) {
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     const HWND root = ::GetAncestor(message.hwnd, GA_ROOT);
@@ -23,27 +62,30 @@ LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         form->window = window;
         ::SetWindowLongPtrA(window, DLGWINDOWEXTRA, reinterpret_cast<LONG_PTR>(form));
     }
-    return form->onMessage(message, wParam, lParam);
+    return Receiver(*form).onMessage(message, wParam, lParam);
 }
 
-LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND form = window;  // onDestroyed forgets it
+LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND window = form.window;  // onDestroyed forgets it
     switch (message) {
-        case WM_COMMAND: return onCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
-        case WM_HSCROLL: return onScroll(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+        case WM_COMMAND: return onCommand(LOWORD(wParam), HIWORD(wParam), Window(lParam));
+        case WM_HSCROLL: return onScroll(LOWORD(wParam), HIWORD(wParam), Window(lParam));
         case WM_TIMER: return onTimer(wParam);
         case WM_CLOSE: return onClose();
         case WM_QUERYENDSESSION: return onQueryEndSession();
         case WM_ENDSESSION: return onEndSession(wParam != FALSE);
+        case WM_GETDPISCALEDSIZE:
+            return onScalingWanted(static_cast<int>(wParam), *reinterpret_cast<SIZE*>(lParam));
+        case WM_DPICHANGED: return onScaling(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
         case activatedMessage: return onActivated();
-        case focusLeftMessage: return onFocusLeft(reinterpret_cast<HWND>(lParam));
+        case focusLeftMessage: return onFocusLeft(Window(lParam));
         case WM_CTLCOLORDLG:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
-            if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)))
-                return brush;
+            if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), Window(lParam))) return brush;
             break;
-        case WM_ENABLE: modalHold.changed(form, wParam != FALSE); break;
+        case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
+        case WM_ENABLE: modalHold.changed(window, wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam) != WA_INACTIVE); break;
         case WM_SETCURSOR:
             if (onMouse()) return TRUE;
@@ -51,89 +93,105 @@ LRESULT Form::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NCDESTROY: onDestroyed(); break;
         default: break;
     }
-    return ::DefDlgProcA(form, message, wParam, lParam);
+    return ::DefDlgProcA(window, message, wParam, lParam);
 }
 
 /// While a modal window has disabled the form, its commands are ignored by every way in.
-LRESULT Form::onCommand(int id, int code, HWND sender) {
-    if (Control* control = controls.withWindow(sender)) {
+LRESULT Form::Receiver::onCommand(int id, int code, HWND sender) {
+    if (Control* control = form.controls.withWindow(sender)) {
         control->onCommand(id, code);
-    } else if (!sender && ::IsWindowEnabled(window)) {
-        Command.raise(id);
+    } else if (!sender && ::IsWindowEnabled(form.window)) {
+        form.Command.raise(id);
     }
     return 0;
 }
 
-LRESULT Form::onScroll(int code, int position, HWND sender) {
-    if (Control* control = controls.withWindow(sender)) control->onScroll(code, position);
+LRESULT Form::Receiver::onScroll(int code, int position, HWND sender) {
+    if (Control* control = form.controls.withWindow(sender)) control->onScroll(code, position);
     return 0;
 }
 
-LRESULT Form::onColor(HDC context, HWND sender) {
-    if (sender == window) return reinterpret_cast<LRESULT>(background);
-    Control* control = controls.withWindow(sender);
+LRESULT Form::Receiver::onColor(HDC context, HWND sender) {
+    if (sender == form.window) return reinterpret_cast<LRESULT>(form.background);
+    Control* control = form.controls.withWindow(sender);
     return control ? reinterpret_cast<LRESULT>(control->onColor(context)) : 0;
 }
 
-LRESULT Form::onTimer(UINT_PTR id) {
-    const auto timer = std::ranges::find(timers, id, &Timer::id);
-    if (timer != timers.end() && isLoaded()) (*timer)->Tick.raise();
+LRESULT Form::Receiver::onTimer(UINT_PTR id) {
+    const auto timer = std::ranges::find(form.timers, id, &Timer::id);
+    if (timer != form.timers.end() && form.isLoaded()) (*timer)->Tick.raise();
     return 0;
 }
 
-LRESULT Form::onClose() {
-    if (::IsWindowEnabled(window)) unload();
+LRESULT Form::Receiver::onClose() {
+    if (::IsWindowEnabled(form.window)) form.unload();
     return 0;
 }
 
 /// Answers whether the session may end. A question that is open already is answered first.
-LRESULT Form::onQueryEndSession() { return !isAsking && mayUnload(); }
+LRESULT Form::Receiver::onQueryEndSession() { return !form.isAsking && form.mayUnload(); }
 
-LRESULT Form::onEndSession(bool isEnding) {
-    if (isEnding) close();
+LRESULT Form::Receiver::onEndSession(bool isEnding) {
+    if (isEnding) form.close();
     return 0;
 }
 
-void Form::onActivate(bool becomesActive) {
-    isActive = becomesActive;
-    if (!isLoaded()) return;
+/// The platform asks how large the window will be at another scaling.
+LRESULT Form::Receiver::onScalingWanted(int dpi, SIZE& size) {
+    const Area frame = form.layout.middle(dpi);
+    size = {frame.width(), frame.height()};
+    return TRUE;
+}
+
+/// The window has come to a monitor of another scaling, or the user has changed it.
+LRESULT Form::Receiver::onScaling(int dpi, const RECT& suggested) {
+    form.layout.rescale(dpi, {suggested.left, suggested.top});
+    form.controls.rescaled();
+    if (form.toolTips) form.controls.showTips(*form.toolTips);
+    ::RedrawWindow(form.window, nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN);
+    return 0;
+}
+
+void Form::Receiver::onActivate(bool becomesActive) {
+    form.isActive = becomesActive;
+    if (!form.isLoaded()) return;
     if (becomesActive) {
         // The message arrives inside the platform's own work, the closing of a message box for instance.
-        isActivatePending = true;
-        ::PostMessageA(window, activatedMessage, 0, 0);
+        form.isActivatePending = true;
+        ::PostMessageA(form.window, activatedMessage, 0, 0);
     } else {
-        Deactivate.raise();
+        form.Deactivate.raise();
     }
 }
 
-LRESULT Form::onActivated() {
-    if (isActive && isActivatePending) activate();
+LRESULT Form::Receiver::onActivated() {
+    if (form.isActive && form.isActivatePending) form.activate();
     return 0;
 }
 
-LRESULT Form::onFocusLeft(HWND left) {
-    if (isActive) MoveFocusOn(window, left);
+LRESULT Form::Receiver::onFocusLeft(HWND left) {
+    if (form.isActive) MoveFocusOn(form.window, left);
     return 0;
 }
 
 /// The mouse is over the form: the first time for a tool tip to be of use. True when the form gives the
 /// pointer its shape.
-bool Form::onMouse() {
-    if (!toolTips && isLoaded()) {
-        toolTips = std::make_unique<ToolTips>(window);
-        controls.showTips(*toolTips);
+bool Form::Receiver::onMouse() {
+    if (!form.toolTips && form.isLoaded()) {
+        form.toolTips = std::make_unique<ToolTips>(form.window);
+        form.controls.showTips(*form.toolTips);
     }
-    if (pointer) ::SetCursor(pointer);
-    return pointer != nullptr;
+    if (form.pointer) ::SetCursor(form.pointer);
+    return form.pointer != nullptr;
 }
 
-void Form::onDestroyed() {
-    controls.detachAll();
-    std::erase(loadedForms, this);
-    modalHold.leave(window);
-    toolTips.reset();
-    window = nullptr;
-    owner = nullptr;
-    state = State::unloaded;
+void Form::Receiver::onDestroyed() {
+    form.controls.detachAll();
+    std::erase(loadedForms, &form);
+    modalHold.leave(form.window);
+    form.toolTips.reset();
+    form.window = nullptr;
+    form.owner = nullptr;
+    form.state = State::unloaded;
     if (loadedForms.empty()) ::PostQuitMessage(0);
 }

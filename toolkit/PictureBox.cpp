@@ -9,12 +9,18 @@ void PictureBox::setBackColor(COLORREF color) {
     ::InvalidateRect(handle(), nullptr, FALSE);
 }
 
+void PictureBox::setText(std::string_view text) {
+    if (spoken == text) return;
+    spoken = text;
+    ::SetWindowTextA(handle(), spoken.c_str());
+}
+
 LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: {
             const Painting painting(handle());
-            FillWithColor(painting.context(), painting.area(), back);
+            FillWithColor(painting.context(), painting.area(), backColor());
             return 0;
         }
         case WM_CAPTURECHANGED: MouseCaptureLost.raise(); return 0;

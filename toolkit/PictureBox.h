@@ -1,6 +1,10 @@
 // How does a form show a plain coloured area?
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "toolkit/Control.h"
 #include "toolkit/Event.h"
 
@@ -19,8 +23,11 @@ public:
 
     static void registerClass() { registerOwnClass("PictureBox"); }
 
-    COLORREF backColor() const { return back; }
+    COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_BTNFACE)); }
     void setBackColor(COLORREF color);
+
+    /// What screen readers say of it.
+    void setText(std::string_view text);
 
     void captureMouse() { ::SetCapture(handle()); }
 
@@ -29,5 +36,6 @@ private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void raiseMouse(UINT message, WPARAM wParam) const;
 
-    COLORREF back = ::GetSysColor(COLOR_BTNFACE);
+    std::optional<COLORREF> back;  // until it has one, as the form's
+    std::string spoken;
 };

@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include "toolkit/Form.h"
+#include "toolkit/Keys.h"
 #include "toolkit/WindowText.h"
 
 void TextBox::attached() {
@@ -61,10 +62,8 @@ HBRUSH TextBox::onColor(HDC context) {
 LRESULT TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE: {
-            const auto* input = reinterpret_cast<const MSG*>(lParam);
-            const bool isEnter = input && input->message == WM_KEYDOWN && input->wParam == VK_RETURN;
             const LRESULT wants = Control::onMessage(message, wParam, lParam);
-            return isEnter && EnterKey.isBound() ? wants | DLGC_WANTMESSAGE : wants;
+            return IsEnter(lParam) && EnterKey.isBound() ? wants | DLGC_WANTMESSAGE : wants;
         }
         case WM_KEYDOWN:
             if (wParam != VK_RETURN || !EnterKey.isBound()) break;

@@ -1,8 +1,9 @@
 #include "toolkit/ToolBar.h"
 
-#include <vector>
+#include <algorithm>
 
 #include "toolkit/Form.h"
+#include "toolkit/Keys.h"
 #include "toolkit/ToolTips.h"
 
 namespace {
@@ -19,7 +20,7 @@ BYTE StyleOf(const ToolButton& button) {
 
 void ToolBar::fill(std::span<const ToolButton> buttons) {
     std::vector<TBBUTTON> records;
-    std::vector<int> icons;
+    icons.clear();
     for (const ToolButton& button : buttons) {
         TBBUTTON record{};
         record.fsState = TBSTATE_ENABLED;
@@ -31,11 +32,54 @@ void ToolBar::fill(std::span<const ToolButton> buttons) {
         icons.push_back(button.icon);
         tips[button.command] = button.tip;
     }
-    images = ImagesFromIcons(icons, form.scaled(pictureSize));
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
-    send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
-    send(TB_SETBUTTONSIZE, 0, MAKELPARAM(form.scaled(buttonSize), form.scaled(buttonSize)));
+    setSizes();
     send(TB_ADDBUTTONSA, records.size(), reinterpret_cast<LPARAM>(records.data()));
+}
+
+LRESULT ToolBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr WPARAM none = -1;
+    switch (message) {
+        case WM_GETDLGCODE: return DLGC_WANTARROWS | (IsEnter(lParam) ? DLGC_WANTMESSAGE : 0);
+        case WM_SETFOCUS: send(TB_SETHOTITEM, 0); return 0;
+        case WM_KILLFOCUS: send(TB_SETHOTITEM, none); return 0;
+        case WM_KEYDOWN:
+            if (onKey(wParam)) return 0;
+            break;
+        default: break;
+    }
+    return Control::onMessage(message, wParam, lParam);
+}
+
+bool ToolBar::onKey(WPARAM key) {
+    const auto hot = static_cast<int>(send(TB_GETHOTITEM));
+    const auto last = static_cast<int>(send(TB_BUTTONCOUNT)) - 1;
+    switch (key) {
+        case VK_LEFT: send(TB_SETHOTITEM, std::max(hot - 1, 0)); return true;
+        case VK_RIGHT: send(TB_SETHOTITEM, std::min(hot + 1, last)); return true;
+        case VK_SPACE:
+        case VK_RETURN: pressHot(); return true;
+        default: return false;
+    }
+}
+
+void ToolBar::pressHot() {
+    TBBUTTON button{};
+    if (!send(TB_GETBUTTON, send(TB_GETHOTITEM), reinterpret_cast<LPARAM>(&button))) return;
+    if (!(button.fsState & TBSTATE_ENABLED) || button.idCommand == 0) return;
+    if (button.fsStyle & BTNS_CHECK) press(button.idCommand);
+    onCommand(button.idCommand, 0);
+}
+
+void ToolBar::rescaled() {
+    if (!icons.empty()) setSizes();
+}
+
+void ToolBar::setSizes() {
+    OwnedImages scaledImages = ImagesFromIcons(icons, form.scaled(pictureSize));
+    send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(scaledImages.get()));
+    images = std::move(scaledImages);
+    send(TB_SETBUTTONSIZE, 0, MAKELPARAM(form.scaled(buttonSize), form.scaled(buttonSize)));
 }
 
 void ToolBar::setButtonTip(int command, std::string_view tip) {

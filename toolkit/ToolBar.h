@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/Control.h"
 #include "toolkit/IconPixels.h"
@@ -18,7 +19,7 @@ struct ToolButton {
 };
 
 /// Buttons that raise the form's Command, each with a picture and a tool tip, which it has while it is
-/// disabled too.
+/// disabled too. Where the bar is a tab stop, arrows go from button to button, Space and Enter press one.
 class ToolBar : public Control {
 public:
     using Control::Control;
@@ -33,9 +34,16 @@ public:
     void setButtonTip(int command, std::string_view tip);
 
 private:
+    void attached() override { subclass(); }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool onKey(WPARAM key);
+    void pressHot();
+    void rescaled() override;
+    void setSizes();
     void showTips(ToolTips& toolTips) const override;
     void onCommand(int id, int code) override;
 
     OwnedImages images;
+    std::vector<int> icons;
     std::map<int, std::string> tips;
 };

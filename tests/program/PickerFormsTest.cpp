@@ -58,6 +58,7 @@ protected:
 COLORREF PixelOf(HWND window, int x, int y) {
     ::SetWindowPos(window, HWND_TOP, 100 - x, 100 - y, 0, 0, SWP_NOSIZE);
     PumpAll();
+    ::SetFocus(nullptr);  // no frame around the cell that has it
     ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     const HDC context = ::GetDC(window);
     const COLORREF color = ::GetPixel(context, x, y);
@@ -154,7 +155,7 @@ TEST_F(PickerForms, ASwatchIsTakenFromTheOrderOfTheToolBarNotOfTheLastFill) {
 TEST_F(PickerForms, AnyOtherCommandChangesNothing) {
     const HWND window = openJavaScript(1);
     ::SendMessageA(window, WM_COMMAND, IDM_mnuEditCopyColor, 0);
-    ::SendMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    ::SendMessageA(window, WM_COMMAND, IDOK, 0);
     EXPECT_EQ(PixelOf(window, 1, pixels(420) + 1), black);
     EXPECT_TRUE(IsPressed(window, IDM_DotNet));
 }

@@ -112,11 +112,27 @@ TEST_F(Start, ASecondCopyOpensASecondWindowWithoutAMessage) {
 
 TEST_F(Start, TheFocusIsOnTheFirstSliderAndTheTabKeyGoesThroughTheControlsInOrder) {
     const Huevox huevox;
-    std::vector<int> order = {IDC_hsbRed,      IDC_hsbGreen,    IDC_hsbBlue,       IDC_txtSetRed,
-                              IDC_txtSetGreen, IDC_txtSetBlue,  IDC_optSetDec,     Name(0),
-                              Name(1),         Name(2),         Name(3),           Name(4),
-                              Name(5),         Option(0),       IDC_lstAutocopy,   IDC_chkJSNamesOnly,
-                              IDC_cmdWebsafe,  IDC_cmdFailsafe, IDC_cmdJavaScript, IDC_chkColorPick,
+    std::vector<int> order = {IDC_hsbRed,
+                              IDC_hsbGreen,
+                              IDC_hsbBlue,
+                              IDC_txtSetRed,
+                              IDC_txtSetGreen,
+                              IDC_txtSetBlue,
+                              IDC_optSetDec,
+                              Name(0),
+                              Name(1),
+                              Name(2),
+                              Name(3),
+                              Name(4),
+                              Name(5),
+                              Option(0),
+                              IDC_lblColorBar,
+                              IDC_lstAutocopy,
+                              IDC_chkJSNamesOnly,
+                              IDC_cmdWebsafe,
+                              IDC_cmdFailsafe,
+                              IDC_cmdJavaScript,
+                              IDC_chkColorPick,
                               IDC_hsbRed};
     for (const int id : order) {
         ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), id);

@@ -1,0 +1,53 @@
+#include "toolkit/FormLayout.h"
+
+#include "toolkit/FormWindow.h"
+#include "toolkit/WindowPlace.h"
+
+void FormLayout::begin(HWND form, const DialogTemplate& layout) {
+    window = form;
+    scaling = static_cast<int>(::GetDpiForWindow(form));
+    width = layout.width;
+    height = layout.height;
+    controls.clear();
+}
+
+Area FormLayout::middle(int dpi) const {
+    return CenteredPlace(window, fromUnits(width, dpi), fromUnits(height, dpi), dpi);
+}
+
+HWND FormLayout::create(HWND parent, const TemplateItem& item) {
+    const Area units = {item.x, item.y, item.x + item.width, item.y + item.height};
+    const HWND created = CreateFormControl(parent, item, placeOf(units, parent), MessageFont(scaling));
+    if (created) controls.push_back({created, units});
+    return created;
+}
+
+void FormLayout::rescale(int dpi, const POINT& corner) {
+    scaling = dpi;
+    const Area frame = middle();
+    PlaceAt(window, {corner.x, corner.y, corner.x + frame.width(), corner.y + frame.height()});
+    fitClientArea();
+    for (const Placed& control : controls) {
+        const RECT place = placeOf(control.units, ::GetParent(control.window));
+        ::SetWindowPos(control.window, nullptr, place.left, place.top, place.right - place.left,
+                       place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+        ::SendMessageA(control.window, WM_SETFONT, reinterpret_cast<WPARAM>(MessageFont(dpi)), TRUE);
+    }
+}
+
+/// Not every platform scales the frame of a window that is on the screen.
+void FormLayout::fitClientArea() const {
+    RECT client{};
+    ::GetClientRect(window, &client);
+    Area frame = PlaceOf(window);
+    frame.right += fromUnits(width, scaling) - client.right;
+    frame.bottom += fromUnits(height, scaling) - client.bottom;
+    PlaceAt(window, frame);
+}
+
+RECT FormLayout::placeOf(const Area& units, HWND parent) const {
+    RECT place = {fromUnits(units.left, scaling), fromUnits(units.top, scaling),
+                  fromUnits(units.right, scaling), fromUnits(units.bottom, scaling)};
+    ::MapWindowPoints(window, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}

@@ -1,0 +1,47 @@
+// Where do a form's window and controls stand at every scaling?
+#pragma once
+
+#include <vector>
+
+#include "toolkit/DialogTemplate.h"
+#include "toolkit/Platform.h"
+#include "toolkit/Twips.h"
+
+/// The places that a template gives, in pixels of the monitor that the window is on. Edges are scaled, not
+/// sizes, so that what meets at 96 DPI meets at every DPI.
+class FormLayout {
+public:
+    explicit FormLayout(int twipsPerUnit) : twipsPerUnit(twipsPerUnit) {}
+
+    /// A new window of that template, at the scaling of its monitor; nothing is moved yet.
+    void begin(HWND form, const DialogTemplate& layout);
+
+    int dpi() const { return scaling; }
+    /// The window with its frame, in the middle of its owner or of the work area.
+    Area middle() const { return middle(scaling); }
+    Area middle(int dpi) const;
+
+    /// Creates a control at its place. Returns nullptr when the platform refuses.
+    HWND create(HWND parent, const TemplateItem& item);
+
+    /// Another scaling from now on: everything comes to its place, the window with its left top corner at
+    /// corner.
+    void rescale(int dpi, const POINT& corner);
+
+private:
+    struct Placed {
+        HWND window;
+        Area units;
+    };
+
+    int fromUnits(int units, int dpi) const { return PixelsFromTwips(units * twipsPerUnit, dpi); }
+    void fitClientArea() const;
+    RECT placeOf(const Area& units, HWND parent) const;
+
+    int twipsPerUnit;
+    int scaling = USER_DEFAULT_SCREEN_DPI;
+    HWND window = nullptr;
+    int width = 0;
+    int height = 0;
+    std::vector<Placed> controls;
+};
