@@ -57,14 +57,15 @@ struct Setting {
 };
 
 constexpr std::array<Setting, 5> allSettings = {{
-    {"CustomFormat", TakeCustomFormat, [](const AppState& state) { return state.settings.customFormat; }},
-    {"FormatIndex", TakeFormatIndex,
+    {value_names::customFormat, TakeCustomFormat,
+     [](const AppState& state) { return state.settings.customFormat; }},
+    {value_names::formatIndex, TakeFormatIndex,
      [](const AppState& state) { return std::to_string(state.savedFormatIndex); }},
-    {"SortIndex", TakeSortIndex,
+    {value_names::sortIndex, TakeSortIndex,
      [](const AppState& state) { return std::to_string(state.settings.sortIndex); }},
-    {"PromptToSave", TakePromptToSave,
+    {value_names::promptToSave, TakePromptToSave,
      [](const AppState& state) { return std::to_string(state.settings.promptToSave); }},
-    {"StandardFolder", TakeStandardFolder,
+    {value_names::standardFolder, TakeStandardFolder,
      [](const AppState& state) { return state.settings.standardFolder; }},
 }};
 

@@ -7,6 +7,17 @@
 
 #include "support/AppState.h"
 
+/// What the settings are called where they are stored.
+namespace value_names {
+
+inline constexpr std::string_view customFormat = "CustomFormat";
+inline constexpr std::string_view formatIndex = "FormatIndex";
+inline constexpr std::string_view sortIndex = "SortIndex";
+inline constexpr std::string_view promptToSave = "PromptToSave";
+inline constexpr std::string_view standardFolder = "StandardFolder";
+
+}  // namespace value_names
+
 /// Reads the text of one stored value; "" for a value that is missing.
 using SettingReader = std::function<std::string(std::string_view valueName)>;
 using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
