@@ -15,14 +15,13 @@ struct Store {
     std::vector<std::pair<std::string, std::string>> written;
 
     bool take(AppState& state) {
-        return TakeSettings(
-            state,
-            [this](std::string_view name) {
-                const auto found = values.find(name);
-                return found == values.end() ? std::string() : found->second;
-            },
-            {[](std::string_view path) { return path == "D:\\Palettes"; },
-             [](char byte) { return byte == '\x83'; }});
+        return TakeSettings(state,
+                            [this](std::string_view name) {
+                                const auto found = values.find(name);
+                                return found == values.end() ? std::string() : found->second;
+                            },
+                            {[](std::string_view path) { return path == "D:\\Palettes"; },
+                             [](char byte) { return byte == '\x83'; }});
     }
 
     void restore(AppState& state) {
