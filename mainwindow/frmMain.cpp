@@ -19,13 +19,15 @@ frmMain::frmMain(AppState& state)
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks),
       pickers(*this, state.settings, channels),
-      helpCommands(*this, commands, help) {
+      helpCommands(*this, commands, help),
+      customFormat(state, registry, help) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);
     QueryUnload.bind(this, &frmMain::Form_QueryUnload);
     Unload.bind(this, &frmMain::Form_Unload);
     commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
+    commands.bind(IDM_mnuToolsCustomFormat, this, &frmMain::mnuToolsCustomFormat_Click);
 }
 
 void frmMain::Form_Load() {
@@ -68,6 +70,11 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::mnuFileExit_Click() { unload(); }
+
+void frmMain::mnuToolsCustomFormat_Click() {
+    autocopy.KeepNotation();  // before the dialog reads the settings again
+    customFormat.showModal(*this);
+}
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);

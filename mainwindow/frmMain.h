@@ -15,6 +15,7 @@
 #include "palette/PaletteCommands.h"
 #include "pickers/Pickers.h"
 #include "settings/RegistryStringHandler.h"
+#include "settings/frmCustomFormat.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
 
@@ -30,6 +31,7 @@ private:
     void Form_QueryUnload(bool& isCancelled);
     void Form_Unload();
     void mnuFileExit_Click();
+    void mnuToolsCustomFormat_Click();
 
     void CheckColorDepth();
     void SetSelectedColor(int red, int green, int blue) override;
@@ -48,5 +50,6 @@ private:
     ScreenPick screenPick;
     Pickers pickers;
     HelpCommands helpCommands;
+    frmCustomFormat customFormat;
     unsigned turns = 0;
 };

@@ -3,6 +3,7 @@
 #include "settings/Folders.h"
 #include "settings/SettingsRules.h"
 #include "support/Messages.h"
+#include "toolkit/CodePage.h"
 #include "toolkit/MsgBox.h"
 
 void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner) {
@@ -10,7 +11,7 @@ void LoadSettings(AppState& state, const RegistryStringHandler& registry, const 
     const auto read = [&](std::string_view valueName) {
         return registry.ReadString(HKEY_CURRENT_USER, settingsKey, valueName);
     };
-    if (TakeSettings(state, read, IsValidFolder)) return;
+    if (TakeSettings(state, read, {IsValidFolder, IsLeadByte})) return;
     RestoreDefaultSettings(state, [&](std::string_view valueName, std::string_view text) {
         registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
     });

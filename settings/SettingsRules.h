@@ -1,20 +1,41 @@
 // Which settings are there, what is accepted for each, and what do they fall back to?
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "support/AppState.h"
+#include "support/Characters.h"
+
+/// What the settings are called where they are stored.
+namespace value_names {
+
+inline constexpr std::string_view customFormat = "CustomFormat";
+inline constexpr std::string_view formatIndex = "FormatIndex";
+inline constexpr std::string_view sortIndex = "SortIndex";
+inline constexpr std::string_view promptToSave = "PromptToSave";
+inline constexpr std::string_view standardFolder = "StandardFolder";
+
+}  // namespace value_names
+
+/// The length of the longest custom template, in characters.
+inline constexpr std::size_t customFormatLimit = 250;
 
 /// Reads the text of one stored value; "" for a value that is missing.
 using SettingReader = std::function<std::string(std::string_view valueName)>;
 using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
-using FolderCheck = std::function<bool(std::string_view path)>;
+
+/// What the platform knows of a text.
+struct TextChecks {
+    std::function<bool(std::string_view path)> isValidFolder;
+    LeadByteTest isLeadByte;
+};
 
 /// Takes the stored settings one after another into state; desktopFolder is already set. Returns false at the
 /// first unusable value: those before it have been taken, it and those after it have not.
-bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck& isValidFolder);
+bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks);
 
 /// Puts every setting back to its default and writes all five. The start-up notation in memory keeps what it
 /// had.

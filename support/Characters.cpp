@@ -7,6 +7,12 @@ std::size_t CharacterLength(std::string_view text, std::size_t at, LeadByteTest 
     return std::min(length, text.size() - at);
 }
 
+std::size_t CharacterCount(std::string_view text, LeadByteTest isLeadByte) {
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < text.size(); at += CharacterLength(text, at, isLeadByte)) ++count;
+    return count;
+}
+
 std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte) {
     std::size_t end = 0;
     for (; count > 0 && end < text.size(); --count) end += CharacterLength(text, end, isLeadByte);

@@ -11,6 +11,8 @@ using LeadByteTest = bool (*)(char byte);
 /// The length in bytes of the character at a place before the end of the text.
 std::size_t CharacterLength(std::string_view text, std::size_t at, LeadByteTest isLeadByte);
 
+std::size_t CharacterCount(std::string_view text, LeadByteTest isLeadByte);
+
 /// The first characters, at most count of them; never half a character.
 std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte);
 

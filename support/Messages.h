@@ -77,4 +77,15 @@ inline constexpr const char* javaScriptTip = "Click here to open the JavaScript 
 inline constexpr const char* pasteEnabledTip = "Paste Colour To Selected Colour Mark (F3)";
 inline constexpr const char* pasteDisabledTip = "Use the Copy button to enable";
 
+inline constexpr const char* upperRedTip = "Insert the code for Red in Upper Case Hex";
+inline constexpr const char* upperGreenTip = "Insert the code for Green in Upper Case Hex";
+inline constexpr const char* upperBlueTip = "Insert the code for Blue in Upper Case Hex";
+inline constexpr const char* lowerRedTip = "Insert the code for Red in Lower Case Hex";
+inline constexpr const char* lowerGreenTip = "Insert the code for Green in Lower Case Hex";
+inline constexpr const char* lowerBlueTip = "Insert the code for Blue in Lower Case Hex";
+inline constexpr const char* decimalRedTip = "Insert the code for Red in Decimal";
+inline constexpr const char* decimalGreenTip = "Insert the code for Green in Decimal";
+inline constexpr const char* decimalBlueTip = "Insert the code for Blue in Decimal";
+inline constexpr const char* longDecimalTip = "Insert the code for Long Decimal";
+
 }  // namespace messages

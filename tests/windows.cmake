@@ -35,7 +35,11 @@ add_executable(ui_tests
     ui/ColorBarTest.cpp
     ui/ColorPropertiesTest.cpp
     ui/CommandsTest.cpp
+    ui/CustomFormatTest.cpp
+    ui/CustomNotationTest.cpp
     ui/FindJavaScriptNamesTest.cpp
+    ui/FormatDialogTest.cpp
+    ui/FormatLimitTest.cpp
     ui/Huevox.cpp
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp

@@ -40,6 +40,10 @@ void Control::setVisible(bool isVisible) {
     ::ShowWindow(window, isVisible ? SW_SHOWNA : SW_HIDE);
 }
 
+void Control::setFocus() {
+    if (window) ::SendMessageA(form.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+}
+
 void Control::setToolTip(std::string_view text) {
     tip = text;
     form.tipChanged(*this);

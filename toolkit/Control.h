@@ -29,7 +29,8 @@ public:
     void setEnabled(bool isEnabled);
     /// When it has the focus and is hidden, the focus moves on to the next control.
     void setVisible(bool isVisible);
-    void setFocus() { ::SetFocus(window); }
+    /// As the Tab key does: the platform selects a box's whole text and sees to the default button.
+    void setFocus();
 
     void setToolTip(std::string_view text);
 

@@ -32,9 +32,21 @@ void TextBox::selectAllIfTabbed() {
     if (::GetKeyState(VK_TAB) < 0) selectAll();
 }
 
+Selection TextBox::selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {start, end};
+}
+
+void TextBox::setSelection(const Selection& wanted) {
+    send(EM_SETSEL, wanted.start, static_cast<LPARAM>(wanted.end));
+    send(EM_SCROLLCARET);
+}
+
 void TextBox::setCaretToEnd() {
-    const int end = ::GetWindowTextLengthA(handle());
-    send(EM_SETSEL, end, end);
+    const auto end = static_cast<std::size_t>(::GetWindowTextLengthA(handle()));
+    setSelection({end, end});
 }
 
 void TextBox::setBackColor(COLORREF color) {

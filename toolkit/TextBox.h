@@ -1,12 +1,20 @@
 // How does a form take a line of text?
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "toolkit/Control.h"
 #include "toolkit/Event.h"
+
+/// In characters from 0: the first that is selected, and the one behind the last. Without a selection both
+/// are where the caret stands.
+struct Selection {
+    std::size_t start;
+    std::size_t end;
+};
 
 class TextBox : public Control {
 public:
@@ -29,6 +37,9 @@ public:
     void selectAll() { send(EM_SETSEL, 0, -1); }
     /// Selects the whole text if the Tab key is what has brought the focus here.
     void selectAllIfTabbed();
+    Selection selection() const;
+    /// Selects and shows the end of the selection.
+    void setSelection(const Selection& wanted);
     void setCaretToEnd();
 
     COLORREF backColor() const { return back; }

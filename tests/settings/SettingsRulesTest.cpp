@@ -15,13 +15,13 @@ struct Store {
     std::vector<std::pair<std::string, std::string>> written;
 
     bool take(AppState& state) {
-        return TakeSettings(
-            state,
-            [this](std::string_view name) {
-                const auto found = values.find(name);
-                return found == values.end() ? std::string() : found->second;
-            },
-            [](std::string_view path) { return path == "D:\\Palettes"; });
+        return TakeSettings(state,
+                            [this](std::string_view name) {
+                                const auto found = values.find(name);
+                                return found == values.end() ? std::string() : found->second;
+                            },
+                            {[](std::string_view path) { return path == "D:\\Palettes"; },
+                             [](char byte) { return byte == '\x83'; }});
     }
 
     void restore(AppState& state) {
@@ -92,6 +92,11 @@ TEST(TakeSettings, CustomFormatHasAtMost250Characters) {
     EXPECT_TRUE(IsUsable("CustomFormat", std::string(250, 'x')));
     EXPECT_FALSE(IsUsable("CustomFormat", std::string(251, 'x')));
     EXPECT_FALSE(IsUsable("CustomFormat", std::string(1'000'000, 'x')));
+}
+
+TEST(TakeSettings, ACharacterOfTwoBytesCountsOnceInTheCustomFormat) {
+    EXPECT_TRUE(IsUsable("CustomFormat", std::string(249, 'x') + "\x83%"));
+    EXPECT_FALSE(IsUsable("CustomFormat", std::string(249, 'x') + "\x83%y"));
 }
 
 TEST(TakeSettings, SortIndexIs0Or1) {
