@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::array<ToolButton, 2> choices = {
+constexpr std::array<ToolButton, 2> scaledChoices = {
     {{IDM_firstChoice, IDI_Back, "first", true}, {IDM_secondChoice, IDI_Forward, "second", true}}};
 
 class Scaling : public testing::Test {
@@ -101,7 +101,7 @@ TEST_F(Scaling, CellsMeetAndEndWithTheWindowAtEveryScaling) {
 
 TEST_F(Scaling, ToolBarPicturesAreThoseOfTheScaling) {
     twips.load();
-    twips.tbrTest.fill(choices);
+    twips.tbrTest.fill(scaledChoices);
     for (const auto& [dpi, size] : {std::pair{144, 24}, std::pair{192, 32}, std::pair{96, 16}}) {
         moveTo(twips, dpi, {10, 10});
         const auto images =
