@@ -64,7 +64,9 @@ void Form::showModal(const Form& over) {
 
 void Form::activate() {
     isActivatePending = false;
-    if (state == State::loaded) Activate.raise();
+    if (state != State::loaded) return;
+    layout.fit();
+    Activate.raise();
 }
 
 void Form::unload() {

@@ -26,7 +26,7 @@ void FormLayout::rescale(int dpi, const POINT& corner) {
     scaling = dpi;
     const Area frame = middle();
     PlaceAt(window, {corner.x, corner.y, corner.x + frame.width(), corner.y + frame.height()});
-    fitClientArea();
+    fit();  // not every platform scales the frame of a window that is on the screen
     for (const Placed& control : controls) {
         const RECT place = placeOf(control.units, ::GetParent(control.window));
         ::SetWindowPos(control.window, nullptr, place.left, place.top, place.right - place.left,
@@ -35,13 +35,15 @@ void FormLayout::rescale(int dpi, const POINT& corner) {
     }
 }
 
-/// Not every platform scales the frame of a window that is on the screen.
-void FormLayout::fitClientArea() const {
+void FormLayout::fit() const {
     RECT client{};
     ::GetClientRect(window, &client);
+    const int missingWidth = fromUnits(width, scaling) - client.right;
+    const int missingHeight = fromUnits(height, scaling) - client.bottom;
+    if (::IsIconic(window) || (missingWidth == 0 && missingHeight == 0)) return;
     Area frame = PlaceOf(window);
-    frame.right += fromUnits(width, scaling) - client.right;
-    frame.bottom += fromUnits(height, scaling) - client.bottom;
+    frame.right += missingWidth;
+    frame.bottom += missingHeight;
     PlaceAt(window, frame);
 }
 

@@ -28,6 +28,9 @@ public:
     /// corner.
     void rescale(int dpi, const POINT& corner);
 
+    /// Gives the window the size that the template says, if somebody else has given it another.
+    void fit() const;
+
 private:
     struct Placed {
         HWND window;
@@ -35,7 +38,6 @@ private:
     };
 
     int fromUnits(int units, int dpi) const { return PixelsFromTwips(units * twipsPerUnit, dpi); }
-    void fitClientArea() const;
     RECT placeOf(const Area& units, HWND parent) const;
 
     int twipsPerUnit;

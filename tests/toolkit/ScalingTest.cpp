@@ -113,3 +113,12 @@ TEST_F(Scaling, ToolBarPicturesAreThoseOfTheScaling) {
         EXPECT_EQ(::ImageList_GetImageCount(images), 2);
     }
 }
+
+TEST_F(Scaling, AWindowThatSomebodyElseHasGivenAnotherSizeHasItsOwnAgainWhenItIsActivated) {
+    form.load();
+    const SIZE size = clientSize(form);
+    ::SetWindowPos(form.handle(), nullptr, 0, 0, 700, 200, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    form.activate();
+    EXPECT_EQ(clientSize(form).cx, size.cx);
+    EXPECT_EQ(clientSize(form).cy, size.cy);
+}
