@@ -40,6 +40,8 @@ add_executable(ui_tests
     ui/FindJavaScriptNamesTest.cpp
     ui/FormatDialogTest.cpp
     ui/FormatLimitTest.cpp
+    ui/HelpTest.cpp
+    ui/HomePageTest.cpp
     ui/Huevox.cpp
     ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
@@ -63,15 +65,20 @@ add_executable(ui_tests
     ui/TypedValuesTest.cpp
     ui/UiTest.cpp
     ui/WaitingValuesTest.cpp)
+target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
 add_dependencies(ui_tests Huevox)
 target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
+    HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
     HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
     HUEVOX_COLOR_NAMES="Z:${color_names}")
 
 add_executable(StandIn WIN32 ui/StandIn.cpp)
 target_link_libraries(StandIn PRIVATE huevox_flags)
-add_dependencies(ui_tests StandIn)
+add_library(StandInViewer MODULE ui/StandInViewer.cpp)
+set_target_properties(StandInViewer PROPERTIES PREFIX "" OUTPUT_NAME hhctrl SUFFIX .ocx)
+target_link_libraries(StandInViewer PRIVATE huevox_flags)
+add_dependencies(ui_tests StandIn StandInViewer)
 
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
 set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 300)
@@ -109,4 +116,7 @@ set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_moni
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn huevox_bench)
+add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
+add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py ${PROJECT_SOURCE_DIR})
+
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn StandInViewer huevox_bench)

@@ -51,19 +51,23 @@ BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
 
 }  // namespace
 
-Huevox::Huevox(WORD showCommand) {
-    start(showCommand);
+Huevox::Huevox(WORD showCommand) { startInSight(HUEVOX_EXE, showCommand); }
+
+Huevox::Huevox(const std::string& program) { startInSight(program, SW_SHOWNORMAL); }
+
+Huevox::Huevox(DoNotWait, WORD showCommand) { start(HUEVOX_EXE, showCommand); }
+
+void Huevox::startInSight(const std::string& program, WORD showCommand) {
+    start(program, showCommand);
     if (!waitForWindow()) ADD_FAILURE() << "no window; the program's exit code is " << exitCode();
 }
 
-Huevox::Huevox(DoNotWait, WORD showCommand) { start(showCommand); }
-
-void Huevox::start(WORD showCommand) {
+void Huevox::start(const std::string& program, WORD showCommand) {
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
-    std::string command = HUEVOX_EXE;
+    std::string command = '"' + program + '"';
     // Now and then the platform refuses a process with an internal error and creates it the next time.
     const bool hasStarted = Eventually([&] {
         return ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,

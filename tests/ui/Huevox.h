@@ -15,6 +15,8 @@ class Huevox {
 public:
     /// Waits until the main window is on the screen and answers.
     explicit Huevox(WORD showCommand = SW_SHOWNORMAL);
+    /// The same for a copy of the program.
+    explicit Huevox(const std::string& program);
     /// Starts the program without waiting for its window.
     struct DoNotWait {};
     explicit Huevox(DoNotWait, WORD showCommand = SW_SHOWNORMAL);
@@ -81,7 +83,8 @@ public:
     LRESULT send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
 private:
-    void start(WORD showCommand);
+    void start(const std::string& program, WORD showCommand);
+    void startInSight(const std::string& program, WORD showCommand);
 
     PROCESS_INFORMATION process{};
     HWND main = nullptr;

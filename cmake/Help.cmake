@@ -1,0 +1,15 @@
+# The help beside the program, compiled from its pages.
+find_program(CHMCMD chmcmd REQUIRED)
+
+set(help_compile ${PROJECT_SOURCE_DIR}/help/compile)
+set(help_topics ${PROJECT_SOURCE_DIR}/help/topics)
+set(help_file ${PROJECT_BINARY_DIR}/huevox.chm)
+file(GLOB help_sources CONFIGURE_DEPENDS ${help_topics}/*)
+
+add_custom_command(
+    OUTPUT ${help_file}
+    COMMAND ${help_compile} ${CHMCMD} ${help_topics}/huevox.hhp ${help_file}
+    DEPENDS ${help_sources} ${help_compile}
+    COMMENT "Compiling huevox.chm"
+    VERBATIM)
+add_custom_target(huevox_help ALL DEPENDS ${help_file})

@@ -1,0 +1,23 @@
+// Stands in for the help viewer of the platform: puts what it is asked for into a file beside the palettes.
+#include <fstream>
+
+#include "toolkit/Platform.h"
+
+namespace {
+
+std::ofstream Calls() {
+    return std::ofstream("C:\\Huevox Palettes\\viewer.txt", std::ios::binary | std::ios::app);
+}
+
+}  // namespace
+
+BOOL WINAPI DllMain(HINSTANCE /*library*/, DWORD reason, LPVOID /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH) Calls() << "loaded\n";
+    return TRUE;
+}
+
+extern "C" __declspec(dllexport) HWND WINAPI
+    HtmlHelpA(HWND owner, LPCSTR file, UINT command, DWORD_PTR data) {
+    Calls() << owner << '|' << file << '|' << command << '|' << reinterpret_cast<LPCSTR>(data) << '\n';
+    return nullptr;
+}
