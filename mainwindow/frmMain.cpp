@@ -20,7 +20,8 @@ frmMain::frmMain(AppState& state)
       screenPick(*this, commands, channels, marks),
       pickers(*this, state.settings, channels),
       helpCommands(*this, commands, help),
-      customFormat(state, registry, help) {
+      customFormat(state, registry, help),
+      options(state.settings, registry) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);
@@ -28,6 +29,7 @@ frmMain::frmMain(AppState& state)
     Unload.bind(this, &frmMain::Form_Unload);
     commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
     commands.bind(IDM_mnuToolsCustomFormat, this, &frmMain::mnuToolsCustomFormat_Click);
+    commands.bind(IDM_mnuToolsOptions, this, &frmMain::mnuToolsOptions_Click);
 }
 
 void frmMain::Form_Load() {
@@ -75,6 +77,8 @@ void frmMain::mnuToolsCustomFormat_Click() {
     autocopy.KeepNotation();  // before the dialog reads the settings again
     customFormat.showModal(*this);
 }
+
+void frmMain::mnuToolsOptions_Click() { options.showModal(*this); }
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);

@@ -16,6 +16,7 @@
 #include "pickers/Pickers.h"
 #include "settings/RegistryStringHandler.h"
 #include "settings/frmCustomFormat.h"
+#include "settings/frmOptions.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
 
@@ -32,6 +33,7 @@ private:
     void Form_Unload();
     void mnuFileExit_Click();
     void mnuToolsCustomFormat_Click();
+    void mnuToolsOptions_Click();
 
     void CheckColorDepth();
     void SetSelectedColor(int red, int green, int blue) override;
@@ -51,5 +53,6 @@ private:
     Pickers pickers;
     HelpCommands helpCommands;
     frmCustomFormat customFormat;
+    frmOptions options;
     unsigned turns = 0;
 };

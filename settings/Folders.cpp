@@ -1,5 +1,6 @@
 #include "settings/Folders.h"
 
+#include <objbase.h>
 #include <shlobj.h>
 
 #include <array>
@@ -28,6 +29,20 @@ std::string WithoutLastBackslash(std::string path) {
     if (!path.empty() && GetFileNamePart(path, "\\", IsLeadByte).empty()) path.pop_back();
     return path;
 }
+
+/// COM on this thread for as long as the value lives.
+class ComInUse {
+public:
+    ComInUse() : result(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ComInUse(const ComInUse&) = delete;
+    ComInUse& operator=(const ComInUse&) = delete;
+    ~ComInUse() {
+        if (SUCCEEDED(result)) ::CoUninitialize();
+    }
+
+private:
+    HRESULT result;
+};
 
 bool IsFolderOnDisk(const std::string& path) {
     const std::string_view name = GetFileNamePart(path, "\\", IsLeadByte);
@@ -66,6 +81,7 @@ bool IsValidFolder(std::string_view path) {
 }
 
 std::string BrowseForFolder(HWND owner) {
+    const ComInUse com;
     std::array<char, MAX_PATH> displayName{};
     BROWSEINFOA browse{};
     browse.hwndOwner = owner;

@@ -88,4 +88,17 @@ inline constexpr const char* decimalGreenTip = "Insert the code for Green in Dec
 inline constexpr const char* decimalBlueTip = "Insert the code for Blue in Decimal";
 inline constexpr const char* longDecimalTip = "Insert the code for Long Decimal";
 
+inline constexpr const char* standardFormatTip =
+    "What format should Huevox select the next time the program starts?";
+inline constexpr const char* promptTip =
+    "Click here if you want Huevox to remind you to save unsaved changes on exit";
+inline constexpr const char* noPromptTip =
+    "Click here if you do not want Huevox to remind you to save unsaved changes on exit";
+inline constexpr const char* changeFolderTip =
+    "What folder should Huevox select when you open and save files?";
+inline constexpr const char* alphabeticalOrderTip =
+    "Click here if the JavaScript Palette should be sorted alphabetically";
+inline constexpr const char* dotNetOrderTip =
+    "Click here if the JavaScript Palette should be sorted as in Visual Studio .NET";
+
 }  // namespace messages

@@ -15,6 +15,7 @@ add_executable(program_tests
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
+    toolkit/LabelTest.cpp
     toolkit/ModalFormTest.cpp
     toolkit/ModalHoldTest.cpp
     toolkit/ScalingTest.cpp
@@ -51,6 +52,11 @@ add_executable(ui_tests
     ui/LowColorDepthTest.cpp
     ui/MarksTest.cpp
     ui/NotepadTest.cpp
+    ui/OptionsDialog.cpp
+    ui/OptionsExampleTest.cpp
+    ui/OptionsFolderTest.cpp
+    ui/OptionsKeysTest.cpp
+    ui/OptionsTest.cpp
     ui/PaletteFaultTest.cpp
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp

@@ -17,6 +17,7 @@ public:
     void lookLikeField() { isField = true; }
 
 private:
+    void attached() override;
     HBRUSH onColor(HDC context) override;
 
     bool isField = false;

@@ -1,7 +1,6 @@
 #include "settings/Folders.h"
 
 #include <gtest/gtest.h>
-#include <objbase.h>
 
 #include <fstream>
 #include <string>
@@ -92,21 +91,17 @@ TEST(DesktopFolder, IsTheUsersDesktop) {
 
 TEST(BrowseForFolder, ReturnsTheChosenFolderUnderItsTitleLine) {
     ForgetQuit();
-    ::CoInitialize(nullptr);
     std::string title;
     std::thread user([&] { title = UseFolderPicker(IDOK); });
     const std::string chosen = BrowseForFolder(nullptr);
     user.join();
     EXPECT_EQ(title, "C:\\");
     EXPECT_TRUE(chosen.ends_with("\\Desktop")) << chosen;
-    ::CoUninitialize();
 }
 
 TEST(BrowseForFolder, ReturnsNothingWhenCancelled) {
     ForgetQuit();
-    ::CoInitialize(nullptr);
     std::thread user([] { UseFolderPicker(IDCANCEL); });
     EXPECT_EQ(BrowseForFolder(nullptr), "");
     user.join();
-    ::CoUninitialize();
 }
