@@ -1,9 +1,21 @@
 #include "toolkit/Label.h"
 
+#include "toolkit/Form.h"
+
 void Label::setText(std::string_view text) {
     if (shown == text || !handle()) return;
     shown = text;
     ::SetWindowTextA(handle(), shown.c_str());
+}
+
+void Label::setFont(const char* face, int height) {
+    LOGFONTA wanted{};
+    wanted.lfHeight = -form.scaled(height);
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    std::string_view(face).copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    font = OwnedFont(::CreateFontIndirectA(&wanted));
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
 }
 
 HBRUSH Label::onColor(HDC context) {
