@@ -12,7 +12,7 @@ class ShellCommand {
 public:
     enum class To { standIn, nothing };
 
-    ShellCommand(const char* scheme, To to) : key(std::string(scheme) + "\\shell\\open\\command") {
+    ShellCommand(const char* scheme, To to) : key(std::string(scheme) + R"(\shell\open\command)") {
         std::array<char, 1024> text{};
         DWORD size = text.size();
         EXPECT_EQ(
@@ -20,7 +20,7 @@ public:
             ERROR_SUCCESS);
         before = text.data();
         EXPECT_EQ(::RegDeleteTreeA(HKEY_CLASSES_ROOT, key.c_str()), ERROR_SUCCESS);
-        if (to == To::standIn) store('"' + standIn() + "\" \"%1\"");
+        if (to == To::standIn) store(quoted(standIn()) + ' ' + quoted("%1"));
     }
     ShellCommand(const ShellCommand&) = delete;
     ShellCommand& operator=(const ShellCommand&) = delete;
@@ -28,7 +28,7 @@ public:
 
     /// The command line that the shell starts the stand-in by, for an address.
     static std::string lineFor(const std::string& address) {
-        return '"' + standIn() + "\" \"" + address + '"';
+        return quoted(standIn()) + ' ' + quoted(address);
     }
 
     /// The command line that the stand-in was last started by.
@@ -36,6 +36,7 @@ public:
     static void forgetLine() { ::DeleteFileA(PathOf("command.txt").c_str()); }
 
 private:
+    static std::string quoted(const std::string& text) { return '"' + text + '"'; }
     static std::string standIn() {
         std::array<char, MAX_PATH> path{};
         ::GetFullPathNameA(HUEVOX_STAND_IN, path.size(), path.data(), nullptr);
