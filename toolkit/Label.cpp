@@ -9,11 +9,18 @@ void Label::setText(std::string_view text) {
 }
 
 void Label::setFont(const char* face, int height) {
+    ownFace = face;
+    ownHeight = height;
+    rescaled();
+}
+
+void Label::rescaled() {
+    if (ownFace.empty()) return;
     LOGFONTA wanted{};
-    wanted.lfHeight = -form.scaled(height);
+    wanted.lfHeight = -form.scaled(ownHeight);
     wanted.lfCharSet = DEFAULT_CHARSET;
     wanted.lfQuality = CLEARTYPE_QUALITY;
-    std::string_view(face).copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    ownFace.copy(wanted.lfFaceName, LF_FACESIZE - 1);
     font = OwnedFont(::CreateFontIndirectA(&wanted));
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
 }

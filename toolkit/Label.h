@@ -22,7 +22,10 @@ public:
 
 private:
     HBRUSH onColor(HDC context) override;
+    void rescaled() override;
 
+    std::string ownFace;
+    int ownHeight = 0;
     OwnedFont font;
     bool isField = false;
     std::string shown;

@@ -1,7 +1,7 @@
 // What the about box looks like, and the pointer over it.
 #include <gtest/gtest.h>
 
-#include <string>
+#include <cstdlib>
 
 #include "help/frmAbout.h"
 #include "resources/resource.h"
@@ -39,6 +39,13 @@ protected:
             if (length == wordLength) return true;
         }
         return false;
+    }
+    int fontHeight(int id) const { return static_cast<int>(std::abs(font(id).lfHeight)); }
+    LOGFONTA font(int id) const {
+        LOGFONTA record{};
+        ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(control(id), WM_GETFONT, 0, 0)), sizeof record,
+                     &record);
+        return record;
     }
     COLORREF pixel(int id, POINT point) const {
         const HDC context = ::GetDC(control(id));
@@ -113,14 +120,21 @@ TEST_F(AboutForm, AChangedTextIsShownAtOnce) {
 }
 
 TEST_F(AboutForm, TheTitleIsInArialAndLargerThanTheRest) {
-    const auto fontOf = [&](int id) {
-        LOGFONTA font{};
-        ::GetObjectA(reinterpret_cast<HFONT>(::SendMessageA(control(id), WM_GETFONT, 0, 0)), sizeof font,
-                     &font);
-        return font;
-    };
-    EXPECT_STREQ(fontOf(IDC_lblTitle).lfFaceName, "Arial");
-    EXPECT_GT(std::abs(fontOf(IDC_lblTitle).lfHeight), 3 * std::abs(fontOf(IDC_lblSlogan).lfHeight) / 2);
+    EXPECT_STREQ(font(IDC_lblTitle).lfFaceName, "Arial");
+    EXPECT_GT(2 * fontHeight(IDC_lblTitle), 3 * fontHeight(IDC_lblSlogan));
+}
+
+TEST_F(AboutForm, ItsFontsFollowAChangeOfScaling) {
+    const int title = fontHeight(IDC_lblTitle);
+    const int link = fontHeight(IDC_lblLink);
+    const UINT twice = 2 * ::GetDpiForWindow(about.handle());
+    RECT suggested = {0, 0, 900, 700};
+    ::SendMessageA(about.handle(), WM_DPICHANGED, MAKEWPARAM(twice, twice),
+                   reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(fontHeight(IDC_lblTitle), 2 * title);
+    EXPECT_EQ(fontHeight(IDC_lblLink), 2 * link);
+    EXPECT_TRUE(font(IDC_lblLink).lfUnderline);
+    EXPECT_STREQ(font(IDC_lblTitle).lfFaceName, "Arial");
 }
 
 TEST_F(AboutForm, ThePictureIsTheIcon) {
