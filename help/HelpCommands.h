@@ -2,6 +2,7 @@
 #pragma once
 
 #include "help/HTMLHelp.h"
+#include "help/frmAbout.h"
 #include "mainwindow/CommandBar.h"
 
 /// Help, home page and about box.
@@ -12,7 +13,9 @@ public:
 private:
     void mnuHelpHelp_Click();
     void mnuHomePage_Click();
+    void mnuHelpAboutHuevox_Click();
 
     Form& form;
     HTMLHelp& help;
+    frmAbout about;
 };

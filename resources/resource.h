@@ -129,3 +129,4 @@
 #define IDC_lblMoreInfo 1707
 #define IDC_lblTitle 1708
 #define IDC_lblCopyright 1709
+#define IDC_lblVersion 1710

@@ -3,6 +3,7 @@ add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest
 
 # In one process with the code: the toolkit's contract, and what talks to the platform.
 add_executable(program_tests
+    program/AboutFormTest.cpp
     program/AutocopyTest.cpp
     program/ColorBarTest.cpp
     program/ColorMarksTest.cpp
@@ -27,6 +28,7 @@ target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_
 
 # From another process, by real keys and mouse.
 add_executable(ui_tests
+    ui/AboutTest.cpp
     ui/ActivationTest.cpp
     ui/AutocopyTest.cpp
     ui/BurstTest.cpp
@@ -71,8 +73,8 @@ add_executable(ui_tests
     ui/TypedValuesTest.cpp
     ui/UiTest.cpp
     ui/WaitingValuesTest.cpp)
+target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32 version)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
-target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
 add_dependencies(ui_tests Huevox)
 target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
     HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"

@@ -1,5 +1,6 @@
 #include "toolkit/Label.h"
 
+#include "toolkit/Form.h"
 #include "toolkit/WindowText.h"
 
 void Label::setText(std::string_view text) {
@@ -10,6 +11,23 @@ void Label::setText(std::string_view text) {
 
 /// The template's text, whatever an earlier window has shown.
 void Label::attached() { shown = WindowText(handle()); }
+
+void Label::setFont(const char* face, int height) {
+    ownFace = face;
+    ownHeight = height;
+    rescaled();
+}
+
+void Label::rescaled() {
+    if (ownFace.empty()) return;
+    LOGFONTA wanted{};
+    wanted.lfHeight = -form.scaled(ownHeight);
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    ownFace.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    font = OwnedFont(::CreateFontIndirectA(&wanted));
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+}
 
 HBRUSH Label::onColor(HDC context) {
     if (!isField) return nullptr;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "toolkit/Control.h"
+#include "toolkit/Handles.h"
 
 class Label : public Control {
 public:
@@ -13,13 +14,20 @@ public:
     std::string text() const { return shown; }
     void setText(std::string_view text);
 
+    /// Shows the text in a font of its own, of that height in pixels at 96 DPI. While the form is loaded.
+    void setFont(const char* face, int height);
+
     /// Paints itself in the colours of a field, not of the form. Before the form is loaded.
     void lookLikeField() { isField = true; }
 
 private:
     void attached() override;
     HBRUSH onColor(HDC context) override;
+    void rescaled() override;
 
+    std::string ownFace;
+    int ownHeight = 0;
+    OwnedFont font;
     bool isField = false;
     std::string shown;
 };

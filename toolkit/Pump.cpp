@@ -3,6 +3,7 @@
 #include "toolkit/CellStrip.h"
 #include "toolkit/FieldFrame.h"
 #include "toolkit/Form.h"
+#include "toolkit/LinkLabel.h"
 #include "toolkit/PictureBox.h"
 #include "toolkit/Platform.h"
 
@@ -21,6 +22,7 @@ void PrepareControls() {
     ::InitCommonControlsEx(&classes);
     PictureBox::registerClass();
     CellStrip::registerClass();
+    LinkLabel::registerClass();
     RegisterFieldFrame();
 }
 

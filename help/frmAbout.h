@@ -1,0 +1,28 @@
+// What does the about box do?
+#pragma once
+
+#include "toolkit/Buttons.h"
+#include "toolkit/Form.h"
+#include "toolkit/IconBox.h"
+#include "toolkit/Label.h"
+#include "toolkit/LinkLabel.h"
+
+/// Says what the program is, whose it is and where there is more of it. Enter, Escape and the close box are
+/// OK.
+class frmAbout final : public Form {
+public:
+    frmAbout();
+
+private:
+    void Form_Load();
+    void Form_Command(int command);
+    void cmdOK_Click();
+    void lblLink_Click();
+    void lblMailLink_Click();
+
+    IconBox picInfo;
+    Button cmdOK;
+    LinkLabel lblLink;
+    LinkLabel lblMailLink;
+    Label lblTitle;
+};
