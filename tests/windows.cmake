@@ -15,6 +15,7 @@ add_executable(program_tests
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
+    toolkit/IconPixelsTest.cpp
     toolkit/ModalFormTest.cpp
     toolkit/ModalHoldTest.cpp
     toolkit/ScalingTest.cpp
