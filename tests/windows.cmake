@@ -8,6 +8,7 @@ add_executable(program_tests
     program/ColorMarksTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
+    program/LibrarySearchTest.cpp
     program/MainWindowTest.cpp
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
@@ -22,6 +23,10 @@ add_executable(program_tests
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
     ui/Input.cpp)
+add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
+set_target_properties(Planted PROPERTIES PREFIX "")
+target_link_libraries(Planted PRIVATE huevox_flags)
+add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
 
@@ -115,9 +120,11 @@ foreach(dpi 120 144 192)
 endforeach()
 set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
 
-add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
+add_test(NAME product.size_imports_and_hardening
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
 add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py ${PROJECT_SOURCE_DIR})
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn StandInViewer huevox_bench)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_tests StandIn StandInViewer
+    huevox_bench)
