@@ -1,5 +1,5 @@
 ; Installs Huevox for the user who runs this, without an administrator: files, a Start-menu entry and an entry in the
-; system's list of programs. Needs VERSION, FILES (the folder of what is installed), ICON and OUTPUT.
+; system's list of programs. Needs VERSION, FILES (the folder of what is installed), ICON, PICTURE and OUTPUT.
 Target amd64-unicode
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -15,6 +15,7 @@ BrandingText "Huevox ${VERSION}"
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
 AllowSkipFiles off
+SpaceTexts none
 ManifestDPIAware true
 ManifestSupportedOS Win10
 InstallDir "$LOCALAPPDATA\Programs\Huevox"
@@ -30,11 +31,16 @@ VIAddVersionKey LegalCopyright "the Huevox authors"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\Huevox.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
 !define MUI_COMPONENTSPAGE_NODESC
+!define MUI_PAGE_HEADER_TEXT "Remove Huevox"
+!define MUI_PAGE_HEADER_SUBTEXT "Your settings are kept unless you choose otherwise."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Huevox will be removed from your computer. Palettes that you have saved stay where they are."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "Remove:"
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
@@ -95,7 +101,7 @@ Section "un.Huevox"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
 
-Section /o "un.Settings" settings
+Section /o "un.Your settings" settings
     DeleteRegKey HKCU "Software\Quorvane\Huevox 2004"
     DeleteRegKey /ifempty HKCU "Software\Quorvane"
 SectionEnd

@@ -9,11 +9,11 @@
 #include "toolkit/Platform.h"
 
 /// The installers that are tested: the packages of this version, and the same with a higher one.
-inline const std::filesystem::path setup = "packages-tested\\Huevox-" HUEVOX_VERSION "-setup.exe";
-inline const std::filesystem::path newerSetup = "packages-tested\\Huevox-" HUEVOX_NEWER_VERSION "-setup.exe";
+inline const std::filesystem::path setup{"packages-tested/Huevox-" HUEVOX_VERSION "-setup.exe"};
+inline const std::filesystem::path newerSetup{"packages-tested/Huevox-" HUEVOX_NEWER_VERSION "-setup.exe"};
 
-inline constexpr const char* uninstallKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Huevox";
-inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
+inline constexpr const char* uninstallKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox)";
+inline constexpr const char* settingsKey = R"(Software\Quorvane\Huevox 2004)";
 
 /// Started at once, ended by force, if need be, by the destructor.
 class Process {

@@ -13,7 +13,7 @@ namespace {
 constexpr const char* plantedHere = "PlantedInTheCurrentFolder.dll";
 constexpr const char* plantedBesideTheProgram = "Planted.dll";
 
-bool isFound(const char* library, DWORD flags = 0) {
+bool IsFound(const char* library, DWORD flags = 0) {
     const HMODULE module = ::LoadLibraryExA(library, nullptr, flags);
     if (module) ::FreeLibrary(module);
     return module != nullptr;
@@ -50,11 +50,11 @@ protected:
 }  // namespace
 
 TEST_F(LibrarySearch, EndsInTheSystemFolder) {
-    ASSERT_TRUE(isFound(plantedHere));
-    ASSERT_TRUE(isFound(plantedBesideTheProgram));
+    ASSERT_TRUE(IsFound(plantedHere));
+    ASSERT_TRUE(IsFound(plantedBesideTheProgram));
     SearchSystemFolderOnly();
-    EXPECT_FALSE(isFound(plantedHere));
-    EXPECT_FALSE(isFound(plantedBesideTheProgram));
-    EXPECT_FALSE(isFound(plantedHere, LOAD_WITH_ALTERED_SEARCH_PATH));
-    EXPECT_TRUE(isFound("version.dll"));
+    EXPECT_FALSE(IsFound(plantedHere));
+    EXPECT_FALSE(IsFound(plantedBesideTheProgram));
+    EXPECT_FALSE(IsFound(plantedHere, LOAD_WITH_ALTERED_SEARCH_PATH));
+    EXPECT_TRUE(IsFound("version.dll"));
 }

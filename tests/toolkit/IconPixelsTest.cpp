@@ -16,7 +16,7 @@ constexpr std::array<int, 2> icons = {IDI_Save, IDI_Help};
 constexpr int help = 1;
 
 /// The colours of a picture's rows that it shows on a background.
-std::vector<COLORREF> drawn(const OwnedImages& images, int picture, int size, COLORREF background) {
+std::vector<COLORREF> Drawn(const OwnedImages& images, int picture, int size, COLORREF background) {
     const HDC screen = ::GetDC(nullptr);
     const HDC memory = ::CreateCompatibleDC(screen);
     const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
@@ -24,6 +24,7 @@ std::vector<COLORREF> drawn(const OwnedImages& images, int picture, int size, CO
     for (int at = 0; at < size * size; ++at) ::SetPixelV(memory, at % size, at / size, background);
     ::ImageList_Draw(images.get(), picture, memory, 0, 0, ILD_NORMAL);
     std::vector<COLORREF> colors;
+    colors.reserve(static_cast<std::size_t>(size) * size);
     for (int at = 0; at < size * size; ++at) colors.push_back(::GetPixel(memory, at % size, at / size));
     ::DeleteDC(memory);
     ::DeleteObject(bitmap);
@@ -47,8 +48,8 @@ TEST_P(IconPixels, CornersAreSeenThroughEdgesPartlyAndTheMiddleNotAtAll) {
     constexpr COLORREF white = RGB(255, 255, 255);
     constexpr COLORREF black = RGB(0, 0, 0);
     const OwnedImages images = ImagesFromIcons(icons, GetParam());
-    const auto onWhite = drawn(images, help, GetParam(), white);
-    const auto onBlack = drawn(images, help, GetParam(), black);
+    const auto onWhite = Drawn(images, help, GetParam(), white);
+    const auto onBlack = Drawn(images, help, GetParam(), black);
     EXPECT_EQ(onWhite.front(), white);
     EXPECT_EQ(onBlack.back(), black);
     int partly = 0;
