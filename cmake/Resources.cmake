@@ -43,8 +43,9 @@ endforeach()
 
 string(REPLACE "." "," version_numbers "${PROJECT_VERSION}.0")
 configure_file(resources/version.rc.h.in ${PROJECT_BINARY_DIR}/resources/version.rc.h @ONLY)
+configure_file(resources/app.manifest.in ${PROJECT_BINARY_DIR}/resources/app.manifest @ONLY)
 file(GLOB resource_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.rc
-    ${PROJECT_SOURCE_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc ${PROJECT_SOURCE_DIR}/*/*.rc.h)
+    ${PROJECT_BINARY_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc ${PROJECT_SOURCE_DIR}/*/*.rc.h)
 
 # add_resources(LIBRARY FILE): an object library of a resource script and all that it takes in.
 function(add_resources library file)

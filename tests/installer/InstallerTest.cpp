@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <vector>
 
 #include "tests/installer/Installed.h"
 #include "tests/toolkit/WindowText.h"
@@ -47,12 +48,42 @@ std::string Message(HWND box) {
     return TextOf(::GetDlgItem(box, text));
 }
 
+/// A text of a program's version information, in British English.
+std::string VersionText(const fs::path& program, const std::string& name) {
+    const std::string file = program.string();
+    std::vector<char> data(::GetFileVersionInfoSizeA(file.c_str(), nullptr));
+    void* text = nullptr;
+    UINT length = 0;
+    if (data.empty() ||
+        !::GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(data.size()), data.data()) ||
+        !::VerQueryValueA(data.data(), (R"(\StringFileInfo\080904B0\)" + name).c_str(), &text, &length))
+        return "";
+    return static_cast<const char*>(text);
+}
+
 }  // namespace
+
+TEST(VersionInformation, NamesTheProgramAndItsVersionAndNoCompany) {
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "FileVersion"), HUEVOX_VERSION);
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "ProductVersion"), HUEVOX_VERSION);
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "ProductName"), "Huevox");
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "FileDescription"), "Huevox colour manager");
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "InternalName"), "Huevox");
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "OriginalFilename"), "Huevox.exe");
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "LegalCopyright"), "Copyright (c) 2026 the Huevox authors");
+    EXPECT_EQ(VersionText(HUEVOX_EXE, "CompanyName"), "");
+}
+
+TEST(VersionInformation, IsTheManifestsAsWell) {
+    const std::string program = Bytes(HUEVOX_EXE);
+    EXPECT_NE(program.find("name=\"Huevox\" version=\"" HUEVOX_VERSION ".0\""), std::string::npos);
+}
 
 TEST_F(Installer, InstallsTheProgramWithItsLicenceForTheUserAlone) {
     install();
     const fs::path folder = DefaultFolder();
     EXPECT_EQ(Bytes(folder / "Huevox.exe"), Bytes(HUEVOX_EXE));
+    EXPECT_EQ(Bytes(folder / "huevox.chm"), Bytes("huevox.chm"));
     EXPECT_NE(Bytes(folder / "LICENSE.txt").find("the Huevox authors\r\n"), std::string::npos);
     EXPECT_NE(Bytes(folder / "README.txt").find("Huevox " HUEVOX_VERSION "\r\n"), std::string::npos);
     EXPECT_NE(Bytes(folder / "THIRD-PARTY.txt").find("winpthreads"), std::string::npos);
