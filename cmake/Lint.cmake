@@ -25,7 +25,8 @@ if(WIN32)
     get_target_property(definitions huevox_flags INTERFACE_COMPILE_DEFINITIONS)
     list(TRANSFORM definitions PREPEND -D)
     list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe" -DHUEVOX_STAND_IN="StandIn.exe"
-        -DHUEVOX_STAND_IN_VIEWER="hhctrl.ocx")
+        -DHUEVOX_STAND_IN_VIEWER="hhctrl.ocx"
+        -DHUEVOX_VERSION="1.2.3" -DHUEVOX_NEWER_VERSION="1.2.4")
 endif()
 
 # tidy_sources(TARGET...): a target "tidy" that checks the targets' sources, and a test that builds it. The sources of

@@ -5,6 +5,7 @@
 #include "support/AppState.h"
 #include "support/FatalError.h"
 #include "support/Messages.h"
+#include "toolkit/LibrarySearch.h"
 #include "toolkit/MsgBox.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Pump.h"
@@ -43,5 +44,6 @@ int Main(int showCommand) {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/, int nShowCmd) {
+    SearchSystemFolderOnly();
     return Main(nShowCmd);
 }

@@ -9,6 +9,7 @@ add_executable(program_tests
     program/ColorMarksTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
+    program/LibrarySearchTest.cpp
     program/MainWindowTest.cpp
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
@@ -16,6 +17,7 @@ add_executable(program_tests
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
+    toolkit/IconPixelsTest.cpp
     toolkit/LabelTest.cpp
     toolkit/ModalFormTest.cpp
     toolkit/ModalHoldTest.cpp
@@ -23,6 +25,10 @@ add_executable(program_tests
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
     ui/Input.cpp)
+add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
+set_target_properties(Planted PROPERTIES PREFIX "")
+target_link_libraries(Planted PRIVATE huevox_flags)
+add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
 
@@ -88,11 +94,31 @@ set_target_properties(StandInViewer PROPERTIES PREFIX "" OUTPUT_NAME hhctrl SUFF
 target_link_libraries(StandInViewer PRIVATE huevox_flags)
 add_dependencies(ui_tests StandIn StandInViewer)
 
+# The packages: installed, started, upgraded and removed.
+set(newer_version ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.99)
+add_executable(installer_tests
+    installer/Installed.cpp
+    installer/InstallerTest.cpp)
+target_link_libraries(installer_tests PRIVATE huevox_flags gtest_main advapi32 ole32 shell32 uuid version)
+target_compile_definitions(installer_tests PRIVATE HUEVOX_EXE="Huevox.exe"
+    HUEVOX_VERSION="${PROJECT_VERSION}" HUEVOX_NEWER_VERSION="${newer_version}")
+add_dependencies(installer_tests Huevox)
+
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
 set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 300)
 gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${alone})
 gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*:LeftMonitor.*"
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone})
+gtest_discover_tests(installer_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone} FIXTURES_REQUIRED packages)
+add_test(NAME packages.made
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${newer_version})
+set_tests_properties(packages.made PROPERTIES FIXTURES_SETUP packages TIMEOUT 120)
+add_test(NAME packages.are_the_same_bytes_when_built_again_elsewhere
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/reproducible
+        ${CMAKE_COMMAND} ${CMAKE_CPACK_COMMAND} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
+set_tests_properties(packages.are_the_same_bytes_when_built_again_elsewhere PROPERTIES
+    FIXTURES_REQUIRED packages TIMEOUT 600)
 add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*
@@ -122,9 +148,11 @@ foreach(dpi 120 144 192)
 endforeach()
 set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
 
-add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
+add_test(NAME product.size_imports_and_hardening
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
 add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py ${PROJECT_SOURCE_DIR})
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn StandInViewer huevox_bench)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_tests StandIn StandInViewer
+    installer_tests huevox_bench)

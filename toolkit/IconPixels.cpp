@@ -17,22 +17,25 @@ void* LockedResource(int number, LPCSTR type) {
     return ::LockResource(loaded);
 }
 
-/// The pixels of one drawing of an icon, the lowest row first.
-struct IconPixels {
+/// One drawing of an icon: rows of indexes into the palette, the lowest row first. The fourth byte of a
+/// colour is its opacity.
+struct Drawing {
     int size;
-    const std::uint32_t* rows;
+    const std::uint32_t* palette;
+    const BYTE* rows;
 
-    const std::uint32_t* row(std::ptrdiff_t index) const { return rows + index * size; }
+    const BYTE* row(std::ptrdiff_t index) const { return rows + index * ((size + 3) & ~3); }
 };
 
-IconPixels FindPixels(int icon, int wantedSize) {
+Drawing FindDrawing(int icon, int wantedSize) {
     auto* directory = static_cast<BYTE*>(LockedResource(icon, RT_GROUP_ICON));
     const int drawing =
         ::LookupIconIdFromDirectoryEx(directory, TRUE, wantedSize, wantedSize, LR_DEFAULTCOLOR);
     const auto* header = static_cast<const BITMAPINFOHEADER*>(LockedResource(drawing, RT_ICON));
-    if (header->biSize != sizeof *header || header->biBitCount != 32)
-        throw std::runtime_error("not an icon of 32 bits");
-    return {header->biWidth, reinterpret_cast<const std::uint32_t*>(header + 1)};
+    if (header->biSize != sizeof *header || header->biBitCount != 8)
+        throw std::runtime_error("not an icon of a tool bar");
+    const auto* palette = reinterpret_cast<const std::uint32_t*>(header + 1);
+    return {header->biWidth, palette, reinterpret_cast<const BYTE*>(palette + header->biClrUsed)};
 }
 
 }  // namespace
@@ -40,10 +43,10 @@ IconPixels FindPixels(int icon, int wantedSize) {
 // Read from the resources: to make an icon only to ask it for its colours again takes the platform
 // milliseconds each.
 OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize) {
-    std::vector<IconPixels> pictures;
-    for (const int icon : icons) pictures.push_back(FindPixels(icon, wantedSize));
-    const int size = pictures.front().size;
-    const int count = static_cast<int>(pictures.size());
+    std::vector<Drawing> drawings;
+    for (const int icon : icons) drawings.push_back(FindDrawing(icon, wantedSize));
+    const int size = drawings.front().size;
+    const int count = static_cast<int>(drawings.size());
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = count * size;
@@ -55,8 +58,9 @@ OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize) {
     if (!strip) throw std::runtime_error("the platform refused a bitmap");
     auto* target = static_cast<std::uint32_t*>(bits);
     for (int row = 0; row < size; ++row) {
-        for (const IconPixels& picture : pictures) {
-            target = std::copy_n(picture.row(row), size, target);
+        for (const Drawing& drawing : drawings) {
+            target = std::transform(drawing.row(row), drawing.row(row) + size, target,
+                                    [&](BYTE index) { return drawing.palette[index]; });
         }
     }
     OwnedImages images(::ImageList_Create(size, size, ILC_COLOR32, count, 0));

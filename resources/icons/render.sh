@@ -1,6 +1,7 @@
 #!/bin/bash
 # Turns one drawing into a Windows icon: render.sh IN.svg OUT.ico SIZE...
-# A size with a drawing of its own, SIZE/IN.svg in the same folder, is taken from that one.
+# A size with a drawing of its own, SIZE/IN.svg in the same folder, is taken from that one. From 48 pixels on the
+# pictures are compressed.
 set -eu
 
 if [ "$#" -lt 3 ]; then
@@ -24,7 +25,8 @@ for size in "$@"; do
     fi
     png=$work/$size.png
     rsvg-convert --width "$size" --height "$size" --format png --output "$png" -- "$svg"
-    if [ "$size" -ge 64 ]; then
+    if [ "$size" -ge 48 ]; then
+        optipng -quiet -o4 -strip all "$png"
         frames+=("--raw=$png")
     else
         frames+=("$png")

@@ -1,0 +1,116 @@
+; Installs Huevox for the user who runs this, without an administrator: files, a Start-menu entry and an entry in the
+; system's list of programs. Needs VERSION, FILES (the folder of what is installed), ICON, PICTURE and OUTPUT.
+Target amd64-unicode
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include Sections.nsh
+
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox"
+!define SHORTCUT "$SMPROGRAMS\Huevox.lnk"
+
+Name "Huevox"
+OutFile "${OUTPUT}"
+BrandingText "Huevox ${VERSION}"
+RequestExecutionLevel user
+SetCompressor /SOLID lzma
+AllowSkipFiles off
+SpaceTexts none
+ManifestDPIAware true
+ManifestSupportedOS Win10
+InstallDir "$LOCALAPPDATA\Programs\Huevox"
+; A newer version goes where the older one is.
+InstallDirRegKey HKCU "${UNINSTALL_KEY}" InstallLocation
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey ProductName "Huevox"
+VIAddVersionKey ProductVersion "${VERSION}"
+VIAddVersionKey FileVersion "${VERSION}"
+VIAddVersionKey FileDescription "Huevox setup"
+VIAddVersionKey LegalCopyright "the Huevox authors"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_FINISHPAGE_RUN "$INSTDIR\Huevox.exe"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!define MUI_COMPONENTSPAGE_NODESC
+!define MUI_PAGE_HEADER_TEXT "Remove Huevox"
+!define MUI_PAGE_HEADER_SUBTEXT "Your settings are kept unless you choose otherwise."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Huevox will be removed from your computer. Palettes that you have saved stay where they are."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "Remove:"
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE English
+
+; Ends the setup with exit code 2 while the installed program runs: its file cannot be opened for writing.
+!macro RefuseWhileRunning label
+    ${label}:
+    ${If} ${FileExists} "$INSTDIR\Huevox.exe"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\Huevox.exe" a
+        ${If} ${Errors}
+            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Huevox is running. Close it and try again." \
+                /SD IDCANCEL IDRETRY ${label}
+            SetErrorLevel 2
+            Quit
+        ${EndIf}
+        FileClose $0
+    ${EndIf}
+!macroend
+
+Section
+    !insertmacro RefuseWhileRunning install
+    SetOutPath "$INSTDIR"
+    File "${FILES}\Huevox.exe"
+    !if /FileExists "${FILES}/huevox.chm"
+        File "${FILES}\huevox.chm"
+    !endif
+    File "${FILES}\LICENSE.txt"
+    File "${FILES}\README.txt"
+    File "${FILES}\THIRD-PARTY.txt"
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    CreateShortcut "${SHORTCUT}" "$INSTDIR\Huevox.exe"
+
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegStr HKCU "${UNINSTALL_KEY}" DisplayName "Huevox"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\Huevox.exe"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe"'
+    WriteRegStr HKCU "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" EstimatedSize $0
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" NoModify 1
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" NoRepair 1
+SectionEnd
+
+Section "un.Huevox"
+    SectionIn RO
+    !insertmacro RefuseWhileRunning remove
+    ; By name: the folder may hold palettes by now.
+    Delete "$INSTDIR\Huevox.exe"
+    Delete "$INSTDIR\huevox.chm"
+    Delete "$INSTDIR\LICENSE.txt"
+    Delete "$INSTDIR\README.txt"
+    Delete "$INSTDIR\THIRD-PARTY.txt"
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
+    Delete "${SHORTCUT}"
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
+SectionEnd
+
+Section /o "un.Your settings" settings
+    DeleteRegKey HKCU "Software\Quorvane\Huevox 2004"
+    DeleteRegKey /ifempty HKCU "Software\Quorvane"
+SectionEnd
+
+Function un.onInit
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/REMOVESETTINGS" $1
+    ${IfNot} ${Errors}
+        !insertmacro SelectSection ${settings}
+    ${EndIf}
+FunctionEnd

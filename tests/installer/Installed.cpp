@@ -1,0 +1,174 @@
+#include "tests/installer/Installed.h"
+
+#include <objbase.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <array>
+#include <utility>
+
+#include "tests/toolkit/WindowText.h"
+#include "tests/ui/Wait.h"
+
+namespace {
+
+constexpr DWORD limit = 30'000;
+
+struct Search {
+    DWORD process;
+    std::string className;
+    HWND found;
+};
+
+BOOL CALLBACK FindVisible(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD owner = 0;
+    ::GetWindowThreadProcessId(window, &owner);
+    if (owner != search.process || !::IsWindowVisible(window) || search.className != ClassOf(window))
+        return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+std::filesystem::path UserFolder(int which) {
+    std::array<char, MAX_PATH> path{};
+    ::SHGetFolderPathA(nullptr, which, nullptr, SHGFP_TYPE_CURRENT, path.data());
+    return path.data();
+}
+
+void AddFiles(const std::filesystem::path& folder, std::set<std::string>& traces) {
+    for (auto at = std::filesystem::recursive_directory_iterator(folder);
+         at != std::filesystem::recursive_directory_iterator(); ++at) {
+        if (at->path().filename() == "Temp")
+            at.disable_recursion_pending();
+        else if (!at->is_directory())
+            traces.insert(at->path().string());
+    }
+}
+
+// Below "Wine" the platform itself keeps a list of shortcuts.
+void AddKeys(HKEY parent, const std::string& path, std::set<std::string>& traces) {
+    HKEY key = nullptr;
+    if (path == "Software\\Wine" || ::RegOpenKeyExA(parent, path.c_str(), 0, KEY_READ, &key) != 0) return;
+    std::array<char, 256> name{};
+    DWORD length = name.size();
+    for (DWORD index = 0;
+         ::RegEnumKeyExA(key, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) == 0;
+         ++index) {
+        const std::string child = path + "\\" + name.data();
+        traces.insert(child);
+        AddKeys(parent, child, traces);
+        length = name.size();
+    }
+    ::RegCloseKey(key);
+}
+
+}  // namespace
+
+Process::Process(std::string commandLine) {
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION started{};
+    // Now and then the platform refuses a process with an internal error and creates it the next time.
+    const bool hasStarted = Eventually([&] {
+        return ::CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                &startup, &started) != FALSE;
+    });
+    EXPECT_TRUE(hasStarted) << commandLine << ": error " << ::GetLastError();
+    if (hasStarted) ::CloseHandle(started.hThread);
+    process = started.hProcess;
+}
+
+// The shell may take a process of its own on the way.
+Process Process::FromStartMenu() {
+    ::ShellExecuteA(nullptr, nullptr, Shortcut().string().c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    HWND window = nullptr;
+    EXPECT_TRUE(Eventually([&] { return (window = ::FindWindowA("frmMain", nullptr)) != nullptr; }, limit));
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(window, &id);
+    Process started;
+    started.process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
+    return started;
+}
+
+Process::Process(Process&& other) noexcept : process(std::exchange(other.process, nullptr)) {}
+
+Process::~Process() {
+    if (!process) return;
+    ::TerminateProcess(process, 1);
+    ::WaitForSingleObject(process, limit);
+    ::CloseHandle(process);
+}
+
+std::optional<int> Process::waitForEnd() const {
+    DWORD exitCode = 0;
+    if (::WaitForSingleObject(process, limit) != WAIT_OBJECT_0) return std::nullopt;
+    ::GetExitCodeProcess(process, &exitCode);
+    return static_cast<int>(exitCode);
+}
+
+HWND Process::waitForWindow(const char* className) const {
+    Search search{::GetProcessId(process), className, nullptr};
+    Eventually([&] { return ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search)), search.found; },
+               limit);
+    return search.found;
+}
+
+int RunToEnd(const std::string& commandLine) { return Process(commandLine).waitForEnd().value_or(-1); }
+
+std::filesystem::path DefaultFolder() { return UserFolder(CSIDL_LOCAL_APPDATA) / "Programs" / "Huevox"; }
+
+std::filesystem::path Shortcut() { return UserFolder(CSIDL_PROGRAMS) / "Huevox.lnk"; }
+
+std::filesystem::path ShortcutTarget() {
+    ::CoInitialize(nullptr);
+    std::array<char, MAX_PATH> target{};
+    IShellLinkA* link = nullptr;
+    IPersistFile* file = nullptr;
+    ::CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
+                       reinterpret_cast<void**>(&link));
+    if (link && link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)) == S_OK) {
+        if (file->Load(Shortcut().c_str(), STGM_READ) == S_OK)
+            link->GetPath(target.data(), MAX_PATH, nullptr, 0);
+        file->Release();
+    }
+    if (link) link->Release();
+    ::CoUninitialize();
+    return target.data();
+}
+
+// The uninstaller goes on in a copy of itself and ends before that.
+bool Remove(const std::filesystem::path& folder, const std::string& extra) {
+    const std::filesystem::path uninstaller = folder / "uninstall.exe";
+    EXPECT_EQ(RunToEnd("\"" + uninstaller.string() + "\" /S" + extra), 0);
+    return Eventually([&] { return !HasKey(uninstallKey) && !std::filesystem::exists(uninstaller); }, limit);
+}
+
+std::string Value(const char* key, const char* name) {
+    std::array<char, 1024> data{};
+    DWORD type = 0;
+    auto size = static_cast<DWORD>(data.size() - 1);
+    if (::RegGetValueA(HKEY_CURRENT_USER, key, name, RRF_RT_REG_SZ | RRF_RT_REG_DWORD, &type, data.data(),
+                       &size) != 0)
+        return "";
+    return type == REG_DWORD ? std::to_string(*reinterpret_cast<const DWORD*>(data.data())) : data.data();
+}
+
+bool HasKey(const char* key) {
+    HKEY opened = nullptr;
+    if (::RegOpenKeyExA(HKEY_CURRENT_USER, key, 0, KEY_READ, &opened) != 0) return false;
+    ::RegCloseKey(opened);
+    return true;
+}
+
+void StoreSetting() { ::RegSetKeyValueA(HKEY_CURRENT_USER, settingsKey, "SortIndex", REG_SZ, "1", 2); }
+
+std::set<std::string> Traces() {
+    std::set<std::string> traces;
+    for (const int folder :
+         {CSIDL_LOCAL_APPDATA, CSIDL_STARTMENU, CSIDL_COMMON_STARTMENU, CSIDL_PROGRAM_FILES}) {
+        AddFiles(UserFolder(folder), traces);
+    }
+    AddKeys(HKEY_CURRENT_USER, "Software", traces);
+    return traces;
+}
