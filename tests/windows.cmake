@@ -24,7 +24,18 @@ add_executable(program_tests
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
 
-# From another process, by real keys and mouse.
+# What acts on the running program from another process, by real keys and mouse.
+add_library(ui_driver STATIC
+    ui/Huevox.cpp
+    ui/Input.cpp
+    ui/Palettes.cpp
+    ui/PickerWindow.cpp
+    ui/UiTest.cpp)
+target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)
+target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
+    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
+    HUEVOX_COLOR_NAMES="Z:${color_names}")
+
 add_executable(ui_tests
     ui/ActivationTest.cpp
     ui/AutocopyTest.cpp
@@ -40,8 +51,6 @@ add_executable(ui_tests
     ui/FindJavaScriptNamesTest.cpp
     ui/FormatDialogTest.cpp
     ui/FormatLimitTest.cpp
-    ui/Huevox.cpp
-    ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
     ui/JavaScriptPickerTest.cpp
     ui/KeyboardTest.cpp
@@ -52,8 +61,6 @@ add_executable(ui_tests
     ui/PaletteFaultTest.cpp
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp
-    ui/Palettes.cpp
-    ui/PickerWindow.cpp
     ui/PickerWindowsTest.cpp
     ui/PickersTest.cpp
     ui/ScreenPickTest.cpp
@@ -61,13 +68,9 @@ add_executable(ui_tests
     ui/SlidersTest.cpp
     ui/StartTest.cpp
     ui/TypedValuesTest.cpp
-    ui/UiTest.cpp
     ui/WaitingValuesTest.cpp)
-target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32)
+target_link_libraries(ui_tests PRIVATE ui_driver gtest_main)
 add_dependencies(ui_tests Huevox)
-target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
-    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
-    HUEVOX_COLOR_NAMES="Z:${color_names}")
 
 add_executable(StandIn WIN32 ui/StandIn.cpp)
 target_link_libraries(StandIn PRIVATE huevox_flags)

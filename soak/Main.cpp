@@ -1,0 +1,133 @@
+// A random user on the real program: soak [--seed N] [--steps N] [--minutes N] [--replay FILE]. Ends with 0
+// when the window has agreed with the model at every step.
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+#include "soak/Chooser.h"
+#include "soak/Session.h"
+#include "soak/Shorten.h"
+#include "tests/core/NamedColors.h"
+
+namespace {
+
+constexpr const char* sequenceFile = "soak-sequence.txt";
+
+struct Options {
+    unsigned seed = 1;
+    int steps = 100'000;
+    double minutes = 25;
+    std::string replay = {};
+};
+
+/// What has become of a sequence: how many steps, and what differs at the last.
+struct Outcome {
+    Actions played = {};
+    int steps = 0;
+    std::string difference = {};
+};
+
+ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULONGLONG>(minutes * 60'000); }
+
+Options Read(int count, char** arguments) {
+    Options options;
+    for (int index = 1; index + 1 < count; index += 2) {
+        const std::string_view name = arguments[index];
+        const char* value = arguments[index + 1];
+        if (name == "--seed") options.seed = static_cast<unsigned>(std::strtoul(value, nullptr, 10));
+        if (name == "--steps") options.steps = std::atoi(value);
+        if (name == "--minutes") options.minutes = std::atof(value);
+        if (name == "--replay") options.replay = value;
+    }
+    return options;
+}
+
+Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& options) {
+    Outcome outcome;
+    Session session(facts, figures);
+    Chooser chooser(options.seed);
+    const ULONGLONG end = EndAfter(options.minutes);
+    while (outcome.steps < options.steps && ::GetTickCount64() < end && outcome.difference.empty()) {
+        const Action action = chooser.next(session.state());
+        if (action.kind == Kind::start) outcome.played.clear();
+        outcome.played.push_back(action);
+        outcome.difference = session.play(action);
+        ++outcome.steps;
+        if (outcome.steps % 1000 == 0) std::printf("%d steps\n", outcome.steps);
+    }
+    return outcome;
+}
+
+Outcome Play(const Facts& facts, Figures& figures, const Actions& actions) {
+    Outcome outcome;
+    Session session(facts, figures);
+    for (const Action& action : actions) {
+        if (!session.state().isPossible(action)) continue;
+        outcome.played.push_back(action);
+        outcome.difference = session.play(action);
+        ++outcome.steps;
+        if (!outcome.difference.empty()) break;
+    }
+    return outcome;
+}
+
+std::string Field(const std::string& difference) { return difference.substr(0, difference.find(':')); }
+
+void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
+    constexpr double minutesToShorten = 4;
+    std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
+    Figures ignored;
+    const ULONGLONG end = EndAfter(minutesToShorten);
+    const auto fails = [&](const Actions& actions) {
+        return Field(Play(facts, ignored, actions).difference) == Field(outcome.difference);
+    };
+    const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
+    const Actions shortest = Shortened(ShortEnd(outcome.played, fails, mayGoOn), fails, mayGoOn);
+    std::ofstream file(sequenceFile);
+    std::printf("The shortest sequence found, also in %s:\n", sequenceFile);
+    for (const Action& action : shortest) {
+        std::puts(("    " + LineOf(action)).c_str());
+        file << LineOf(action) << '\n';
+    }
+}
+
+Actions ReadActions(const std::string& path) {
+    Actions actions;
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
+        if (const auto action = ParseLine(line)) actions.push_back(*action);
+    }
+    return actions;
+}
+
+void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
+    const auto& [first, last, steps, movements] = figures.growth;
+    std::printf("seed %u, %d steps, %d starts of the program\n", options.seed, outcome.steps, figures.starts);
+    std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
+                figures.slowestStep, figures.slowestAction.c_str());
+    std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
+    std::printf("    memory %lld KB, then %lld KB\n", first.bytes / 1024, last.bytes / 1024);
+    std::printf("    graphics objects %d, then %d\n", first.gdi, last.gdi);
+    std::printf("    windows %d, then %d\n", first.windows, last.windows);
+    std::printf("    handles %d, then %d\n", first.handles, last.handles);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    const Options options = Read(count, arguments);
+    const Facts facts(ReadJavaScriptColors());
+    Figures figures;
+    const Outcome outcome = options.replay.empty() ? PlayAtRandom(facts, figures, options)
+                                                   : Play(facts, figures, ReadActions(options.replay));
+    Summarise(options, outcome, figures);
+    if (outcome.difference.empty()) {
+        std::puts("No difference.");
+        return 0;
+    }
+    Report(facts, options, outcome);
+    return 1;
+}
