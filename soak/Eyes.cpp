@@ -3,6 +3,8 @@
 #include "bench/Figures.h"
 #include "mainwindow/ColorRamp.h"
 #include "resources/resource.h"
+#include "soak/OtherProgram.h"
+#include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
 
 namespace {
@@ -72,6 +74,16 @@ HWND Eyes::nameField(HWND dialog) {
 }
 
 HWND Eyes::picker(int index) const { return ::FindWindowA(pickerNames.at(index), nullptr); }
+
+Front Eyes::frontWindow() const {
+    const HWND front = ::GetForegroundWindow();
+    if (front == form) return Front::main;
+    for (int index = 0; index < 3; ++index) {
+        if (front && front == picker(index)) return static_cast<Front>(index);
+    }
+    const std::string name = front ? ClassOf(front) : "";
+    return name == OtherProgram::className ? Front::other : Front::none;
+}
 
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
 

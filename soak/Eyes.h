@@ -27,6 +27,7 @@ public:
     /// The field for a file's name in a dialog, or nullptr.
     static HWND nameField(HWND dialog);
     HWND picker(int index) const;
+    Front frontWindow() const;
     /// A point of the main window on which there is nothing.
     POINT emptyPlace() const;
     POINT barStep(int step) const;

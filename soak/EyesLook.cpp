@@ -39,6 +39,11 @@ std::string Numbered(const char* what, int number) {
     return std::string(what) + ' ' + std::to_string(number);
 }
 
+const char* NameOf(Front front) {
+    constexpr std::array names = {"websafe", "failsafe", "JavaScript", "main", "other", "none"};
+    return names.at(static_cast<std::size_t>(front));
+}
+
 }  // namespace
 
 std::string Eyes::difference(const Look& expected) {
@@ -82,12 +87,8 @@ std::string Eyes::boxDifference(const Look& expected) {
         constexpr int messageText = 0xFFFF;
         compare.same("message", expected.box.text, text(::GetDlgItem(window, messageText)));
     } else {
-        const HWND front = ::GetForegroundWindow();
-        const auto index = static_cast<int>(expected.front);
-        const HWND wanted = index < 3 ? picker(index) : form;
-        const bool isOther = front != form && !picker(0) && !picker(1) && !picker(2);
-        compare.same("window in front", true,
-                     expected.front == Front::other ? isOther || front != form : front == wanted);
+        compare.same("window in front", std::string(NameOf(expected.front)),
+                     std::string(NameOf(frontWindow())));
     }
     return compare.found;
 }

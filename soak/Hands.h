@@ -24,13 +24,14 @@ private:
     void playWindows(const Action& action, const Model& before);
     void playOutside(const Action& action, const Model& before);
 
-    void clickOn(int id) const;
-    void retype(int id, const std::string& text) const;
+    void clickOn(int id);
+    void retype(int id, const std::string& text);
     void dragSlider(int slider, int from, int to) const;
     void pick(const Action& action, const Model& before);
     void clickSwatch(const Action& action) const;
     void closePicker(int index) const;
     void close(int way) const;
+    void chooseFromMenu(int menu, int item) const;
     void choosePath(const std::string& path, bool isForNotepad) const;
     void answer(int button) const;
     void vainClick(int mark) const;
@@ -40,5 +41,6 @@ private:
     const Huevox& huevox;
     Eyes& eyes;
     OtherProgram& other;
+    bool isClickedLeft = false;
     int movements = 0;
 };

@@ -32,11 +32,6 @@ std::optional<Command> CommandOf(Kind kind) {
     }
 }
 
-void ChooseFromMenu(WORD menu, WORD item) {
-    Press(menu, {VK_MENU});
-    Press(item);
-}
-
 constexpr std::array grids = {websafeGrid, failsafeGrid, javaScriptGrid};
 
 Swatch PlaceOf(int window, int index) {
@@ -48,18 +43,25 @@ Swatch PlaceOf(int window, int index) {
 }  // namespace
 
 void Hands::playCommand(const Action& action) {
-    if (action.kind == Kind::savePaletteAs) ChooseFromMenu('F', 'A');
+    if (action.kind == Kind::savePaletteAs) chooseFromMenu('F', 'A');
     const std::optional command = CommandOf(action.kind);
     if (!command) return;
     if (action.which == 1) {
         Click(huevox.toolButton(command->button));
     } else if (action.which == 2) {
-        ChooseFromMenu(command->menu, command->item);
+        chooseFromMenu(command->menu, command->item);
     } else if (command->isWithControl) {
         Press(command->shortcut, {VK_CONTROL});
     } else {
         Press(command->shortcut);
     }
+}
+
+/// The letter of an item counts when its menu is open.
+void Hands::chooseFromMenu(int menu, int item) const {
+    Press(static_cast<WORD>(menu), {VK_MENU});
+    Soon([&] { return eyes.isInMenu(); });
+    Press(static_cast<WORD>(item));
 }
 
 void Hands::playWindows(const Action& action, const Model& before) {
@@ -109,7 +111,7 @@ void Hands::close(int way) const {
     waitForInput();
     if (way == 0) Press(VK_F4, {VK_MENU});
     if (way == 1) ::PostMessageA(eyes.main(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    if (way == 2) ChooseFromMenu('F', 'E');
+    if (way == 2) chooseFromMenu('F', 'E');
 }
 
 void Hands::choosePath(const std::string& path, bool isForNotepad) const {

@@ -7,8 +7,9 @@
 
 #include "soak/PaletteText.h"
 
-/// The windows that can be in front: three palette windows, the main window and another program's.
-enum class Front { websafe, failsafe, javaScript, main, other };
+/// The windows that can be in front: three palette windows, the main window, another program's, or none of
+/// them.
+enum class Front { websafe, failsafe, javaScript, main, other, none };
 
 struct BoxLook {
     std::string title;

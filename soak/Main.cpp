@@ -1,8 +1,10 @@
 // A random user on the real program: soak [--seed N] [--steps N] [--minutes N] [--replay FILE]. Ends with 0
 // when the window has agreed with the model at every step.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,12 +15,10 @@
 
 namespace {
 
-constexpr const char* sequenceFile = "soak-sequence.txt";
-
 struct Options {
     unsigned seed = 1;
     int steps = 100'000;
-    double minutes = 25;
+    double minutes = 25;  ///< at most
     std::string replay = {};
 };
 
@@ -26,6 +26,7 @@ struct Options {
 struct Outcome {
     Actions played = {};
     int steps = 0;
+    double seconds = 0;
     std::string difference = {};
 };
 
@@ -48,6 +49,7 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
     Outcome outcome;
     Session session(facts, figures);
     Chooser chooser(options.seed);
+    const ULONGLONG begin = ::GetTickCount64();
     const ULONGLONG end = EndAfter(options.minutes);
     while (outcome.steps < options.steps && ::GetTickCount64() < end && outcome.difference.empty()) {
         const Action action = chooser.next(session.state());
@@ -57,6 +59,7 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
         ++outcome.steps;
         if (outcome.steps % 1000 == 0) std::printf("%d steps\n", outcome.steps);
     }
+    outcome.seconds = static_cast<double>(::GetTickCount64() - begin) / 1000;
     return outcome;
 }
 
@@ -75,6 +78,15 @@ Outcome Play(const Facts& facts, Figures& figures, const Actions& actions) {
 
 std::string Field(const std::string& difference) { return difference.substr(0, difference.find(':')); }
 
+void Print(const Actions& actions) {
+    for (const Action& action : actions) std::puts(("    " + LineOf(action)).c_str());
+}
+
+void Save(const Actions& actions, const char* path) {
+    std::ofstream file(path);
+    for (const Action& action : actions) file << LineOf(action) << '\n';
+}
+
 void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
     constexpr double minutesToShorten = 4;
     std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
@@ -84,13 +96,18 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
         return Field(Play(facts, ignored, actions).difference) == Field(outcome.difference);
     };
     const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
-    const Actions shortest = Shortened(ShortEnd(outcome.played, fails, mayGoOn), fails, mayGoOn);
-    std::ofstream file(sequenceFile);
-    std::printf("The shortest sequence found, also in %s:\n", sequenceFile);
-    for (const Action& action : shortest) {
-        std::puts(("    " + LineOf(action)).c_str());
-        file << LineOf(action) << '\n';
+    std::optional<Actions> shortest = ShortEnd(outcome.played, fails, mayGoOn);
+    if (shortest) {
+        shortest = Shortened(*shortest, fails, mayGoOn);
+        std::puts("The shortest sequence found:");
+    } else {
+        std::puts("It did not happen again. The last actions were:");
+        shortest = Actions(outcome.played.end() - std::min<std::ptrdiff_t>(20, std::ssize(outcome.played)),
+                           outcome.played.end());
     }
+    Print(*shortest);
+    Save(outcome.played, "soak-whole.txt");
+    Save(*shortest, "soak-sequence.txt");
 }
 
 Actions ReadActions(const std::string& path) {
@@ -104,7 +121,8 @@ Actions ReadActions(const std::string& path) {
 
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
     const auto& [first, last, steps, movements] = figures.growth;
-    std::printf("seed %u, %d steps, %d starts of the program\n", options.seed, outcome.steps, figures.starts);
+    std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
+                outcome.seconds, figures.starts);
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);

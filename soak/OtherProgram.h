@@ -1,11 +1,17 @@
 // What do other programs do meanwhile?
 #pragma once
 
+#include <thread>
+
 #include "toolkit/Platform.h"
 
-/// A small window of another process, which takes the foreground and the clipboard.
+/// A window beside the program's, which takes the foreground and the clipboard. It answers at all times, in a
+/// thread of its own: the platform would hand the focus over late.
 class OtherProgram {
 public:
+    static constexpr const char* className = "OtherProgram";
+
+    /// Waits until the window is in front.
     OtherProgram();
     OtherProgram(const OtherProgram&) = delete;
     OtherProgram& operator=(const OtherProgram&) = delete;
@@ -14,10 +20,9 @@ public:
     void takeForeground() const;
     void holdClipboard();
     void letGo();
-    /// Handles what waits for the window; to be called now and then.
-    static void answer();
 
 private:
-    HWND window;
+    HWND window = nullptr;
+    std::thread thread;
     bool isHolding = false;
 };

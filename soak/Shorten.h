@@ -3,19 +3,20 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 #include "soak/Action.h"
 
 /// The end of the sequence that is enough, twice as long at every try. The first action starts the program
 /// and stays. fails plays a sequence from the start; mayGoOn tells whether there is time for another.
 template <class Fails, class MayGoOn>
-Actions ShortEnd(const Actions& actions, Fails fails, MayGoOn mayGoOn) {
+std::optional<Actions> ShortEnd(const Actions& actions, Fails fails, MayGoOn mayGoOn) {
     for (std::size_t length = 8; length + 1 < actions.size() && mayGoOn(); length *= 2) {
         Actions end = {actions.front()};
         end.insert(end.end(), actions.end() - static_cast<std::ptrdiff_t>(length), actions.end());
         if (fails(end)) return end;
     }
-    return actions;
+    return mayGoOn() && fails(actions) ? std::optional(actions) : std::nullopt;
 }
 
 /// Leaves out parts, large ones first and at last single actions, for as long as the rest still fails.

@@ -1,7 +1,7 @@
 // How does the random user wait, without losing time?
 #pragma once
 
-#include "soak/OtherProgram.h"
+#include "toolkit/Platform.h"
 
 /// Looks again and again until condition is true. False when it still is not after the limit.
 template <class Condition>
@@ -9,7 +9,6 @@ bool Soon(Condition condition, DWORD milliseconds = 5000) {
     const ULONGLONG end = ::GetTickCount64() + milliseconds;
     while (!condition()) {
         if (::GetTickCount64() >= end) return false;
-        OtherProgram::answer();
         ::Sleep(1);
     }
     return true;
