@@ -145,11 +145,10 @@ void Hands::pick(const Action& action, const Model& before) {
         action.which < 6 ? CenterOf(eyes.control(IDC_picSample + action.which)) : eyes.barStep(action.value);
     PressButton(CenterOf(eyes.control(IDC_picSample + before.look().selected)));
     Soon([&] { return ::IsWindowVisible(preview) != FALSE; });
-    // First aside: a press and a release at one place is no movement.
-    MoveMouse({place.x, place.y + 1});
+    // To and fro: where the button was pressed there is no movement.
     Soon([&] {
-        MoveMouse(place);
-        movements += 2;
+        ++movements;
+        MoveMouse({place.x, place.y + movements % 2});
         return Pixel(CenterOf(preview)) == before.pickTarget(action);
     });
     ReleaseButton(place);

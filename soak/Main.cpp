@@ -66,9 +66,8 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
 Outcome Play(const Facts& facts, Figures& figures, const Actions& actions) {
     Outcome outcome;
     Session session(facts, figures);
-    for (const Action& action : actions) {
-        if (!session.state().isPossible(action)) continue;
-        outcome.played.push_back(action);
+    outcome.played = Possible(actions, facts);
+    for (const Action& action : outcome.played) {
         outcome.difference = session.play(action);
         ++outcome.steps;
         if (!outcome.difference.empty()) break;
@@ -98,7 +97,7 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
     const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
     std::optional<Actions> shortest = ShortEnd(outcome.played, fails, mayGoOn);
     if (shortest) {
-        shortest = Shortened(*shortest, fails, mayGoOn);
+        shortest = Possible(Shortened(*shortest, fails, mayGoOn), facts);
         std::puts("The shortest sequence found:");
     } else {
         std::puts("It did not happen again. The last actions were:");

@@ -128,3 +128,6 @@ private:
     After after = After::nothing;
     bool wasLastOpenAccepted = false;
 };
+
+/// The actions without those that are not possible when their turn comes.
+Actions Possible(const Actions& actions, const Facts& facts);

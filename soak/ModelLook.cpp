@@ -95,6 +95,17 @@ bool Model::isPossibleInMain(const Action& action) const {
     }
 }
 
+Actions Possible(const Actions& actions, const Facts& facts) {
+    Model model(facts);
+    Actions possible;
+    for (const Action& action : actions) {
+        if (!model.isPossible(action)) continue;
+        model.play(action);
+        possible.push_back(action);
+    }
+    return possible;
+}
+
 StoredSettings SettingsOf(int variant) {
     switch (variant) {
         case 0: return {"", 0, 0, 1};

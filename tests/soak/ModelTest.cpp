@@ -173,6 +173,13 @@ TEST_F(SoakModel, PicksBlackUntilSomethingWasPicked) {
     EXPECT_FALSE(model.isPossible({Kind::openPalette, 2}));
 }
 
+TEST_F(SoakModel, LeavesOutWhatIsNotPossible) {
+    const Action start = {Kind::start};
+    const Action mark = {Kind::selectMark, 3};
+    EXPECT_EQ(Possible({start, {Kind::answer, 0, yes}, mark, start, {Kind::swatch, 0, 7}}, facts),
+              (Actions{start, mark}));
+}
+
 TEST_F(SoakModel, IsNeverAtALossForTheNextAction) {
     Chooser chooser(7);
     Chooser same(7);
