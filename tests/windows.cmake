@@ -109,7 +109,14 @@ foreach(dpi 120 144 192)
     set_tests_properties(program.pickers_at_${dpi}_dpi PROPERTIES TIMEOUT 120)
 endforeach()
 set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
+# A share of the random user's time, on a desktop of its own: so many minutes as HUEVOX_SOAK_MINUTES says.
+add_test(NAME ui.random_user
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --share-of-tests
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.random_user PROPERTIES TIMEOUT 1800 LABELS soak)
 
 add_test(NAME product.size_and_imports COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_tests StandIn huevox_bench)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox program_tests ui_driver ui_tests StandIn soak_model
+    soak huevox_bench)

@@ -1,8 +1,8 @@
-#include "soak/Model.h"
+#include "randomuser/Model.h"
 
 #include <gtest/gtest.h>
 
-#include "soak/Chooser.h"
+#include "randomuser/Chooser.h"
 #include "tests/core/NamedColors.h"
 
 namespace {

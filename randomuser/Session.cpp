@@ -1,11 +1,11 @@
-#include "soak/Session.h"
+#include "randomuser/Session.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <utility>
 
 #include "bench/Figures.h"
-#include "soak/Soon.h"
+#include "randomuser/Soon.h"
 #include "tests/ui/Palettes.h"
 
 namespace {

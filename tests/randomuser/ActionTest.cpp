@@ -1,4 +1,4 @@
-#include "soak/Action.h"
+#include "randomuser/Action.h"
 
 #include <gtest/gtest.h>
 

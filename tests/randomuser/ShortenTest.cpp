@@ -1,4 +1,4 @@
-#include "soak/Shorten.h"
+#include "randomuser/Shorten.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "soak/Look.h"
+#include "randomuser/Look.h"
 #include "toolkit/Platform.h"
 
 /// Looks at the program from another process. Each question must be answered within a second.

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "soak/Action.h"
-#include "soak/Facts.h"
-#include "soak/Look.h"
+#include "randomuser/Action.h"
+#include "randomuser/Facts.h"
+#include "randomuser/Look.h"
 
 /// Where the files of the session stand.
 inline constexpr const char* filesFolder = "C:\\Huevox Soak";

@@ -1,8 +1,8 @@
-#include "soak/OtherProgram.h"
+#include "randomuser/OtherProgram.h"
 
 #include <future>
 
-#include "soak/Soon.h"
+#include "randomuser/Soon.h"
 
 namespace {
 

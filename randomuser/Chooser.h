@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "soak/Action.h"
-#include "soak/Model.h"
+#include "randomuser/Action.h"
+#include "randomuser/Model.h"
 
 /// The same seed and the same states give the same actions on every platform.
 class Chooser {

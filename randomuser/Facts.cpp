@@ -1,4 +1,4 @@
-#include "soak/Facts.h"
+#include "randomuser/Facts.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 // How is each action done by real keys and mouse?
 #pragma once
 
-#include "soak/Action.h"
-#include "soak/Eyes.h"
-#include "soak/Model.h"
-#include "soak/OtherProgram.h"
+#include "randomuser/Action.h"
+#include "randomuser/Eyes.h"
+#include "randomuser/Model.h"
+#include "randomuser/OtherProgram.h"
 #include "tests/ui/Huevox.h"
 
 /// Acts on the running program. What depends on its state is taken from the model before the action.

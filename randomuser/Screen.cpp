@@ -1,4 +1,4 @@
-#include "soak/Screen.h"
+#include "randomuser/Screen.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "soak/Model.h"
+#include "randomuser/Model.h"
 
 #include <algorithm>
 #include <cctype>

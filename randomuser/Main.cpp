@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "soak/Chooser.h"
-#include "soak/Session.h"
-#include "soak/Shorten.h"
+#include "randomuser/Chooser.h"
+#include "randomuser/Session.h"
+#include "randomuser/Shorten.h"
 #include "tests/core/NamedColors.h"
 
 namespace {
@@ -32,8 +32,15 @@ struct Outcome {
 
 ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULONGLONG>(minutes * 60'000); }
 
+double ShareOfTests() {
+    constexpr double usual = 1;
+    const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
+    return minutes ? std::atof(minutes) : usual;
+}
+
 Options Read(int count, char** arguments) {
     Options options;
+    if (count == 2 && std::string_view(arguments[1]) == "--share-of-tests") options.minutes = ShareOfTests();
     for (int index = 1; index + 1 < count; index += 2) {
         const std::string_view name = arguments[index];
         const char* value = arguments[index + 1];

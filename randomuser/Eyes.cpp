@@ -1,9 +1,9 @@
-#include "soak/Eyes.h"
+#include "randomuser/Eyes.h"
 
 #include "bench/Figures.h"
 #include "mainwindow/ColorRamp.h"
 #include "resources/resource.h"
-#include "soak/OtherProgram.h"
+#include "randomuser/OtherProgram.h"
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
 

@@ -1,4 +1,4 @@
-#include "soak/Usage.h"
+#include "randomuser/Usage.h"
 
 #include <psapi.h>
 #include <winternl.h>

@@ -1,4 +1,4 @@
-#include "soak/Chooser.h"
+#include "randomuser/Chooser.h"
 
 #include <array>
 #include <utility>

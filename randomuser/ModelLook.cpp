@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "soak/Model.h"
+#include "randomuser/Model.h"
 
 Look Model::look() const {
     Look look;

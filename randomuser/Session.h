@@ -4,11 +4,11 @@
 #include <memory>
 #include <string>
 
-#include "soak/Eyes.h"
-#include "soak/Hands.h"
-#include "soak/Model.h"
-#include "soak/OtherProgram.h"
-#include "soak/Usage.h"
+#include "randomuser/Eyes.h"
+#include "randomuser/Hands.h"
+#include "randomuser/Model.h"
+#include "randomuser/OtherProgram.h"
+#include "randomuser/Usage.h"
 #include "tests/ui/Huevox.h"
 
 /// What all sessions of a run have come to.

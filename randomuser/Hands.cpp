@@ -1,9 +1,9 @@
-#include "soak/Hands.h"
+#include "randomuser/Hands.h"
 
 #include <cstdlib>
 
 #include "resources/resource.h"
-#include "soak/Soon.h"
+#include "randomuser/Soon.h"
 #include "tests/ui/Input.h"
 
 namespace {

@@ -2,9 +2,9 @@
 
 #include "mainwindow/ColorRamp.h"
 #include "resources/resource.h"
-#include "soak/Eyes.h"
-#include "soak/Facts.h"
-#include "soak/Screen.h"
+#include "randomuser/Eyes.h"
+#include "randomuser/Facts.h"
+#include "randomuser/Screen.h"
 #include "tests/ui/Input.h"
 
 namespace {

@@ -1,6 +1,6 @@
-#include "soak/PaletteText.h"
+#include "randomuser/PaletteText.h"
 
-#include "soak/Facts.h"
+#include "randomuser/Facts.h"
 
 namespace {
 
