@@ -2,8 +2,8 @@
 
 #include "bench/Figures.h"
 #include "mainwindow/ColorRamp.h"
-#include "resources/resource.h"
 #include "randomuser/OtherProgram.h"
+#include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
 #include "mainwindow/ColorRamp.h"
-#include "resources/resource.h"
 #include "randomuser/Eyes.h"
 #include "randomuser/Facts.h"
 #include "randomuser/Screen.h"
+#include "resources/resource.h"
 #include "tests/ui/Input.h"
 
 namespace {

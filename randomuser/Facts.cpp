@@ -125,7 +125,7 @@ Color BarColor(const Color& color, int step) {
 
 std::string CodeOf(int notation, const Color& color, std::string_view customFormat) {
     const auto [red, blue, green] = color;
-    const std::string number = std::to_string(red + 256 * green + 65536 * blue);
+    std::string number = std::to_string(red + 256 * green + 65536 * blue);
     switch (notation) {
         case 0: return Printed("#%02X%02X%02X", red, green, blue);
         case 1: return Printed("#%02x%02x%02x", red, green, blue);

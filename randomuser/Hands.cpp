@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-#include "resources/resource.h"
 #include "randomuser/Soon.h"
+#include "resources/resource.h"
 #include "tests/ui/Input.h"
 
 namespace {

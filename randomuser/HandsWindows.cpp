@@ -1,8 +1,8 @@
 #include <optional>
 
-#include "resources/resource.h"
 #include "randomuser/Hands.h"
 #include "randomuser/Soon.h"
+#include "resources/resource.h"
 #include "tests/ui/Input.h"
 #include "tests/ui/PickerWindow.h"
 #include "tests/ui/UiTest.h"

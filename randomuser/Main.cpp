@@ -15,6 +15,10 @@
 
 namespace {
 
+/// Milliseconds; the shorter while many sequences are tried that all end in a difference.
+constexpr unsigned usualPatience = 5000;
+constexpr unsigned shortPatience = 1500;
+
 struct Options {
     unsigned seed = 1;
     int steps = 100'000;
@@ -54,7 +58,7 @@ Options Read(int count, char** arguments) {
 
 Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& options) {
     Outcome outcome;
-    Session session(facts, figures);
+    Session session(facts, figures, usualPatience);
     Chooser chooser(options.seed);
     const ULONGLONG begin = ::GetTickCount64();
     const ULONGLONG end = EndAfter(options.minutes);
@@ -70,9 +74,9 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
     return outcome;
 }
 
-Outcome Play(const Facts& facts, Figures& figures, const Actions& actions) {
+Outcome Play(const Facts& facts, Figures& figures, const Actions& actions, unsigned patience) {
     Outcome outcome;
-    Session session(facts, figures);
+    Session session(facts, figures, patience);
     outcome.played = Possible(actions, facts);
     for (const Action& action : outcome.played) {
         outcome.difference = session.play(action);
@@ -99,7 +103,7 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
     Figures ignored;
     const ULONGLONG end = EndAfter(minutesToShorten);
     const auto fails = [&](const Actions& actions) {
-        return Field(Play(facts, ignored, actions).difference) == Field(outcome.difference);
+        return Field(Play(facts, ignored, actions, shortPatience).difference) == Field(outcome.difference);
     };
     const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
     std::optional<Actions> shortest = ShortEnd(outcome.played, fails, mayGoOn);
@@ -145,8 +149,9 @@ int main(int count, char** arguments) {
     const Options options = Read(count, arguments);
     const Facts facts(ReadJavaScriptColors());
     Figures figures;
-    const Outcome outcome = options.replay.empty() ? PlayAtRandom(facts, figures, options)
-                                                   : Play(facts, figures, ReadActions(options.replay));
+    const Outcome outcome = options.replay.empty()
+                                ? PlayAtRandom(facts, figures, options)
+                                : Play(facts, figures, ReadActions(options.replay), usualPatience);
     Summarise(options, outcome, figures);
     if (outcome.difference.empty()) {
         std::puts("No difference.");

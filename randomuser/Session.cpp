@@ -31,7 +31,8 @@ void StoreSettings(const StoredSettings& settings) {
 
 }  // namespace
 
-Session::Session(const Facts& facts, Figures& figures) : figures(figures), model(facts) {}
+Session::Session(const Facts& facts, Figures& figures, unsigned patience)
+    : figures(figures), patience(patience), model(facts) {}
 
 Session::~Session() = default;
 
@@ -77,16 +78,18 @@ void Session::start(int variant) {
 
 /// Waits until all that is seen is as the model has it.
 std::string Session::agree() {
-    constexpr DWORD patience = 500;
+    constexpr DWORD tipTime = 500;
     const Look expected = model.look();
     const ULONGLONG begin = ::GetTickCount64();
     std::string found;
-    Soon([&] {
-        found = program->eyes->difference(expected);
-        // A tool tip may lie over what is looked at.
-        if (::GetTickCount64() > begin + patience) MoveMouse({1, 1});
-        return found.empty() || found.starts_with("hang");
-    });
+    Soon(
+        [&] {
+            found = program->eyes->difference(expected);
+            // A tool tip may lie over what is looked at.
+            if (::GetTickCount64() > begin + tipTime) MoveMouse({1, 1});
+            return found.empty() || found.starts_with("hang");
+        },
+        patience);
     figures.slowestAnswer = std::max(figures.slowestAnswer, program->eyes->slowestAnswer());
     if (!found.empty() || expected.isRunning) return found;
     const int exitCode = program->huevox.waitForEnd();

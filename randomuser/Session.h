@@ -23,7 +23,8 @@ struct Figures {
 /// One program at a time beside one model.
 class Session {
 public:
-    Session(const Facts& facts, Figures& figures);
+    /// patience: how many milliseconds the window may take to show what it must.
+    Session(const Facts& facts, Figures& figures, unsigned patience);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
@@ -58,6 +59,7 @@ private:
     void measure(const Action& action, double milliseconds);
 
     Figures& figures;
+    unsigned patience;
     Model model;
     OtherProgram other;
     std::unique_ptr<Program> program;
