@@ -37,7 +37,10 @@ void Hands::clickOn(int id) {
     isClickedLeft = !isClickedLeft;
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
+    const bool isInFront = eyes.frontWindow() == Front::main;
     Click({middle.x + (isClickedLeft ? -aside : aside), middle.y});
+    // Keys go to the program that is in front when they are pressed.
+    if (!isInFront) Soon([&] { return eyes.frontWindow() != Front::other; });
 }
 
 void Hands::retype(int id, const std::string& text) {

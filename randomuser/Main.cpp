@@ -98,7 +98,7 @@ void Save(const Actions& actions, const char* path) {
 }
 
 void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
-    constexpr double minutesToShorten = 4;
+    constexpr double minutesToShorten = 2;
     std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
     Figures ignored;
     const ULONGLONG end = EndAfter(minutesToShorten);
@@ -153,10 +153,12 @@ int main(int count, char** arguments) {
                                 ? PlayAtRandom(facts, figures, options)
                                 : Play(facts, figures, ReadActions(options.replay), usualPatience);
     Summarise(options, outcome, figures);
-    if (outcome.difference.empty()) {
+    const std::string grown = Grown(figures.growth);
+    if (!grown.empty()) std::puts(grown.c_str());
+    if (!outcome.difference.empty()) {
+        Report(facts, options, outcome);
+    } else if (grown.empty()) {
         std::puts("No difference.");
-        return 0;
     }
-    Report(facts, options, outcome);
-    return 1;
+    return outcome.difference.empty() && grown.empty() ? 0 : 1;
 }

@@ -1,8 +1,7 @@
 // How much of the platform does the program hold?
 #pragma once
 
-#include <algorithm>
-#include <optional>
+#include <string>
 
 #include "toolkit/Platform.h"
 
@@ -15,10 +14,13 @@ struct Usage {
 
 Usage UsageOf(HANDLE process, HWND window);
 
-/// The first and the last of a program's figures, of the program in which memory has grown most.
+/// The first and the last figures of one program.
 struct Growth {
     Usage first = {};
     Usage last = {};
     int steps = 0;          ///< between the two
     int pickMovements = 0;  ///< each may cost a context of the screen, up to 1,000
 };
+
+/// What has grown by more than it may, or "".
+std::string Grown(const Growth& growth);
