@@ -21,6 +21,7 @@ struct BoxLook {
 
 struct Look {
     bool isRunning = false;
+    int exitCode = 0;  ///< of a program that has ended
     Front front = Front::main;
     BoxLook box = {};
     std::array<bool, 3> pickers = {};

@@ -98,6 +98,7 @@ private:
 
     const Facts* facts;
     bool isRunning = false;
+    int exitCode = 0;
     Front front = Front::main;
     std::array<bool, 3> pickers = {};
     bool isSortedByHue = false;

@@ -99,7 +99,10 @@ void Model::answer(int button) {
         case Box::report:
             if (button == yes) typeName(selected, facts->nameOf(current()));
             return;
-        case Box::fatal: isRunning = false; return;
+        case Box::fatal:
+            isRunning = false;
+            exitCode = 1;
+            return;
         case Box::message: return goOn();
         case Box::overwrite: return button == yes ? saveTo(boxPath) : show(Box::save);
         default: return;

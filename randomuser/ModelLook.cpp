@@ -5,6 +5,7 @@
 Look Model::look() const {
     Look look;
     look.isRunning = isRunning;
+    look.exitCode = exitCode;
     if (!isRunning) return look;
     look.front = front;
     look.box = {boxTitle(), boxText};

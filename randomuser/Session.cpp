@@ -93,7 +93,8 @@ std::string Session::agree() {
     figures.slowestAnswer = std::max(figures.slowestAnswer, program->eyes->slowestAnswer());
     if (!found.empty() || expected.isRunning) return found;
     const int exitCode = program->huevox.waitForEnd();
-    return exitCode == 0 ? "" : "exit code: expected 0, seen " + std::to_string(exitCode);
+    if (exitCode == expected.exitCode) return "";
+    return "exit code: expected " + std::to_string(expected.exitCode) + ", seen " + std::to_string(exitCode);
 }
 
 std::string Session::filesDifference(const Files& before) const {

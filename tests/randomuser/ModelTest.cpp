@@ -141,6 +141,7 @@ TEST_F(SoakModel, EndsWithAFileThatIsNotThere) {
     EXPECT_EQ(model.look().box.text, "Huevox encountered an unexpected error and must close.");
     play({Kind::answer, 0, 1});
     EXPECT_FALSE(model.look().isRunning);
+    EXPECT_EQ(model.look().exitCode, 1);
     EXPECT_TRUE(model.isPossible({Kind::start}));
 }
 
