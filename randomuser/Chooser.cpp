@@ -47,11 +47,11 @@ Action Chooser::next(const Model& model) {
 
 Kind Chooser::kind() {
     int all = 0;
-    for (const auto& [kind, weight] : weights) all += weight;
+    for (const auto& [any, weight] : weights) all += weight;
     int left = below(all);
-    for (const auto& [kind, weight] : weights) {
+    for (const auto& [chosen, weight] : weights) {
         left -= weight;
-        if (left < 0) return kind;
+        if (left < 0) return chosen;
     }
     return Kind::settle;
 }

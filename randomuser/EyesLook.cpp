@@ -71,7 +71,7 @@ std::string Eyes::frameDifference(const Look& expected) {
         const bool mustBe = window && !expected.box.isOpen();
         if (!compare.same(Numbered("enabled palette window", index), mustBe, isEnabled)) break;
     }
-    compare.found.empty() && compare.same("title", expected.title, text(form));
+    if (compare.found.empty()) compare.same("title", expected.title, text(form));
     return compare.found;
 }
 
@@ -105,7 +105,8 @@ std::string Eyes::editorDifference(const Look& expected) {
     }
     const auto isEnabled = [&](int id) { return ::IsWindowEnabled(control(id)) != FALSE; };
     const auto isChecked = [&](int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; };
-    compare.found.empty() && compare.same("preview", expected.preview, text(control(IDC_lblClipboard))) &&
+    if (!compare.found.empty()) return compare.found;
+    compare.same("preview", expected.preview, text(control(IDC_lblClipboard))) &&
         compare.same("Set enabled", expected.isSetEnabled, isEnabled(IDC_cmdSetColor)) &&
         compare.same("Dec enabled", expected.isModeEnabled, isEnabled(IDC_optSetDec)) &&
         compare.same("Hex enabled", expected.isModeEnabled, isEnabled(IDC_optSetHex)) &&

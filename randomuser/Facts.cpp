@@ -8,8 +8,10 @@
 
 namespace {
 
+/// A form may use fewer of the numbers.
 std::string Printed(const char* form, int first, int second, int third) {
     std::array<char, 64> text{};
+    // cppcheck-suppress wrongPrintfScanfArgNum
     std::snprintf(text.data(), text.size(), form, static_cast<unsigned>(first), static_cast<unsigned>(second),
                   static_cast<unsigned>(third));
     return text.data();

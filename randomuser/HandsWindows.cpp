@@ -12,8 +12,8 @@ namespace {
 /// How a command is reached by keys and by the tool bar; a shortcut of 0 is none.
 struct Command {
     WORD shortcut;
-    bool isWithControl;
-    int button;
+    bool isWithControl;  // cppcheck-suppress unusedStructMember
+    int button;          // cppcheck-suppress unusedStructMember
     WORD menu;
     WORD item;
 };
