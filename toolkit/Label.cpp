@@ -12,3 +12,12 @@ HBRUSH Label::onColor(HDC context) {
     ::SetBkColor(context, ::GetSysColor(COLOR_WINDOW));
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
+
+void Label::attached() {
+    if (isField) subclass();
+}
+
+/// A field shows text as it is: no character of it is a key that leads somewhere, "&H" of Alt+H for instance.
+LRESULT Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == WM_GETDLGCODE ? 0 : Control::onMessage(message, wParam, lParam);
+}

@@ -17,7 +17,9 @@ public:
     void lookLikeField() { isField = true; }
 
 private:
+    void attached() override;
     HBRUSH onColor(HDC context) override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     bool isField = false;
     std::string shown;
