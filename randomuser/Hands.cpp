@@ -37,10 +37,11 @@ void Hands::clickOn(int id) {
     isClickedLeft = !isClickedLeft;
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
-    const bool isInFront = eyes.frontWindow() == Front::main;
+    const Front front = eyes.frontWindow();
     Click({middle.x + (isClickedLeft ? -aside : aside), middle.y});
     // Keys go to the program that is in front when they are pressed.
-    if (!isInFront) Soon([&] { return eyes.frontWindow() != Front::other; });
+    constexpr DWORD longEnough = 1000;
+    if (front != Front::main) Soon([&] { return eyes.frontWindow() != front; }, longEnough);
 }
 
 void Hands::retype(int id, const std::string& text) {
