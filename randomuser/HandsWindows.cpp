@@ -129,8 +129,12 @@ void Hands::choosePath(const std::string& path, bool isForNotepad) const {
 
 void Hands::answer(int button) const {
     const HWND box = eyes.box();
-    Click(::GetDlgItem(box, button));
-    Soon([&] { return !::IsWindow(box); });
+    constexpr DWORD usual = 500;
+    // A new box may move under the pointer before it is where the window manager wants it.
+    Soon([&] {
+        if (::IsWindow(box)) Click(::GetDlgItem(box, button));
+        return Soon([&] { return !::IsWindow(box); }, usual);
+    });
 }
 
 void Hands::vainClick(int mark) const {
