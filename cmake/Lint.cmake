@@ -3,7 +3,7 @@ find_program(CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
 find_program(CLANG_FORMAT NAMES clang-format-14 clang-format REQUIRED)
 find_program(CPPCHECK cppcheck REQUIRED)
 
-set(rooms core help mainwindow palette pickers settings support toolkit resources tests bench fuzz)
+set(rooms core help mainwindow palette pickers settings support toolkit resources tests bench fuzz randomuser)
 list(TRANSFORM rooms PREPEND ${PROJECT_SOURCE_DIR}/)
 set(header_patterns ${rooms})
 list(TRANSFORM header_patterns APPEND /*.h)

@@ -32,7 +32,19 @@ add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
 
-# From another process, by real keys and mouse.
+# What acts on the running program from another process, by real keys and mouse.
+add_library(ui_driver STATIC
+    ui/Huevox.cpp
+    ui/Input.cpp
+    ui/Palettes.cpp
+    ui/PickerWindow.cpp
+    ui/UiTest.cpp)
+target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)
+target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
+    HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
+    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
+    HUEVOX_COLOR_NAMES="Z:${color_names}")
+
 add_executable(ui_tests
     ui/AboutTest.cpp
     ui/ActivationTest.cpp
@@ -51,8 +63,6 @@ add_executable(ui_tests
     ui/FormatLimitTest.cpp
     ui/HelpTest.cpp
     ui/HomePageTest.cpp
-    ui/Huevox.cpp
-    ui/Input.cpp
     ui/JavaScriptNamesTest.cpp
     ui/JavaScriptPickerTest.cpp
     ui/KeyboardTest.cpp
@@ -68,8 +78,6 @@ add_executable(ui_tests
     ui/PaletteFaultTest.cpp
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp
-    ui/Palettes.cpp
-    ui/PickerWindow.cpp
     ui/PickerWindowsTest.cpp
     ui/PickersTest.cpp
     ui/ScreenPickTest.cpp
@@ -77,15 +85,10 @@ add_executable(ui_tests
     ui/SlidersTest.cpp
     ui/StartTest.cpp
     ui/TypedValuesTest.cpp
-    ui/UiTest.cpp
     ui/WaitingValuesTest.cpp)
-target_link_libraries(ui_tests PRIVATE huevox_flags gtest_main advapi32 gdi32 version)
+target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox)
-target_compile_definitions(ui_tests PRIVATE HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
-    HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
-    HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
-    HUEVOX_COLOR_NAMES="Z:${color_names}")
 
 add_executable(StandIn WIN32 ui/StandIn.cpp)
 target_link_libraries(StandIn PRIVATE huevox_flags)
@@ -147,6 +150,12 @@ foreach(dpi 120 144 192)
     set_tests_properties(program.pickers_at_${dpi}_dpi PROPERTIES TIMEOUT 120)
 endforeach()
 set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
+# A share of the random user's time, on a desktop of its own: so many minutes as HUEVOX_SOAK_MINUTES says.
+add_test(NAME ui.random_user
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --share-of-tests
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.random_user PROPERTIES TIMEOUT 1800 LABELS soak)
 
 add_test(NAME product.size_imports_and_hardening
     COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
@@ -154,5 +163,5 @@ add_test(NAME product.size_imports_and_hardening
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
 add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py ${PROJECT_SOURCE_DIR})
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_tests StandIn StandInViewer
-    installer_tests huevox_bench)
+tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_driver ui_tests StandIn StandInViewer
+    installer_tests soak_model soak huevox_bench)

@@ -38,7 +38,7 @@ private:
     LRESULT onFocusLeft(HWND left);
     LRESULT onScalingWanted(int dpi, SIZE& size);
     LRESULT onScaling(int dpi, const RECT& suggested);
-    void onActivate(bool becomesActive);
+    void onActivate(int how);
     bool onMouse();
     void onDestroyed();
 
@@ -86,7 +86,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
         case WM_ENABLE: modalHold.changed(window, wParam != FALSE); break;
-        case WM_ACTIVATE: onActivate(LOWORD(wParam) != WA_INACTIVE); break;
+        case WM_ACTIVATE: onActivate(LOWORD(wParam)); break;
         case WM_SETCURSOR:
             if (onMouse()) return TRUE;
             break;
@@ -152,15 +152,18 @@ LRESULT Form::Receiver::onScaling(int dpi, const RECT& suggested) {
     return 0;
 }
 
-void Form::Receiver::onActivate(bool becomesActive) {
-    form.isActive = becomesActive;
+void Form::Receiver::onActivate(int how) {
+    form.isActive = how != WA_INACTIVE;
     if (!form.isLoaded()) return;
-    if (becomesActive) {
+    if (how == WA_INACTIVE) {
+        form.Deactivate.raise();
+    } else if (how == WA_CLICKACTIVE) {
+        // Before the click reaches its control: what the user chooses by it comes last.
+        form.activate();
+    } else {
         // The message arrives inside the platform's own work, the closing of a message box for instance.
         form.isActivatePending = true;
         ::PostMessageA(form.window, activatedMessage, 0, 0);
-    } else {
-        form.Deactivate.raise();
     }
 }
 

@@ -9,8 +9,10 @@ void Label::setText(std::string_view text) {
     ::SetWindowTextA(handle(), shown.c_str());
 }
 
-/// The template's text, whatever an earlier window has shown.
-void Label::attached() { shown = WindowText(handle()); }
+void Label::attached() {
+    shown = WindowText(handle());  // the template's, whatever an earlier window has shown
+    if (isField) subclass();
+}
 
 void Label::setFont(const char* face, int height) {
     ownFace = face;
@@ -34,4 +36,9 @@ HBRUSH Label::onColor(HDC context) {
     ::SetTextColor(context, ::GetSysColor(COLOR_WINDOWTEXT));
     ::SetBkColor(context, ::GetSysColor(COLOR_WINDOW));
     return ::GetSysColorBrush(COLOR_WINDOW);
+}
+
+/// A field shows text as it is: no character of it is a key that leads somewhere, "&H" of Alt+H for instance.
+LRESULT Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == WM_GETDLGCODE ? 0 : Control::onMessage(message, wParam, lParam);
 }

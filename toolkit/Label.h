@@ -23,6 +23,7 @@ public:
 private:
     void attached() override;
     HBRUSH onColor(HDC context) override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void rescaled() override;
 
     std::string ownFace;

@@ -1,4 +1,5 @@
 // What does a return to the window do?
+#include "tests/ui/PickerWindow.h"
 #include "tests/ui/UiTest.h"
 
 namespace {
@@ -61,4 +62,14 @@ TEST_F(Activation, AfterAMessageLeavesABadValueInItsBox) {
     // Copied again: the window has been activated, and yet the box is as it was.
     EXPECT_BECOMES(ClipboardText(), "#FF0000");
     EXPECT_EQ(huevox.text(IDC_txtSetBlue), "999");
+}
+
+TEST_F(Activation, ByAClickOnANotationChoosesIt) {
+    const Huevox huevox;
+    huevox.chooseNotation(3);
+    const PickerWindow picker(huevox, failsafeGrid);
+    huevox.chooseNotation(6);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
+    EXPECT_BECOMES(ClipboardText(), "255");
+    EXPECT_EQ(huevox.listIndex(), 6);
 }

@@ -125,3 +125,14 @@ TEST_F(Commands, EscapeAndEnterLeaveTheWindowOpen) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(254, 0, 0));
     EXPECT_TRUE(huevox.isRunning());
 }
+
+TEST_F(Commands, OfTheHelpMenuAreReachedByKeysWhateverThePreviewShows) {
+    const Huevox huevox;
+    huevox.chooseNotation(2);
+    ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "&H000000FF&");
+    Press('H', {VK_MENU});
+    Press('C');
+    const HWND report = huevox.waitForDialog();
+    ASSERT_TRUE(report);
+    EXPECT_EQ(TextOf(report), "Colour Properties");
+}

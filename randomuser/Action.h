@@ -1,0 +1,73 @@
+// What can a user, or another program, do to Huevox in one step?
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class Kind {
+    start,        ///< value: the stored settings that the program finds
+    sliderKeys,   ///< which: 0 to 2; value: the key plus 8 times how often
+    sliderArrow,  ///< which: 0 to 2; value: -1 or 1
+    sliderDrag,   ///< which: 0 to 2; value: 0 or 255
+    barClick,     ///< value: the step
+    selectMark,   ///< which: 0 to 5
+    markKeys,     ///< value: so many marks to the right, or to the left
+    typeValue,    ///< which: 0 to 2; text
+    enterValue,   ///< which: 0 to 2
+    pressSet,
+    setMode,    ///< value: 0 decimal, 1 hexadecimal
+    typeName,   ///< which: 0 to 5; text
+    eraseName,  ///< which: 0 to 5
+    copyColor,  ///< which, for this and all commands: 0 by key, 1 by the tool bar, 2 by the menu
+    pasteColor,
+    findNames,
+    properties,
+    notation,      ///< value: the row
+    notationKeys,  ///< value: so many rows down, or up
+    jsNames,
+    pickMode,
+    pickDrag,  ///< which: 0 to 5 a sample, 6 the colour bar; value: its step
+    pickRight,
+    openPicker,   ///< which: 0 websafe, 1 failsafe, 2 JavaScript
+    swatch,       ///< which as above; value: the index
+    rightSwatch,  ///< the same by the right button
+    sortOrder,    ///< value: 0 alphabetical, 1 by hue
+    closePicker,  ///< which as above
+    comeBack,
+    otherInFront,
+    otherCopies,  ///< text
+    otherHolds,
+    otherLetsGo,
+    settle,
+    newPalette,
+    openPalette,
+    openInNotepad,
+    savePalette,
+    savePaletteAs,
+    close,       ///< which: 0 by Alt+F4, 1 by the system menu, 2 by the menu
+    answer,      ///< value: the button's number
+    choosePath,  ///< text: the path
+    cancelDialog,
+    vainClick,  ///< value: a control that cannot be reached below the box that is open
+};
+
+/// The keys of a slider, in this order.
+enum class SliderKey { left, right, up, down, pageUp, pageDown, home, end };
+
+struct Action {
+    Kind kind = Kind::start;
+    int which = 0;
+    int value = 0;
+    std::string text = {};
+
+    friend bool operator==(const Action&, const Action&) = default;
+};
+
+using Actions = std::vector<Action>;
+
+/// One line without its end: the kind's name, which, value and the text.
+std::string LineOf(const Action& action);
+/// Reads what LineOf writes; nothing for any other line.
+std::optional<Action> ParseLine(std::string_view line);

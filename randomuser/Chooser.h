@@ -1,0 +1,25 @@
+// What does the random user do next?
+#pragma once
+
+#include <random>
+
+#include "randomuser/Action.h"
+#include "randomuser/Model.h"
+
+/// The same seed and the same states give the same actions on every platform.
+class Chooser {
+public:
+    explicit Chooser(unsigned seed) : random(seed) {}
+
+    /// An action that is possible now.
+    Action next(const Model& model);
+
+private:
+    int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+    Kind kind();
+    Action filled(Kind kind);
+    Action swatch(Kind kind);
+    int button();
+
+    std::mt19937 random;
+};

@@ -1,0 +1,92 @@
+#include "randomuser/Eyes.h"
+
+#include "bench/Figures.h"
+#include "mainwindow/ColorRamp.h"
+#include "randomuser/OtherProgram.h"
+#include "resources/resource.h"
+#include "tests/toolkit/WindowText.h"
+#include "tests/ui/Input.h"
+
+namespace {
+
+constexpr UINT hang = 1000;  // milliseconds without an answer
+
+constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
+
+BOOL CALLBACK Remember(HWND window, LPARAM parameter) {
+    auto& controls = *reinterpret_cast<std::map<int, HWND>*>(parameter);
+    controls.emplace(::GetDlgCtrlID(window), window);
+    return TRUE;
+}
+
+GUITHREADINFO ThreadInfo(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+    return info;
+}
+
+}  // namespace
+
+Eyes::Eyes(HWND main, HANDLE process) : form(main), process(process) {
+    ::EnumChildWindows(main, Remember, reinterpret_cast<LPARAM>(&controls));
+}
+
+LRESULT Eyes::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const double before = NowInMilliseconds();
+    DWORD_PTR result = 0;
+    const LRESULT isAnswered =
+        ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, hang, &result);
+    const double time = NowInMilliseconds() - before;
+    slowest = std::max(slowest, time);
+    if (!isAnswered && time >= hang) hasAnswered = false;
+    return static_cast<LRESULT>(result);
+}
+
+std::string Eyes::text(HWND window) {
+    std::array<char, 512> buffer{};
+    ask(window, WM_GETTEXT, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
+    return buffer.data();
+}
+
+bool Eyes::isRunning() const { return ::WaitForSingleObject(process, 0) == WAIT_TIMEOUT; }
+
+HWND Eyes::focus() const { return ThreadInfo(form).hwndFocus; }
+HWND Eyes::capture() const { return ThreadInfo(form).hwndCapture; }
+bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) != 0; }
+
+HWND Eyes::box() const {
+    HWND box = nullptr;
+    while ((box = ::FindWindowExA(nullptr, box, "#32770", nullptr)) != nullptr) {
+        DWORD owner = 0;
+        ::GetWindowThreadProcessId(box, &owner);
+        if (owner == ::GetProcessId(process) && ::IsWindowVisible(box)) return box;
+    }
+    return nullptr;
+}
+
+HWND Eyes::nameField(HWND dialog) {
+    constexpr int nameId = 1148;
+    // A box for several lines and a box for one line in it, all of one number.
+    HWND field = ::GetDlgItem(dialog, nameId);
+    while (const HWND inner = ::GetDlgItem(field, nameId)) field = inner;
+    return field;
+}
+
+HWND Eyes::picker(int index) const { return ::FindWindowA(pickerNames.at(index), nullptr); }
+
+Front Eyes::frontWindow() const {
+    const HWND front = ::GetForegroundWindow();
+    if (front == form) return Front::main;
+    for (int index = 0; index < 3; ++index) {
+        if (front && front == picker(index)) return static_cast<Front>(index);
+    }
+    const std::string name = front ? ClassOf(front) : "";
+    return name == OtherProgram::className ? Front::other : Front::none;
+}
+
+POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
+
+POINT Eyes::barStep(int step) const {
+    return OnScreen(control(IDC_lblColorBar), {BarStepLeft(step), barStepHeight / 2});
+}

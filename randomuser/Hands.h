@@ -1,0 +1,46 @@
+// How is each action done by real keys and mouse?
+#pragma once
+
+#include "randomuser/Action.h"
+#include "randomuser/Eyes.h"
+#include "randomuser/Model.h"
+#include "randomuser/OtherProgram.h"
+#include "tests/ui/Huevox.h"
+
+/// Acts on the running program. What depends on its state is taken from the model before the action.
+class Hands {
+public:
+    Hands(const Huevox& huevox, Eyes& eyes, OtherProgram& other) : huevox(huevox), eyes(eyes), other(other) {}
+
+    void play(const Action& action, const Model& before);
+    /// Movements while picking: each may cost a context of the screen.
+    int pickMovements() const { return movements; }
+
+private:
+    void playSliders(const Action& action, const Model& before);
+    void playBoxes(const Action& action);
+    void playPicks(const Action& action, const Model& before);
+    void playCommand(const Action& action);
+    void playWindows(const Action& action, const Model& before);
+    void playOutside(const Action& action, const Model& before);
+
+    void clickOn(int id);
+    void retype(int id, const std::string& text);
+    void dragSlider(int slider, int from, int to) const;
+    void pick(const Action& action, const Model& before);
+    void clickSwatch(const Action& action) const;
+    void closePicker(int index) const;
+    void close(int way) const;
+    void chooseFromMenu(int menu, int item) const;
+    void choosePath(const std::string& path, bool isForNotepad) const;
+    void answer(int button) const;
+    void vainClick(int mark) const;
+    /// Until the keys and clicks so far have arrived: what is posted or sent would overtake them.
+    void waitForInput() const;
+
+    const Huevox& huevox;
+    Eyes& eyes;
+    OtherProgram& other;
+    bool isClickedLeft = false;
+    int movements = 0;
+};

@@ -1,0 +1,159 @@
+#include <optional>
+
+#include "randomuser/Hands.h"
+#include "randomuser/Soon.h"
+#include "resources/resource.h"
+#include "tests/ui/Input.h"
+#include "tests/ui/PickerWindow.h"
+#include "tests/ui/UiTest.h"
+
+namespace {
+
+/// How a command is reached by keys and by the tool bar; a shortcut of 0 is none.
+struct Command {
+    WORD shortcut;
+    bool isWithControl;  // cppcheck-suppress unusedStructMember
+    int button;          // cppcheck-suppress unusedStructMember
+    WORD menu;
+    WORD item;
+};
+
+std::optional<Command> CommandOf(Kind kind) {
+    switch (kind) {
+        case Kind::copyColor: return Command{VK_F2, false, IDM_mnuEditCopyColor, 'E', 'C'};
+        case Kind::pasteColor: return Command{VK_F3, false, IDM_mnuEditPasteColor, 'E', 'P'};
+        case Kind::findNames: return Command{VK_F5, false, IDM_mnuEditFind, 'E', 'F'};
+        case Kind::properties: return Command{VK_F4, false, IDM_mnuHelpColorProperties, 'H', 'C'};
+        case Kind::newPalette: return Command{'N', true, IDM_mnuFileNew, 'F', 'N'};
+        case Kind::openPalette: return Command{'O', true, IDM_mnuFileOpen, 'F', 'O'};
+        case Kind::openInNotepad: return Command{'I', true, IDM_mnuFileOpenInNotepad, 'F', 'I'};
+        case Kind::savePalette: return Command{'S', true, IDM_mnuFileSave, 'F', 'S'};
+        default: return std::nullopt;
+    }
+}
+
+constexpr std::array grids = {websafeGrid, failsafeGrid, javaScriptGrid};
+
+Swatch PlaceOf(int window, int index) {
+    if (window == 0) return {index / 6 % 6 * 6 + index / 36, 5 - index % 6};
+    const int columns = grids.at(window).columns;
+    return {index % columns, index / columns};
+}
+
+}  // namespace
+
+void Hands::playCommand(const Action& action) {
+    if (action.kind == Kind::savePaletteAs) chooseFromMenu('F', 'A');
+    const std::optional command = CommandOf(action.kind);
+    if (!command) return;
+    if (action.which == 1) {
+        Click(huevox.toolButton(command->button));
+    } else if (action.which == 2) {
+        chooseFromMenu(command->menu, command->item);
+    } else if (command->isWithControl) {
+        Press(command->shortcut, {VK_CONTROL});
+    } else {
+        Press(command->shortcut);
+    }
+}
+
+/// The letter of an item counts when its menu is open.
+void Hands::chooseFromMenu(int menu, int item) const {
+    Press(static_cast<WORD>(menu), {VK_MENU});
+    Soon([&] { return eyes.isInMenu(); });
+    Press(static_cast<WORD>(item));
+}
+
+void Hands::playWindows(const Action& action, const Model& before) {
+    switch (action.kind) {
+        case Kind::openPicker: clickOn(grids.at(action.which).button); break;
+        case Kind::swatch:
+        case Kind::rightSwatch: clickSwatch(action); break;
+        case Kind::sortOrder: {
+            const HWND bar = ::GetDlgItem(eyes.picker(2), IDC_tbrSortTools);
+            Click(huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet));
+            break;
+        }
+        case Kind::closePicker:
+            if (before.look().front == Front::main) waitForInput();
+            closePicker(action.which);
+            break;
+        case Kind::comeBack: Click(eyes.emptyPlace()); break;
+        case Kind::close: close(action.which); break;
+        case Kind::answer: answer(action.value); break;
+        case Kind::choosePath:
+            choosePath(action.text, before.look().box.title == "Open Palette In Notepad");
+            break;
+        case Kind::cancelDialog: Press(VK_ESCAPE); break;
+        case Kind::vainClick: vainClick(action.value); break;
+        default: break;
+    }
+}
+
+void Hands::clickSwatch(const Action& action) const {
+    const PickerWindow::Grid& grid = grids.at(action.which);
+    const HWND swatches = ::GetDlgItem(eyes.picker(action.which), grid.swatches);
+    const Swatch swatch = PlaceOf(action.which, action.value);
+    RECT area{};
+    ::GetClientRect(swatches, &area);
+    const POINT place = OnScreen(swatches, {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
+                                            (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
+    action.kind == Kind::swatch ? Click(place) : RightClick(place);
+}
+
+void Hands::closePicker(int index) const {
+    ::PostMessageA(eyes.picker(index), WM_CLOSE, 0, 0);
+    Soon([&] { return eyes.picker(index) == nullptr; });
+    Click(eyes.emptyPlace());
+}
+
+void Hands::close(int way) const {
+    waitForInput();
+    if (way == 0) Press(VK_F4, {VK_MENU});
+    if (way == 1) ::PostMessageA(eyes.main(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    if (way == 2) chooseFromMenu('F', 'E');
+}
+
+void Hands::choosePath(const std::string& path, bool isForNotepad) const {
+    const HWND dialog = eyes.box();
+    const HWND field = Eyes::nameField(dialog);
+    eyes.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    Press(VK_RETURN);
+    if (!isForNotepad) return;
+    HWND notepad = nullptr;
+    Soon([&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; });
+    ::PostMessageA(notepad, WM_CLOSE, 0, 0);
+    Soon([&] { return !::IsWindow(notepad); });
+    Click(eyes.emptyPlace());
+}
+
+void Hands::answer(int button) const {
+    const HWND box = eyes.box();
+    constexpr DWORD usual = 500;
+    // A new box may move under the pointer before it is where the window manager wants it.
+    Soon([&] {
+        if (::IsWindow(box)) Click(::GetDlgItem(box, button));
+        return Soon([&] { return !::IsWindow(box); }, usual);
+    });
+}
+
+void Hands::vainClick(int mark) const {
+    const HWND option = eyes.control(IDC_optColor + mark);
+    const POINT place = CenterOf(option);
+    // Not where the box lies over it.
+    if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) == eyes.main()) Click(place);
+}
+
+void Hands::playOutside(const Action& action, const Model& before) {
+    const Look look = before.look();
+    switch (action.kind) {
+        case Kind::otherInFront:
+            if (look.front == Front::main) waitForInput();
+            other.takeForeground();
+            break;
+        case Kind::otherCopies: CopyElsewhere(action.text); break;
+        case Kind::otherHolds: other.holdClipboard(); break;
+        case Kind::otherLetsGo: other.letGo(); break;
+        default: break;
+    }
+}

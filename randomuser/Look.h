@@ -1,0 +1,46 @@
+// What must there be to see after a step?
+#pragma once
+
+#include <array>
+#include <set>
+#include <string>
+
+#include "randomuser/PaletteText.h"
+
+/// The windows that can be in front: three palette windows, the main window, another program's, or none of
+/// them.
+enum class Front { websafe, failsafe, javaScript, main, other, none };
+
+struct BoxLook {
+    std::string title;
+    std::string text;  ///< "" for a file dialog
+
+    bool isOpen() const { return !title.empty(); }
+    friend bool operator==(const BoxLook&, const BoxLook&) = default;
+};
+
+struct Look {
+    bool isRunning = false;
+    int exitCode = 0;  ///< of a program that has ended
+    Front front = Front::main;
+    BoxLook box = {};
+    std::array<bool, 3> pickers = {};
+    std::string title = {};
+
+    SixMarks marks = {};
+    std::array<bool, 6> highlighted = {};
+    /// The letters follow the colours with the clipboard: they are one of these.
+    std::array<std::set<std::string>, 6> letters = {};
+    int selected = 0;
+
+    std::array<std::string, 3> values = {};
+    bool isSetEnabled = false;
+    bool isModeEnabled = false;
+    bool isDecimal = true;
+
+    int notation = 0;  ///< -1 while names are copied
+    std::string preview = {};
+    bool areNamesCopied = false;
+    bool isPickMode = false;
+    bool isPasteEnabled = false;
+};

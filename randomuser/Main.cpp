@@ -1,0 +1,164 @@
+// A random user on the real program: soak [--seed N] [--steps N] [--minutes N] [--replay FILE]. Ends with 0
+// when the window has agreed with the model at every step.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "randomuser/Chooser.h"
+#include "randomuser/Session.h"
+#include "randomuser/Shorten.h"
+#include "tests/core/NamedColors.h"
+
+namespace {
+
+/// Milliseconds; the shorter while many sequences are tried that all end in a difference.
+constexpr unsigned usualPatience = 5000;
+constexpr unsigned shortPatience = 1500;
+
+struct Options {
+    unsigned seed = 1;
+    int steps = 100'000;
+    double minutes = 25;  ///< at most
+    std::string replay = {};
+};
+
+/// What has become of a sequence: how many steps, and what differs at the last.
+struct Outcome {
+    Actions played = {};
+    int steps = 0;
+    double seconds = 0;
+    std::string difference = {};
+};
+
+ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULONGLONG>(minutes * 60'000); }
+
+double ShareOfTests() {
+    constexpr double usual = 1;
+    const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
+    return minutes ? std::atof(minutes) : usual;
+}
+
+Options Read(int count, char** arguments) {
+    Options options;
+    if (count == 2 && std::string_view(arguments[1]) == "--share-of-tests") options.minutes = ShareOfTests();
+    for (int index = 1; index + 1 < count; index += 2) {
+        const std::string_view name = arguments[index];
+        const char* value = arguments[index + 1];
+        if (name == "--seed") options.seed = static_cast<unsigned>(std::strtoul(value, nullptr, 10));
+        if (name == "--steps") options.steps = std::atoi(value);
+        if (name == "--minutes") options.minutes = std::atof(value);
+        if (name == "--replay") options.replay = value;
+    }
+    return options;
+}
+
+Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& options) {
+    Outcome outcome;
+    Session session(facts, figures, usualPatience);
+    Chooser chooser(options.seed);
+    const ULONGLONG begin = ::GetTickCount64();
+    const ULONGLONG end = EndAfter(options.minutes);
+    while (outcome.steps < options.steps && ::GetTickCount64() < end && outcome.difference.empty()) {
+        const Action action = chooser.next(session.state());
+        if (action.kind == Kind::start) outcome.played.clear();
+        outcome.played.push_back(action);
+        outcome.difference = session.play(action);
+        ++outcome.steps;
+        if (outcome.steps % 1000 == 0) std::printf("%d steps\n", outcome.steps);
+    }
+    outcome.seconds = static_cast<double>(::GetTickCount64() - begin) / 1000;
+    return outcome;
+}
+
+Outcome Play(const Facts& facts, Figures& figures, const Actions& actions, unsigned patience) {
+    Outcome outcome;
+    Session session(facts, figures, patience);
+    outcome.played = Possible(actions, facts);
+    for (const Action& action : outcome.played) {
+        outcome.difference = session.play(action);
+        ++outcome.steps;
+        if (!outcome.difference.empty()) break;
+    }
+    return outcome;
+}
+
+std::string Field(const std::string& difference) { return difference.substr(0, difference.find(':')); }
+
+void Print(const Actions& actions) {
+    for (const Action& action : actions) std::puts(("    " + LineOf(action)).c_str());
+}
+
+void Save(const Actions& actions, const char* path) {
+    std::ofstream file(path);
+    for (const Action& action : actions) file << LineOf(action) << '\n';
+}
+
+void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
+    constexpr double minutesToShorten = 2;
+    std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
+    Figures ignored;
+    const ULONGLONG end = EndAfter(minutesToShorten);
+    const auto fails = [&](const Actions& actions) {
+        return Field(Play(facts, ignored, actions, shortPatience).difference) == Field(outcome.difference);
+    };
+    const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
+    std::optional<Actions> shortest = ShortEnd(outcome.played, fails, mayGoOn);
+    if (shortest) {
+        shortest = Possible(Shortened(*shortest, fails, mayGoOn), facts);
+        std::puts("The shortest sequence found:");
+    } else {
+        std::puts("It did not happen again. The last actions were:");
+        shortest = Actions(outcome.played.end() - std::min<std::ptrdiff_t>(20, std::ssize(outcome.played)),
+                           outcome.played.end());
+    }
+    Print(*shortest);
+    Save(outcome.played, "soak-whole.txt");
+    Save(*shortest, "soak-sequence.txt");
+}
+
+Actions ReadActions(const std::string& path) {
+    Actions actions;
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
+        if (const auto action = ParseLine(line)) actions.push_back(*action);
+    }
+    return actions;
+}
+
+void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
+    const auto& [first, last, steps, movements] = figures.growth;
+    std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
+                outcome.seconds, figures.starts);
+    std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
+                figures.slowestStep, figures.slowestAction.c_str());
+    std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
+    std::printf("    memory %lld KB, then %lld KB\n", first.bytes / 1024, last.bytes / 1024);
+    std::printf("    graphics objects %d, then %d\n", first.gdi, last.gdi);
+    std::printf("    windows %d, then %d\n", first.windows, last.windows);
+    std::printf("    handles %d, then %d\n", first.handles, last.handles);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    const Options options = Read(count, arguments);
+    const Facts facts(ReadJavaScriptColors());
+    Figures figures;
+    const Outcome outcome = options.replay.empty()
+                                ? PlayAtRandom(facts, figures, options)
+                                : Play(facts, figures, ReadActions(options.replay), usualPatience);
+    Summarise(options, outcome, figures);
+    const std::string grown = Grown(figures.growth);
+    if (!grown.empty()) std::puts(grown.c_str());
+    if (!outcome.difference.empty()) {
+        Report(facts, options, outcome);
+    } else if (grown.empty()) {
+        std::puts("No difference.");
+    }
+    return outcome.difference.empty() && grown.empty() ? 0 : 1;
+}

@@ -1,0 +1,160 @@
+#include "randomuser/Session.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "bench/Figures.h"
+#include "randomuser/Soon.h"
+#include "tests/ui/Palettes.h"
+
+namespace {
+
+void MakeFiles() {
+    std::error_code ignored;
+    for (const auto& [path, file] : FilesAtStart()) ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    std::filesystem::remove_all(filesFolder, ignored);
+    std::filesystem::create_directories(secondFolder);
+    for (const auto& [path, file] : FilesAtStart()) {
+        WriteContent(path, file.text);
+        if (file.isReadOnly) ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+}
+
+void StoreSettings(const StoredSettings& settings) {
+    StoreText("CustomFormat", settings.customFormat);
+    StoreText("FormatIndex", std::to_string(settings.formatIndex));
+    StoreText("SortIndex", std::to_string(settings.sortIndex));
+    StoreText("PromptToSave", std::to_string(settings.promptToSave));
+    StoreText("StandardFolder", filesFolder);
+}
+
+}  // namespace
+
+Session::Session(const Facts& facts, Figures& figures, unsigned patience)
+    : figures(figures), patience(patience), model(facts) {}
+
+Session::~Session() = default;
+
+Session::Program::~Program() {
+    huevox.kill();
+    ::CloseHandle(process);
+}
+
+std::string Session::play(const Action& action) {
+    const Model before = model;
+    model.play(action);
+    const double begin = NowInMilliseconds();
+    if (action.kind == Kind::start) {
+        start(action.value);
+    } else {
+        program->hands->play(action, before);
+    }
+    std::string found = action.kind == Kind::settle ? settle() : "";
+    if (found.empty()) found = agree();
+    if (found.empty()) found = filesDifference(before.files());
+    if (found.empty()) found = clipboardDifference(before);
+    if (!model.look().isRunning) {
+        program.reset();
+    } else if (action.kind != Kind::settle) {
+        measure(action, NowInMilliseconds() - begin);
+    }
+    return found;
+}
+
+void Session::start(int variant) {
+    StoreSettings(SettingsOf(variant));
+    MakeFiles();
+    program = std::make_unique<Program>();
+    program->huevox.waitForWindow();
+    const HWND window = program->huevox.window();
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(window, &id);
+    program->process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
+    program->eyes = std::make_unique<Eyes>(window, program->process);
+    program->hands = std::make_unique<Hands>(program->huevox, *program->eyes, other);
+    ++figures.starts;
+}
+
+/// Waits until all that is seen is as the model has it.
+std::string Session::agree() {
+    constexpr DWORD tipTime = 500;
+    const Look expected = model.look();
+    const ULONGLONG begin = ::GetTickCount64();
+    std::string found;
+    Soon(
+        [&] {
+            found = program->eyes->difference(expected);
+            // A tool tip may lie over what is looked at.
+            if (::GetTickCount64() > begin + tipTime) MoveMouse({1, 1});
+            return found.empty() || found.starts_with("hang");
+        },
+        patience);
+    figures.slowestAnswer = std::max(figures.slowestAnswer, program->eyes->slowestAnswer());
+    if (!found.empty() || expected.isRunning) return found;
+    const int exitCode = program->huevox.waitForEnd();
+    if (exitCode == expected.exitCode) return "";
+    return "exit code: expected " + std::to_string(expected.exitCode) + ", seen " + std::to_string(exitCode);
+}
+
+std::string Session::filesDifference(const Files& before) const {
+    for (const auto& [path, file] : model.files()) {
+        const auto found = before.find(path);
+        const bool isAsBefore = found != before.end() && found->second.text == file.text;
+        if (!isAsBefore && ContentOf(path) != file.text) return "file: " + path + " is not as it was saved";
+    }
+    return "";
+}
+
+/// What was copied stays, and while a copy is due its time counts from now.
+std::string Session::clipboardDifference(const Model& before) {
+    const ClipboardFact& clipboard = model.clipboard();
+    const DWORD number = ::GetClipboardSequenceNumber();
+    const bool wasKnown = before.clipboard().state == ClipboardFact::State::known;
+    const bool isKnown = clipboard.state == ClipboardFact::State::known;
+    const bool isKept = wasKnown && isKnown && clipboard.text == before.clipboard().text;
+    if (isKept && !clipboard.isHeld && number != clipboardNumber && ClipboardText() != clipboard.text)
+        return "clipboard: expected " + clipboard.text + ", seen " + ClipboardText();
+    clipboardNumber = number;
+    return "";
+}
+
+/// Until the preview has been copied and the letters have followed.
+std::string Session::settle() {
+    constexpr DWORD longEnough = 1500;
+    const Look expected = model.look();
+    const ULONGLONG begin = ::GetTickCount64();
+    MoveMouse({1, 1});
+    const bool isCopied = Soon([&] {
+        // A copy may have come before its step was over.
+        const bool mayBeOver = ::GetTickCount64() > begin + longEnough;
+        return (mayBeOver || ::GetClipboardSequenceNumber() != clipboardNumber) &&
+               ClipboardText() == expected.preview;
+    });
+    return isCopied ? "" : "clipboard: expected " + expected.preview + ", seen " + ClipboardText();
+}
+
+void Session::measure(const Action& action, double milliseconds) {
+    if (milliseconds > figures.slowestStep) {
+        figures.slowestStep = milliseconds;
+        figures.slowestAction = LineOf(action);
+    }
+    constexpr int warmUp = 500;
+    constexpr int interval = 500;
+    ++program->steps;
+    const Look look = model.look();
+    // Where nothing else is open, so that like is compared with like.
+    const bool isPlain = !look.box.isOpen() && look.pickers == std::array<bool, 3>{};
+    if (!isPlain || program->steps < program->nextMeasure) return;
+    program->nextMeasure = program->steps + interval;
+    if (program->steps < warmUp) return;
+    Growth& growth = program->growth;
+    growth.last = UsageOf(program->process, program->eyes->main());
+    if (growth.steps == 0 && growth.first.bytes == 0) {
+        growth.first = growth.last;
+        program->firstStep = program->steps;
+    }
+    growth.steps = program->steps - program->firstStep;
+    growth.pickMovements = program->hands->pickMovements();
+    if (growth.steps >= figures.growth.steps) figures.growth = growth;
+}

@@ -1,0 +1,67 @@
+// Do the program and the model agree after each step?
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "randomuser/Eyes.h"
+#include "randomuser/Hands.h"
+#include "randomuser/Model.h"
+#include "randomuser/OtherProgram.h"
+#include "randomuser/Usage.h"
+#include "tests/ui/Huevox.h"
+
+/// What all sessions of a run have come to.
+struct Figures {
+    int starts = 0;
+    double slowestAnswer = 0;  ///< milliseconds
+    double slowestStep = 0;    ///< from the input until the window shows what it must
+    std::string slowestAction = {};
+    Growth growth = {};
+};
+
+/// One program at a time beside one model.
+class Session {
+public:
+    /// patience: how many milliseconds the window may take to show what it must.
+    Session(const Facts& facts, Figures& figures, unsigned patience);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+    ~Session();
+
+    const Model& state() const { return model; }
+    /// Plays an action that is possible. What differs then, or "".
+    std::string play(const Action& action);
+
+private:
+    /// A running program and who looks at it and acts on it.
+    struct Program {
+        Program() : huevox(Huevox::DoNotWait{}) {}
+        Program(const Program&) = delete;
+        Program& operator=(const Program&) = delete;
+        ~Program();
+
+        Huevox huevox;
+        HANDLE process = nullptr;
+        std::unique_ptr<Eyes> eyes = {};
+        std::unique_ptr<Hands> hands = {};
+        int steps = 0;
+        int firstStep = 0;  ///< the step of the first figures
+        int nextMeasure = 0;
+        Growth growth = {};
+    };
+
+    void start(int variant);
+    std::string agree();
+    std::string filesDifference(const Files& before) const;
+    std::string clipboardDifference(const Model& before);
+    std::string settle();
+    void measure(const Action& action, double milliseconds);
+
+    Figures& figures;
+    unsigned patience;
+    Model model;
+    OtherProgram other;
+    std::unique_ptr<Program> program;
+    DWORD clipboardNumber = 0;  ///< at the end of the last step
+};

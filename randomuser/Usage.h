@@ -1,0 +1,26 @@
+// How much of the platform does the program hold?
+#pragma once
+
+#include <string>
+
+#include "toolkit/Platform.h"
+
+struct Usage {
+    long long bytes = 0;  ///< of memory of its own
+    int gdi = 0;
+    int windows = 0;
+    int handles = 0;
+};
+
+Usage UsageOf(HANDLE process, HWND window);
+
+/// The first and the last figures of one program.
+struct Growth {
+    Usage first = {};
+    Usage last = {};
+    int steps = 0;          ///< between the two
+    int pickMovements = 0;  ///< each may cost a context of the screen, up to 1,000
+};
+
+/// What has grown by more than it may, or "".
+std::string Grown(const Growth& growth);
