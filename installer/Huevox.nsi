@@ -65,9 +65,7 @@ Section
     !insertmacro RefuseWhileRunning install
     SetOutPath "$INSTDIR"
     File "${FILES}\Huevox.exe"
-    !if /FileExists "${FILES}/huevox.chm"
-        File "${FILES}\huevox.chm"
-    !endif
+    File "${FILES}\huevox.chm"
     File "${FILES}\LICENSE.txt"
     File "${FILES}\README.txt"
     File "${FILES}\THIRD-PARTY.txt"
