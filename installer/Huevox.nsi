@@ -93,7 +93,14 @@ Section "un.Huevox"
     Delete "$INSTDIR\LICENSE.txt"
     Delete "$INSTDIR\README.txt"
     Delete "$INSTDIR\THIRD-PARTY.txt"
-    Delete "$INSTDIR\uninstall.exe"
+    ; The process that has started this one may take a moment to end.
+    ${For} $0 1 50
+        Delete "$INSTDIR\uninstall.exe"
+        ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+            ${Break}
+        ${EndIf}
+        Sleep 100
+    ${Next}
     RMDir "$INSTDIR"
     Delete "${SHORTCUT}"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
