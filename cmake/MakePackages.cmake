@@ -10,7 +10,6 @@ endif()
 set(folder ${CPACK_TEMPORARY_DIRECTORY})
 file(GLOB files RELATIVE ${folder} ${folder}/*)
 list(SORT files)
-execute_process(COMMAND touch --date=@${epoch} ${files} WORKING_DIRECTORY ${folder} COMMAND_ERROR_IS_FATAL ANY)
 
 set(name ${CPACK_PACKAGE_DIRECTORY}/Huevox-${CPACK_PACKAGE_VERSION})
 set(zip ${name}-windows-x64.zip)
@@ -25,7 +24,9 @@ execute_process(
     COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND convert ${picture}.png -alpha off BMP3:${picture}.bmp COMMAND_ERROR_IS_FATAL ANY)
 
-# A zip holds the time of day, of whichever place.
+# Both hold the dates of their files; a zip as the time of day, of whichever place.
+execute_process(
+    COMMAND touch --date=@${epoch} ${files} ${picture}.bmp WORKING_DIRECTORY ${folder} COMMAND_ERROR_IS_FATAL ANY)
 set(ENV{TZ} UTC)
 execute_process(COMMAND zip -q -X -9 ${zip} ${files} WORKING_DIRECTORY ${folder} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(

@@ -6,8 +6,8 @@ configure_file(installer/THIRD-PARTY.txt ${PROJECT_BINARY_DIR}/installer/THIRD-P
 # Packages hold the product, not the tests: they need not be built for them.
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 install(TARGETS Huevox RUNTIME DESTINATION .)
-install(FILES ${PROJECT_BINARY_DIR}/huevox.chm DESTINATION . OPTIONAL)
 install(FILES
+    ${help_file}
     ${PROJECT_BINARY_DIR}/installer/LICENSE.txt
     ${PROJECT_BINARY_DIR}/installer/README.txt
     ${PROJECT_BINARY_DIR}/installer/THIRD-PARTY.txt

@@ -65,9 +65,7 @@ Section
     !insertmacro RefuseWhileRunning install
     SetOutPath "$INSTDIR"
     File "${FILES}\Huevox.exe"
-    !if /FileExists "${FILES}/huevox.chm"
-        File "${FILES}\huevox.chm"
-    !endif
+    File "${FILES}\huevox.chm"
     File "${FILES}\LICENSE.txt"
     File "${FILES}\README.txt"
     File "${FILES}\THIRD-PARTY.txt"
@@ -95,7 +93,14 @@ Section "un.Huevox"
     Delete "$INSTDIR\LICENSE.txt"
     Delete "$INSTDIR\README.txt"
     Delete "$INSTDIR\THIRD-PARTY.txt"
-    Delete "$INSTDIR\uninstall.exe"
+    ; The process that has started this one may take a moment to end.
+    ${For} $0 1 50
+        Delete "$INSTDIR\uninstall.exe"
+        ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+            ${Break}
+        ${EndIf}
+        Sleep 100
+    ${Next}
     RMDir "$INSTDIR"
     Delete "${SHORTCUT}"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
