@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr int ok = 1;
 constexpr int cancel = 2;
 constexpr int yes = 6;
 
