@@ -43,6 +43,22 @@ void SendMouse(POINT screen, DWORD button = 0) {
     ::SendInput(1, &input, sizeof input);
 }
 
+/// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
+/// report between press and release takes it off what was pressed.
+void RestPointer(POINT screen) {
+    constexpr int mostLooks = 500;
+    constexpr int enough = 3;
+    int steady = 0;
+    for (int look = 0; look < mostLooks && steady < enough; ++look) {
+        POINT pointer{};
+        ::GetCursorPos(&pointer);
+        const bool isThere = pointer.x == screen.x && pointer.y == screen.y;
+        steady = isThere ? steady + 1 : 0;
+        if (!isThere) SendMouse(screen);
+        ::Sleep(1);
+    }
+}
+
 }  // namespace
 
 void KeyDown(WORD key) { SendKey(key, 0); }
@@ -86,11 +102,13 @@ void PressRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTDOWN); 
 void ReleaseRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTUP); }
 
 void RightClick(POINT screen) {
+    RestPointer(screen);
     PressRightButton(screen);
     ReleaseRightButton(screen);
 }
 
 void Click(POINT screen) {
+    RestPointer(screen);
     PressButton(screen);
     ReleaseButton(screen);
 }
