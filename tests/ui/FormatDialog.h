@@ -61,6 +61,7 @@ private:
     void waitUntilReady() const {
         EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); }));
         EXPECT_BECOMES(focus(), IDC_txtFormat);
+        WaitUntilAtRest(window());
     }
 
     const Huevox& huevox;

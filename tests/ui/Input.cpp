@@ -1,5 +1,7 @@
 #include "tests/ui/Input.h"
 
+#include "tests/ui/Wait.h"
+
 namespace {
 
 bool IsExtended(WORD key) {
@@ -92,6 +94,17 @@ POINT CenterOf(HWND window) {
     RECT area{};
     ::GetWindowRect(window, &area);
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+void WaitUntilAtRest(HWND window) {
+    const auto corner = [window] { return OnScreen(window, {0, 0}); };
+    EXPECT_TRUE(Eventually([&] {
+        const POINT before = corner();
+        return Throughout(200, [&] {
+            const POINT now = corner();
+            return now.x == before.x && now.y == before.y;
+        });
+    }));
 }
 
 void MoveMouse(POINT screen) { SendMouse(screen); }

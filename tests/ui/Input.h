@@ -17,6 +17,9 @@ void Type(std::string_view text);
 POINT OnScreen(HWND window, POINT point);
 POINT CenterOf(HWND window);
 
+/// Waits until a window stays where it is: a slow window manager may move a new one once more.
+void WaitUntilAtRest(HWND window);
+
 void MoveMouse(POINT screen);
 void PressButton(POINT screen);
 void ReleaseButton(POINT screen);

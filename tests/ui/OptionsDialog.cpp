@@ -16,14 +16,7 @@ void OptionsDialog::waitUntilUsable() const {
         return window() && ::GetForegroundWindow() == window() && focused() == IDC_lstStandardFormat &&
                format() >= 0;
     }));
-    // A slow window manager may move a new window once more.
-    EXPECT_TRUE(Eventually([&] {
-        const POINT corner = OnScreen(window(), {0, 0});
-        return Throughout(200, [&] {
-            const POINT now = OnScreen(window(), {0, 0});
-            return now.x == corner.x && now.y == corner.y;
-        });
-    }));
+    WaitUntilAtRest(window());
 }
 
 int OptionsDialog::format() const {
