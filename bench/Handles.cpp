@@ -1,0 +1,88 @@
+// Does the program give back what its windows have taken?
+#include <array>
+#include <cstdlib>
+
+#include "bench/Benches.h"
+#include "bench/Held.h"
+#include "bench/RunningProgram.h"
+#include "resources/resource.h"
+
+namespace {
+
+struct Opened {
+    const char* name;
+    int id;
+};
+constexpr std::array<Opened, 3> paletteWindows = {
+    {{"frmWebsafe", IDC_cmdWebsafe}, {"frmFailsafe", IDC_cmdFailsafe}, {"frmJavaScript", IDC_cmdJavaScript}}};
+constexpr std::array<Opened, 3> dialogs = {{{"frmOptions", IDM_mnuToolsOptions},
+                                            {"frmCustomFormat", IDM_mnuToolsCustomFormat},
+                                            {"frmAbout", IDM_mnuHelpAboutHuevox}}};
+
+void OpenAndClosePaletteWindow(HWND form, int number) {
+    const auto& [name, button] = paletteWindows[number % paletteWindows.size()];
+    ::SendMessageA(::GetDlgItem(form, button), BM_CLICK, 0, 0);
+    PumpAll();
+    const HWND window = ::FindWindowA(name, nullptr);
+    if (!window) std::abort();
+    BringTips(window);
+    ::SendMessageA(window, WM_CLOSE, 0, 0);
+    PumpAll();
+}
+
+struct Closing {
+    const char* name;
+    bool wasOpen;
+};
+
+/// Closes the dialog as soon as it is open.
+void CALLBACK CloseDialog(HWND /*form*/, UINT /*message*/, UINT_PTR parameter, DWORD /*time*/) {
+    auto& closing = *reinterpret_cast<Closing*>(parameter);
+    const HWND dialog = ::FindWindowA(closing.name, nullptr);
+    if (!dialog || !::IsWindowVisible(dialog)) return;
+    closing.wasOpen = true;
+    ::PostMessageA(dialog, WM_CLOSE, 0, 0);
+}
+
+void OpenAndCloseDialog(HWND form, int number) {
+    const auto& [name, command] = dialogs[number % dialogs.size()];
+    Closing closing = {name, false};
+    const auto timer = reinterpret_cast<UINT_PTR>(&closing);
+    ::SetTimer(form, timer, USER_TIMER_MINIMUM, CloseDialog);
+    ::SendMessageA(form, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    ::KillTimer(form, timer);
+    PumpAll();
+    if (!closing.wasOpen || ::FindWindowA(name, nullptr)) std::abort();
+}
+
+BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+int Windows() {
+    int count = 0;
+    ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+/// What is left of many openings, after each window has been open a few times.
+void TellLosses(const std::string& name, void (*openAndClose)(HWND, int), HWND form, int count) {
+    for (int i = 0; i < 10; ++i) openAndClose(form, i);
+    const int objects = FreeGraphicsObjects();
+    const int windows = Windows();
+    const double memory = PrivateKilobytes();
+    for (int i = 0; i < count; ++i) openAndClose(form, i);
+    Tell(name + ".count", count);
+    Tell(name + ".kb", PrivateKilobytes() - memory);
+    Tell(name + ".windows", Windows() - windows);
+    Tell(name + ".gdi", objects - FreeGraphicsObjects());
+}
+
+}  // namespace
+
+void BenchHandles(const Effort& effort) {
+    const RunningProgram running;
+    TellLosses("handles.pickers", OpenAndClosePaletteWindow, running.form(), effort.of(1000));
+    TellLosses("handles.dialogs", OpenAndCloseDialog, running.form(), effort.of(200));
+}
