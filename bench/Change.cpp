@@ -68,7 +68,7 @@ void MeasureBatch(void (*change)(HWND, int), HWND window, int batch, Costs& cost
     PumpAll();
 }
 
-/// Takes turns, so that both meet the same noise. As many changes through the program as asked for.
+/// So many changes through the program, in turn with as many told directly, so that both meet the same noise.
 Compared Measure(HWND window, int changes, int batch) {
     Compared costs;
     for (int done = 0; done < changes; done += batch) {
@@ -97,12 +97,11 @@ void TellCosts(const std::string& name, const Costs& costs) {
     Tell(name + ".processor", Median(costs.processor));
 }
 
-/// The changes up to a number of them, the last of which are measured.
+/// What changes cost when there have been so many, and what the process has claimed by then.
 void TellUpTo(const std::string& name, int changes, const Compared& costs) {
     Tell(name + ".changes", changes);
     Tell(name + ".ms", Median(costs.program.wall));
     Tell(name + ".platform.ms", Median(costs.platform.wall));
-    Tell(name + ".own.ms", Median(costs.own.wall));
     Tell(name + ".kb", PrivateKilobytes());
 }
 

@@ -20,10 +20,10 @@ constexpr std::array<Opened, 3> dialogs = {{{"frmOptions", IDM_mnuToolsOptions},
                                             {"frmAbout", IDM_mnuHelpAboutHuevox}}};
 
 void OpenAndClosePaletteWindow(HWND form, int number) {
-    const auto& [name, button] = paletteWindows[number % paletteWindows.size()];
-    ::SendMessageA(::GetDlgItem(form, button), BM_CLICK, 0, 0);
+    const Opened& palette = paletteWindows[number % paletteWindows.size()];
+    ::SendMessageA(::GetDlgItem(form, palette.id), BM_CLICK, 0, 0);
     PumpAll();
-    const HWND window = ::FindWindowA(name, nullptr);
+    const HWND window = ::FindWindowA(palette.name, nullptr);
     if (!window) std::abort();
     BringTips(window);
     ::SendMessageA(window, WM_CLOSE, 0, 0);
@@ -45,14 +45,14 @@ void CALLBACK CloseDialog(HWND /*form*/, UINT /*message*/, UINT_PTR parameter, D
 }
 
 void OpenAndCloseDialog(HWND form, int number) {
-    const auto& [name, command] = dialogs[number % dialogs.size()];
-    Closing closing = {name, false};
+    const Opened& dialog = dialogs[number % dialogs.size()];
+    Closing closing = {dialog.name, false};
     const auto timer = reinterpret_cast<UINT_PTR>(&closing);
     ::SetTimer(form, timer, USER_TIMER_MINIMUM, CloseDialog);
-    ::SendMessageA(form, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    ::SendMessageA(form, WM_COMMAND, static_cast<WPARAM>(dialog.id), 0);
     ::KillTimer(form, timer);
     PumpAll();
-    if (!closing.wasOpen || ::FindWindowA(name, nullptr)) std::abort();
+    if (!closing.wasOpen || ::FindWindowA(dialog.name, nullptr)) std::abort();
 }
 
 BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {

@@ -88,8 +88,9 @@ class Report:
 
 
 def complete_figures(figures):
-    """Memory is measured by the shell, which knows no fractions."""
-    return figures | {"idle.huevox.ratio": figures["idle.huevox.kb"] / figures["idle.bare.kb"]}
+    """With what follows from the measured memory."""
+    own, stock, bare = (figures[f"idle.{program}.kb"] for program in ("huevox", "stock", "bare"))
+    return figures | {"idle.huevox.ratio": own / bare, "idle.own.kb": own - stock}
 
 
 def main(goals, template, figures):
