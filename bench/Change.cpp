@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Held.h"
 #include "bench/RunningProgram.h"
 #include "resources/resource.h"
 
@@ -97,12 +96,14 @@ void TellCosts(const std::string& name, const Costs& costs) {
     Tell(name + ".processor", Median(costs.processor));
 }
 
-/// What changes cost when there have been so many, and what the process has claimed by then.
-void TellUpTo(const std::string& name, int changes, const Compared& costs) {
+/// What changes cost when there have been so many, and what the process has taken by then.
+void TellUpTo(const std::string& name, int changes, const Compared& costs, const Usage& usage) {
     Tell(name + ".changes", changes);
     Tell(name + ".ms", Median(costs.program.wall));
     Tell(name + ".platform.ms", Median(costs.platform.wall));
-    Tell(name + ".kb", PrivateKilobytes());
+    Tell(name + ".kb", Kilobytes(usage));
+    Tell(name + ".gdi", usage.gdi);
+    Tell(name + ".other", usage.handles);
 }
 
 void Append(Costs& all, const Costs& more) {
@@ -118,13 +119,13 @@ void BenchChange(const Effort& effort) {
     const RunningProgram running;
     const HWND window = running.form();
     Measure(window, batch, batch);
-    const int objects = FreeGraphicsObjects();
+    const int objects = running.usage().gdi;
 
     Compared all;
     for (int thousand = 1; thousand <= 10; ++thousand) {
         const Compared costs = Measure(window, measured, batch);
-        if (thousand == 1) TellUpTo("growth.first", measured, costs);
-        if (thousand == 10) TellUpTo("growth.tenth", 10 * measured, costs);
+        if (thousand == 1) TellUpTo("growth.first", measured, costs, running.usage());
+        if (thousand == 10) TellUpTo("growth.tenth", 10 * measured, costs, running.usage());
         Append(all.program, costs.program);
         Append(all.platform, costs.platform);
         Append(all.own, costs.own);
@@ -134,9 +135,9 @@ void BenchChange(const Effort& effort) {
     TellCosts("change.program", all.program);
     TellCosts("change.platform", all.platform);
     TellCosts("change.own", all.own);
-    Tell("change.gdi", objects - FreeGraphicsObjects());
+    Tell("change.gdi", running.usage().gdi - objects);
 
     ChangeUnseen(window, 89 * measured);
-    TellUpTo("growth.hundredth", 100 * measured, Measure(window, measured, batch));
-    Tell("growth.gdi", objects - FreeGraphicsObjects());
+    const Compared last = Measure(window, measured, batch);
+    TellUpTo("growth.hundredth", 100 * measured, last, running.usage());
 }

@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "bench/Benches.h"
-#include "bench/Held.h"
 #include "bench/RunningProgram.h"
 #include "resources/resource.h"
 
@@ -55,34 +54,24 @@ void OpenAndCloseDialog(HWND form, int number) {
     if (!closing.wasOpen || ::FindWindowA(dialog.name, nullptr)) std::abort();
 }
 
-BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count) {
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-int Windows() {
-    int count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 /// What is left of many openings, after each window has been open a few times.
-void TellLosses(const std::string& name, void (*openAndClose)(HWND, int), HWND form, int count) {
-    for (int i = 0; i < 10; ++i) openAndClose(form, i);
-    const int objects = FreeGraphicsObjects();
-    const int windows = Windows();
-    const double memory = PrivateKilobytes();
-    for (int i = 0; i < count; ++i) openAndClose(form, i);
+void TellLosses(const std::string& name, void (*openAndClose)(HWND, int), const RunningProgram& running,
+                int count) {
+    for (int i = 0; i < 10; ++i) openAndClose(running.form(), i);
+    const Usage before = running.usage();
+    for (int i = 0; i < count; ++i) openAndClose(running.form(), i);
+    const Usage after = running.usage();
     Tell(name + ".count", count);
-    Tell(name + ".kb", PrivateKilobytes() - memory);
-    Tell(name + ".windows", Windows() - windows);
-    Tell(name + ".gdi", objects - FreeGraphicsObjects());
+    Tell(name + ".gdi", after.gdi - before.gdi);
+    Tell(name + ".windows", after.windows - before.windows);
+    Tell(name + ".other", after.handles - before.handles);
+    Tell(name + ".kb", Kilobytes(after) - Kilobytes(before));
 }
 
 }  // namespace
 
 void BenchHandles(const Effort& effort) {
     const RunningProgram running;
-    TellLosses("handles.pickers", OpenAndClosePaletteWindow, running.form(), effort.of(1000));
-    TellLosses("handles.dialogs", OpenAndCloseDialog, running.form(), effort.of(200));
+    TellLosses("handles.pickers", OpenAndClosePaletteWindow, running, effort.of(1000));
+    TellLosses("handles.dialogs", OpenAndCloseDialog, running, effort.of(200));
 }

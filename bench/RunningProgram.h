@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mainwindow/frmMain.h"
+#include "randomuser/Usage.h"
 #include "support/AppState.h"
 #include "support/FatalError.h"
 #include "toolkit/Platform.h"
@@ -18,6 +19,8 @@ inline void BringTips(HWND window) {
     ::SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
                    MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
 }
+
+inline double Kilobytes(const Usage& usage) { return static_cast<double>(usage.bytes) / 1024; }
 
 /// The main window as the user has it, shown and idle. It closes without a question, whatever was changed.
 class RunningProgram {
@@ -38,6 +41,7 @@ public:
     }
 
     HWND form() const { return window.handle(); }
+    Usage usage() const { return UsageOf(::GetCurrentProcess(), form()); }
 
 private:
     AppState state;
