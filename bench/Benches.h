@@ -1,8 +1,12 @@
-// Which benchmarks are there? Each prints a table.
+// Which benchmarks are there? Each tells its figures.
 #pragma once
 
-void BenchStart();
-void BenchChange();
-void BenchOpen();
-void BenchOpenPicker();
-void BenchPick();
+#include "bench/Figures.h"
+
+void BenchStart(const Effort& effort);
+void BenchChange(const Effort& effort);
+void BenchHandles(const Effort& effort);
+void BenchOpen(const Effort& effort);
+void BenchOpenPicker(const Effort& effort);
+void BenchPick(const Effort& effort);
+void BenchSave(const Effort& effort);

@@ -1,17 +1,10 @@
 // What does one change of colour cost, from the slider's event until everything is painted?
-#include <array>
-#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Figures.h"
-#include "bench/Pump.h"
-#include "mainwindow/frmMain.h"
+#include "bench/RunningProgram.h"
 #include "resources/resource.h"
-#include "support/AppState.h"
-#include "support/FatalError.h"
-#include "toolkit/Pump.h"
 
 namespace {
 
@@ -49,68 +42,102 @@ double ProcessorTime() {
     return milliseconds(kernel) + milliseconds(user);
 }
 
-struct Cost {
+/// Medians of a batch each.
+struct Costs {
     std::vector<double> wall;
-    double processor = 0;
+    std::vector<double> processor;
 };
 
-Cost Measure(void (*change)(HWND, int), HWND window, int first) {
-    constexpr int batch = 250;
-    Cost cost;
+struct Compared {
+    Costs program;
+    Costs platform;
+    Costs own;  ///< what the program takes on top of the platform
+};
+
+void MeasureBatch(void (*change)(HWND, int), HWND window, int batch, Costs& costs) {
+    std::vector<double> wall;
     const double before = ProcessorTime();
     for (int i = 0; i < batch; ++i) {
         const double start = NowInMilliseconds();
-        change(window, (first + i) % 256);
-        cost.wall.push_back(NowInMilliseconds() - start);
+        change(window, i % 256);
+        wall.push_back(NowInMilliseconds() - start);
     }
-    cost.processor = (ProcessorTime() - before) / batch;
+    costs.processor.push_back((ProcessorTime() - before) / batch);
+    costs.wall.push_back(Median(wall));
     PumpAll();
-    return cost;
 }
 
-int FreeHandles() {
-    std::vector<HBRUSH> brushes;
-    while (HBRUSH brush = ::CreateSolidBrush(0)) brushes.push_back(brush);
-    for (const HBRUSH brush : brushes) ::DeleteObject(brush);
-    return static_cast<int>(brushes.size());
+/// So many changes through the program, in turn with as many told directly, so that both meet the same noise.
+Compared Measure(HWND window, int changes, int batch) {
+    Compared costs;
+    for (int done = 0; done < changes; done += batch) {
+        MeasureBatch(ChangeThroughProgram, window, batch, costs.program);
+        MeasureBatch(ChangeThroughPlatform, window, batch, costs.platform);
+        costs.own.wall.push_back(costs.program.wall.back() - costs.platform.wall.back());
+        costs.own.processor.push_back(costs.program.processor.back() - costs.platform.processor.back());
+    }
+    return costs;
 }
 
-void PrintRow(const char* what, const std::vector<double>& wall, const std::vector<double>& processor) {
-    std::printf("| %s | %.2f | %.2f |\n", what, Median(wall), Median(processor));
+/// Changes whose painting the platform leaves out, because the window is hidden.
+void ChangeUnseen(HWND window, int changes) {
+    ::ShowWindow(window, SW_HIDE);
+    for (int i = 0; i < changes; ++i) {
+        ChangeThroughProgram(window, i % 256);
+        if (i % 256 == 0) PumpAll();
+    }
+    ::ShowWindow(window, SW_SHOWNORMAL);
+    PaintAll(window);
+    PumpAll();
+}
+
+void TellCosts(const std::string& name, const Costs& costs) {
+    Tell(name + ".ms", Median(costs.wall));
+    Tell(name + ".processor", Median(costs.processor));
+}
+
+/// What changes cost when there have been so many, and what the process has taken by then.
+void TellUpTo(const std::string& name, int changes, const Compared& costs, const Usage& usage) {
+    Tell(name + ".changes", changes);
+    Tell(name + ".ms", Median(costs.program.wall));
+    Tell(name + ".platform.ms", Median(costs.platform.wall));
+    Tell(name + ".kb", Kilobytes(usage));
+    Tell(name + ".gdi", usage.gdi);
+    Tell(name + ".other", usage.handles);
+}
+
+void Append(Costs& all, const Costs& more) {
+    all.wall.insert(all.wall.end(), more.wall.begin(), more.wall.end());
+    all.processor.insert(all.processor.end(), more.processor.begin(), more.processor.end());
 }
 
 }  // namespace
 
-void BenchChange() {
-    constexpr int rounds = 40;  // of a batch each: 10,000 changes
-    PrepareControls();
-    errorTrap = HandleFatalError;
-    AppState state;
-    frmMain window(state);
-    window.load();
-    window.show(SW_SHOWNORMAL);
-    window.activate();
-    PumpAll();
-    Measure(ChangeThroughProgram, window.handle(), 0);
-    const int handles = FreeHandles();
+void BenchChange(const Effort& effort) {
+    const int batch = effort.of(250);
+    const int measured = effort.of(1000);
+    const RunningProgram running;
+    const HWND window = running.form();
+    Measure(window, batch, batch);
+    const int objects = running.usage().gdi;
 
-    std::array<std::vector<double>, 3> wall;
-    std::array<std::vector<double>, 3> processor;
-    for (int round = 0; round < rounds; ++round) {
-        const Cost program = Measure(ChangeThroughProgram, window.handle(), round);
-        const Cost platform = Measure(ChangeThroughPlatform, window.handle(), round);
-        wall[0].push_back(Median(program.wall));
-        wall[1].push_back(Median(platform.wall));
-        wall[2].push_back(wall[0].back() - wall[1].back());
-        processor[0].push_back(program.processor);
-        processor[1].push_back(platform.processor);
-        processor[2].push_back(program.processor - platform.processor);
+    Compared all;
+    for (int thousand = 1; thousand <= 10; ++thousand) {
+        const Compared costs = Measure(window, measured, batch);
+        if (thousand == 1) TellUpTo("growth.first", measured, costs, running.usage());
+        if (thousand == 10) TellUpTo("growth.tenth", 10 * measured, costs, running.usage());
+        Append(all.program, costs.program);
+        Append(all.platform, costs.platform);
+        Append(all.own, costs.own);
     }
-    std::puts("| one change of colour, until everything is painted | median ms | median processor ms |");
-    std::puts("|---|---|---|");
-    PrintRow("through the program", wall[0], processor[0]);
-    PrintRow("the same five controls told directly", wall[1], processor[1]);
-    PrintRow("the program's own part", wall[2], processor[2]);
-    std::printf("\nGDI handles lost in %d changes: %d\n\n", rounds * 250, handles - FreeHandles());
-    CloseUnasked(window, state);
+    Tell("change.count", 10 * measured);
+    Tell("change.measured", measured);
+    TellCosts("change.program", all.program);
+    TellCosts("change.platform", all.platform);
+    TellCosts("change.own", all.own);
+    Tell("change.gdi", running.usage().gdi - objects);
+
+    ChangeUnseen(window, 89 * measured);
+    const Compared last = Measure(window, measured, batch);
+    TellUpTo("growth.hundredth", 100 * measured, last, running.usage());
 }

@@ -1,12 +1,9 @@
 // How long does opening a large palette file take beside reading it?
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Figures.h"
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 #include "palette/TextFile.h"
@@ -15,7 +12,7 @@
 namespace {
 
 constexpr const char* path = "large palette.txt";
-constexpr std::size_t megabyte = 1'000'000;
+constexpr std::size_t kilobyte = 1000;
 
 std::string PaletteOfSize(std::size_t size, std::string_view filler) {
     std::string text = WritePaletteFile(Palette(), "");
@@ -45,9 +42,9 @@ double Milliseconds(void (*work)()) {
     return NowInMilliseconds() - before;
 }
 
-void PrintRow(const char* what, std::size_t megabytes, std::string_view filler) {
-    constexpr int rounds = 15;
-    ReplaceText(path, PaletteOfSize(megabytes * megabyte, filler));
+/// Tells the cost of one kind of file, and returns the milliseconds that opening it takes.
+double TellFile(const std::string& kind, std::size_t kilobytes, std::string_view filler, int rounds) {
+    ReplaceText(path, PaletteOfSize(kilobytes * kilobyte, filler));
     std::vector<double> plain;
     std::vector<double> opened;
     std::vector<double> ratios;
@@ -56,20 +53,30 @@ void PrintRow(const char* what, std::size_t megabytes, std::string_view filler) 
         opened.push_back(Milliseconds(OpenAsPalette));
         ratios.push_back(plain.back() / opened.back());
     }
-    const auto size = static_cast<double>(megabytes);
-    std::printf("| %zu MB %s | %.0f | %.0f | %.2f |\n", megabytes, what, 1000 * size / Median(plain),
-                1000 * size / Median(opened), Median(ratios));
     ::DeleteFileA(path);
+    const std::string name = "open." + kind + "." + std::to_string(kilobytes) + ".";
+    const auto size = static_cast<double>(kilobytes);
+    Tell(name + "plain.rate", size / Median(plain));  // kilobytes a millisecond are megabytes a second
+    Tell(name + "rate", size / Median(opened));
+    Tell(name + "ms", Median(opened));
+    Tell(name + "ratio", Median(ratios));
+    return Median(opened);
+}
+
+void TellGrowth(const std::string& kind, std::string_view filler, int rounds) {
+    double smallest = 0;
+    for (const std::size_t kilobytes : {500, 5000, 50'000}) {
+        const double time = TellFile(kind, kilobytes, filler, rounds);
+        if (smallest == 0) smallest = time;
+        Tell("open." + kind + "." + std::to_string(kilobytes) + ".growth", time / smallest);
+    }
 }
 
 }  // namespace
 
-void BenchOpen() {
-    std::puts("| a palette file of | read plainly, MB/s | opened, MB/s | median ratio |");
-    std::puts("|---|---|---|---|");
-    for (const std::size_t megabytes : {5, 50}) {
-        PrintRow("in lines", megabytes, "a line that no reader looks at\r\n");
-        PrintRow("in one line", megabytes, "a line that no reader looks at ");
-    }
-    std::puts("");
+void BenchOpen(const Effort& effort) {
+    const int rounds = std::max(5, effort.of(15));
+    Tell("open.rounds", rounds);
+    TellGrowth("lines", "a line that no reader looks at\r\n", rounds);
+    TellGrowth("oneline", "a line that no reader looks at ", rounds);
 }

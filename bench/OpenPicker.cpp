@@ -1,16 +1,12 @@
 // How long does a palette window take to open beside an empty window of its size?
 #include <array>
-#include <cstdio>
+#include <string>
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Figures.h"
-#include "bench/Pump.h"
-#include "mainwindow/frmMain.h"
+#include "bench/RunningProgram.h"
 #include "resources/resource.h"
-#include "support/AppState.h"
-#include "support/FatalError.h"
-#include "toolkit/Pump.h"
+#include "tests/toolkit/WindowText.h"
 
 namespace {
 
@@ -18,10 +14,24 @@ constexpr const char* emptyClass = "EmptyWindow";
 
 struct Picker {
     const char* name;
+    const char* window;
     int button;
 };
-constexpr std::array<Picker, 3> pickers = {
-    {{"frmWebsafe", IDC_cmdWebsafe}, {"frmFailsafe", IDC_cmdFailsafe}, {"frmJavaScript", IDC_cmdJavaScript}}};
+constexpr std::array<Picker, 3> pickers = {{{"picker.websafe.", "frmWebsafe", IDC_cmdWebsafe},
+                                            {"picker.failsafe.", "frmFailsafe", IDC_cmdFailsafe},
+                                            {"picker.javascript.", "frmJavaScript", IDC_cmdJavaScript}}};
+
+struct Child {
+    std::string className;
+    RECT place;
+};
+
+/// What is to be seen of a window from outside.
+struct Shape {
+    RECT place{};
+    std::vector<Child> children;
+    int windows = 0;  ///< with tool tip and all that stands in it
+};
 
 void RegisterEmptyClass() {
     WNDCLASSA empty{};
@@ -32,27 +42,58 @@ void RegisterEmptyClass() {
     ::RegisterClassA(&empty);
 }
 
-double TimeOfPicker(HWND form, const Picker& picker, RECT& place) {
+BOOL CALLBACK AddChild(HWND child, LPARAM parameter) {
+    RECT place{};
+    ::GetWindowRect(child, &place);
+    ::MapWindowPoints(nullptr, ::GetParent(child), reinterpret_cast<POINT*>(&place), 2);
+    reinterpret_cast<std::vector<Child>*>(parameter)->push_back({ClassOf(child), place});
+    return TRUE;
+}
+
+Shape ShapeOf(HWND window) {
+    Shape shape;
+    ::GetWindowRect(window, &shape.place);
+    ::EnumChildWindows(window, AddChild, reinterpret_cast<LPARAM>(&shape.children));
+    BringTips(window);
+    shape.windows = 1 + static_cast<int>(shape.children.size());
+    HWND tip = nullptr;
+    while ((tip = ::FindWindowExA(nullptr, tip, TOOLTIPS_CLASSA, nullptr)) != nullptr) {
+        if (::GetWindow(tip, GW_OWNER) == window) ++shape.windows;
+    }
+    return shape;
+}
+
+double TimeOfPicker(HWND form, const Picker& picker, Shape& shape) {
     const double before = NowInMilliseconds();
     ::SendMessageA(::GetDlgItem(form, picker.button), BM_CLICK, 0, 0);
-    const HWND window = ::FindWindowA(picker.name, nullptr);
+    const HWND window = ::FindWindowA(picker.window, nullptr);
     ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const double time = NowInMilliseconds() - before;
-    ::GetWindowRect(window, &place);
+    shape = ShapeOf(window);
     PumpAll();
     ::SendMessageA(window, WM_CLOSE, 0, 0);
     PumpAll();
     return time;
 }
 
-double TimeOfEmptyWindow(const RECT& place) {
+/// The platform's own control where there is one, else its simplest.
+void AddStockControl(HWND window, const Child& child) {
+    const bool isToolBar = child.className == TOOLBARCLASSNAMEA;
+    const DWORD style = isToolBar ? CCS_NORESIZE | CCS_NOPARENTALIGN : 0;
+    ::CreateWindowExA(0, isToolBar ? TOOLBARCLASSNAMEA : "Static", "", WS_CHILD | WS_VISIBLE | style,
+                      child.place.left, child.place.top, child.place.right - child.place.left,
+                      child.place.bottom - child.place.top, window, nullptr, nullptr, nullptr);
+}
+
+double TimeOfStockWindow(const RECT& place, const std::vector<Child>& children) {
     const double before = NowInMilliseconds();
     const HWND window = ::CreateWindowExA(WS_EX_TOOLWINDOW, emptyClass, "Empty", WS_CAPTION | WS_SYSMENU,
                                           place.left, place.top, place.right - place.left,
                                           place.bottom - place.top, nullptr, nullptr, nullptr, nullptr);
+    for (const Child& child : children) AddStockControl(window, child);
     ::ShowWindow(window, SW_SHOWNORMAL);
     ::SetForegroundWindow(window);
-    ::UpdateWindow(window);
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const double time = NowInMilliseconds() - before;
     PumpAll();
     ::DestroyWindow(window);
@@ -60,36 +101,32 @@ double TimeOfEmptyWindow(const RECT& place) {
     return time;
 }
 
-void PrintRow(HWND form, const Picker& picker) {
-    constexpr int rounds = 20;
+void TellPicker(HWND form, const Picker& picker, int rounds) {
     std::vector<double> opened;
     std::vector<double> empty;
     std::vector<double> ratios;
+    std::vector<double> stockRatios;
+    Shape shape;
     for (int round = 0; round < rounds; ++round) {
-        RECT place{};
-        opened.push_back(TimeOfPicker(form, picker, place));
-        empty.push_back(TimeOfEmptyWindow(place));
+        opened.push_back(TimeOfPicker(form, picker, shape));
+        empty.push_back(TimeOfStockWindow(shape.place, {}));
         ratios.push_back(opened.back() / empty.back());
+        stockRatios.push_back(TimeOfStockWindow(shape.place, shape.children) / empty.back());
     }
-    std::printf("| %s | %.1f | %.1f | %.2f |\n", picker.name, Median(opened), Median(empty), Median(ratios));
+    const std::string name = picker.name;
+    Tell(name + "ms", Median(opened));
+    Tell(name + "empty.ms", Median(empty));
+    Tell(name + "ratio", Median(ratios));
+    Tell(name + "stock.ratio", Median(stockRatios));
+    Tell(name + "windows", shape.windows);
 }
 
 }  // namespace
 
-void BenchOpenPicker() {
-    PrepareControls();
+void BenchOpenPicker(const Effort& effort) {
+    const int rounds = effort.of(40);
     RegisterEmptyClass();
-    errorTrap = HandleFatalError;
-    AppState state;
-    frmMain window(state);
-    window.load();
-    window.show(SW_SHOWNORMAL);
-    window.activate();
-    PumpAll();
-    std::puts(
-        "| a palette window until it is painted | median ms | empty window of its size | median ratio |");
-    std::puts("|---|---|---|---|");
-    for (const Picker& picker : pickers) PrintRow(window.handle(), picker);
-    std::puts("");
-    CloseUnasked(window, state);
+    const RunningProgram running;
+    Tell("picker.rounds", rounds);
+    for (const Picker& picker : pickers) TellPicker(running.form(), picker, rounds);
 }

@@ -1,20 +1,12 @@
 // How long does one movement of a screen pick take?
-#include <cstdio>
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Figures.h"
-#include "bench/Pump.h"
+#include "bench/RunningProgram.h"
 #include "mainwindow/ScreenPixels.h"
-#include "mainwindow/frmMain.h"
 #include "resources/resource.h"
-#include "support/AppState.h"
-#include "support/FatalError.h"
-#include "toolkit/Pump.h"
 
 namespace {
-
-constexpr int movements = 2000;
 
 struct Drag {
     HWND sample;
@@ -42,7 +34,7 @@ void MoveThroughPlatform(const Drag& /*drag*/) {
     static_cast<void>(pixels.at(place));
 }
 
-std::vector<double> Measure(void (*move)(const Drag&), const Drag& drag) {
+std::vector<double> Measure(void (*move)(const Drag&), const Drag& drag, int movements) {
     std::vector<double> times;
     for (int movement = 0; movement < movements; ++movement) {
         const POINT place = Place(drag, movement);
@@ -57,28 +49,20 @@ std::vector<double> Measure(void (*move)(const Drag&), const Drag& drag) {
 
 }  // namespace
 
-void BenchPick() {
-    PrepareControls();
-    errorTrap = HandleFatalError;
-    AppState state;
-    frmMain window(state);
-    window.load();
-    window.show(SW_SHOWNORMAL);
-    window.activate();
-    PumpAll();
-    const HWND form = window.handle();
+void BenchPick(const Effort& effort) {
+    const int movements = effort.of(2000);
+    const RunningProgram running;
+    const HWND form = running.form();
     const HWND container = ::GetDlgItem(form, IDC_picSampleContainer);
     const Drag drag = {::GetDlgItem(container, IDC_picSample), ::GetDlgItem(form, IDC_picPick)};
     ::SendMessageA(::GetDlgItem(form, IDC_chkColorPick), BM_CLICK, 0, 0);
     ::SendMessageA(drag.sample, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    Measure(MoveThroughProgram, drag);
-    const double program = Median(Measure(MoveThroughProgram, drag));
-    const double platform = Median(Measure(MoveThroughPlatform, drag));
-    std::puts("| one movement of a screen pick, until its colour is shown | median ms |");
-    std::puts("|---|---|");
-    std::printf("| through the program | %.3f |\n", program);
-    std::printf("| reading the pointer and the pixel alone | %.3f |\n", platform);
-    std::printf("| the program's own part | %.3f |\n\n", program - platform);
+    Measure(MoveThroughProgram, drag, movements);
+    const double program = Median(Measure(MoveThroughProgram, drag, movements));
+    const double platform = Median(Measure(MoveThroughPlatform, drag, movements));
     ::SendMessageA(drag.sample, WM_CANCELMODE, 0, 0);
-    CloseUnasked(window, state);
+    Tell("pick.count", movements);
+    Tell("pick.program.ms", program);
+    Tell("pick.platform.ms", platform);
+    Tell("pick.own.ms", program - platform);
 }

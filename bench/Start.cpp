@@ -1,11 +1,9 @@
 // How long does a program take from its start until its window is shown and idle?
 #include <array>
-#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "bench/Benches.h"
-#include "bench/Figures.h"
 
 namespace {
 
@@ -51,21 +49,24 @@ double TimeOfStart(const char* program) {
 
 }  // namespace
 
-void BenchStart() {
-    constexpr int rounds = 30;
+void BenchStart(const Effort& effort) {
+    const int rounds = effort.of(30);
     constexpr std::array<const char*, 3> programs = {"BareWindow.exe", "StockWindow.exe", "Huevox.exe"};
+    constexpr std::array<const char*, 3> names = {"start.bare.", "start.stock.", "start.huevox."};
     std::array<std::vector<double>, 3> times;
     std::array<std::vector<double>, 3> ratios;
+    std::vector<double> ownRatios;
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t i = 0; i < programs.size(); ++i) {
             times[i].push_back(TimeOfStart(programs[i]));
             ratios[i].push_back(times[i].back() / times[0].back());
         }
+        ownRatios.push_back(ratios[2].back() - ratios[1].back());
     }
-    std::puts("| from start to window shown and idle | median ms | median ratio to the bare window |");
-    std::puts("|---|---|---|");
+    Tell("start.rounds", rounds);
     for (std::size_t i = 0; i < programs.size(); ++i) {
-        std::printf("| %s | %.0f | %.2f |\n", programs[i], Median(times[i]), Median(ratios[i]));
+        Tell(std::string(names[i]) + "ms", Median(times[i]));
+        Tell(std::string(names[i]) + "ratio", Median(ratios[i]));
     }
-    std::puts("");
+    Tell("start.own.ratio", Median(ownRatios));
 }

@@ -163,5 +163,7 @@ add_test(NAME product.size_imports_and_hardening
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
 add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py ${PROJECT_SOURCE_DIR})
 
+add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
+
 tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_driver ui_tests StandIn StandInViewer
     installer_tests soak_model soak huevox_bench)
