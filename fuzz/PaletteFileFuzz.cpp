@@ -1,19 +1,9 @@
 // Any bytes may be opened: they are refused, or they are a palette that can be saved and opened again.
-#include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-
+#include "fuzz/FuzzInput.h"
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 
 namespace {
-
-bool NoLeadByte(char) { return false; }
-bool HighLeadByte(char byte) { return (static_cast<unsigned char>(byte) & 0x80) != 0; }
-
-void Require(bool condition) {
-    if (!condition) std::abort();
-}
 
 bool IsShowable(const Palette& palette) {
     for (int mark = 0; mark < markCount; ++mark) {
