@@ -26,7 +26,7 @@ std::optional<Palette> Read(std::string_view text, std::size_t blockSize, LeadBy
 
 void Try(std::string_view text, LeadByteTest isLeadByte) {
     const std::optional<Palette> palette = Read(text, text.size(), isLeadByte);
-    Require(Read(text, 1 + text.size() % 7, isLeadByte) == palette);
+    Require(Read(text, 1 + text.size() % 61, isLeadByte) == palette);
     if (!palette) return;
     Require(IsShowable(*palette));
     const std::string written = WritePaletteFile(AsSaved(*palette), "%UR% %LD%");
@@ -37,7 +37,6 @@ void Try(std::string_view text, LeadByteTest isLeadByte) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    Try(text, NoLeadByte);
-    Try(text, HighLeadByte);
+    Try(text, size % 2 == 0 ? NoLeadByte : HighLeadByte);
     return 0;
 }
