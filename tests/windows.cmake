@@ -149,7 +149,7 @@ add_test(NAME ui.on_a_full_disk
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 add_test(NAME program.with_few_fonts
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/few-fonts
-        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests> --gtest_filter=TextFit.*)
+        sans ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests> --gtest_filter=TextFit.*)
 foreach(dpi 120 144 192)
     add_test(NAME program.pickers_at_${dpi}_dpi
         COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --dpi ${dpi}

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// The text's width in the control's own font, in pixels.
-int WidthOf(HWND control, const std::string& text) {
+/// The text's size in the control's own font, in pixels.
+SIZE SizeOf(HWND control, const std::string& text) {
     const HDC context = ::GetDC(control);
     const auto font = reinterpret_cast<HFONT>(::SendMessageA(control, WM_GETFONT, 0, 0));
     const HGDIOBJ before = ::SelectObject(context, font);
@@ -21,7 +21,7 @@ int WidthOf(HWND control, const std::string& text) {
     ::DrawTextA(context, text.c_str(), -1, &area, DT_CALCRECT | DT_SINGLELINE);
     ::SelectObject(context, before);
     ::ReleaseDC(control, context);
-    return static_cast<int>(area.right);
+    return {area.right, area.bottom};
 }
 
 /// What stands beside the text: a circle or a square, and the gap to it.
@@ -46,7 +46,9 @@ BOOL CALLBACK ExpectFit(HWND control, LPARAM parameter) {
     if (!IsForEyes(control) || text.empty()) return TRUE;
     RECT area{};
     ::GetClientRect(control, &area);
-    EXPECT_LE(WidthOf(control, text) + ExtraOf(control), area.right) << text;
+    const SIZE size = SizeOf(control, text);
+    EXPECT_LE(size.cx + ExtraOf(control), area.right) << text;
+    EXPECT_LE(size.cy, area.bottom) << text;
     ++*reinterpret_cast<int*>(parameter);
     return TRUE;
 }
