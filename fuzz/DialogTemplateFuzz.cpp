@@ -86,8 +86,10 @@ void RequireSame(std::string_view bytes, const DialogTemplate* read) {
     const int width = layout.place();
     const int height = layout.place();
     for (int name = 0; name < 3; ++name) layout.name();
-    if (hasFont) layout.skip(6);
-    if (hasFont) layout.name();
+    if (hasFont) {
+        layout.skip(6);
+        layout.name();
+    }
     if (read) {
         Require(!layout.isCutShort && read->width == width && read->height == height);
         Require(read->items.size() == count);

@@ -57,7 +57,7 @@ void Store(const std::string& valueName, const Content& content) {
     ::RegCloseKey(key);
 }
 
-void ExpectDefaultsStored() {
+void ExpectEveryDefaultStored() {
     EXPECT_EQ(StoredText("CustomFormat"), "");
     EXPECT_EQ(StoredText("FormatIndex"), "0");
     EXPECT_EQ(StoredText("SortIndex"), "0");
@@ -91,7 +91,7 @@ void TryToLiveWith(const std::string& valueName, const Content& content) {
         const HWND message = huevox.waitForDialog();
         ASSERT_TRUE(message);
         EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
-        ExpectDefaultsStored();
+        ExpectEveryDefaultStored();
         Answer(message, IDOK);
     }
     ASSERT_TRUE(huevox.waitForWindow());
