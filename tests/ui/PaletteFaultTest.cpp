@@ -150,7 +150,7 @@ TEST_F(RefusedSaving, ByItsOwnSuddenEndLeavesAWholeFile) {
     }
     const std::string after = ContentOf(OtherPathOf("mine.txt"));
     int killedWhileWriting = 0;
-    for (int round = 0; round < 12; ++round) {
+    for (int round = 0; round < 4; ++round) {
         WriteContent(OtherPathOf("mine.txt"), before);
         const Huevox huevox;
         OpenAndChange(huevox);

@@ -130,15 +130,12 @@ private:
 
 TEST_F(SettingsFaults, AreLivedWithOrRepaired) {
     const std::vector<Content> contents = AllContents();
-    // All of them when HUEVOX_ALL_SETTINGS is set; else each content once, in one value after another.
-    const bool isAll = std::getenv("HUEVOX_ALL_SETTINGS") != nullptr;
+    // All of them when HUEVOX_ALL_SETTINGS is set, else every ninth.
+    const std::size_t stride = std::getenv("HUEVOX_ALL_SETTINGS") ? 1 : 9;
     int starts = 0;
-    for (std::size_t content = 0; content < contents.size(); ++content) {
-        for (std::size_t value = 0; value < valueNames.size(); ++value) {
-            if (!isAll && content % valueNames.size() != value) continue;
-            TryToLiveWith(valueNames[value], contents[content]);
-            ++starts;
-        }
+    for (std::size_t pair = 0; pair < contents.size() * valueNames.size(); pair += stride) {
+        TryToLiveWith(valueNames[pair % valueNames.size()], contents[pair / valueNames.size()]);
+        ++starts;
     }
     std::printf("%d starts with faulty settings\n", starts);
 }

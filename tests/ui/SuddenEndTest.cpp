@@ -102,7 +102,7 @@ TEST_F(EndWhileSaving, LeavesTheOldPaletteOrTheNewOne) {
         span = 3 * (Now() - start);
         after = Content();
     }
-    const int kills = CountKills(20);
+    const int kills = CountKills(16);
     Killer killer;
     int saved = 0;
     int left = 0;
@@ -129,7 +129,7 @@ TEST_F(EndWhileRepairing, LeavesSettingsThatTheNextStartCanUse) {
         ASSERT_TRUE(huevox.waitForDialog());
         span = 1.2 * (Now() - start);
     }
-    const int kills = CountKills(20) / 4;
+    const int kills = CountKills(16) / 4;
     Killer killer;
     int repaired = 0;
     for (int kill = 0; kill < kills; ++kill) {
