@@ -79,7 +79,8 @@ std::string FileDialogs::Show(const Kind& kind) {
         return "";
     }
     const std::string path = file.data();
-    ::SetCurrentDirectoryA(std::string(FolderPart(path, IsLeadByte)).c_str());
+    folder = FolderPart(path, IsLeadByte);
+    ::SetCurrentDirectoryA(folder.c_str());
     return kind.isForExistingFiles && IsFile(path) ? path : WithExtension(path, IsLeadByte);
 }
 

@@ -17,6 +17,9 @@ public:
     std::string ShowOpenDialog();
     std::string ShowNotepadDialog();
 
+    /// The folder that the user last chose, with a closing backslash; "" before the first choice.
+    const std::string& chosenFolder() const { return folder; }
+
 private:
     struct Kind;
 
@@ -25,4 +28,5 @@ private:
 
     const Form& owner;
     AppState& state;
+    std::string folder;
 };

@@ -65,8 +65,8 @@ void PaletteCommands::mnuFileSave_Click() {
     const std::string title = form.text();
     const std::string name = title.substr(std::min(messages::titlePrefix.size(), title.size()));
     if (name == messages::newPaletteName) return mnuFileSaveAs_Click();
-    // Without a folder: where the last file dialog was.
-    Save(name);
+    // Where the last file dialog was; the current folder may be another since, when that one is gone.
+    Save(dialogs.chosenFolder() + name);
 }
 
 void PaletteCommands::mnuFileSaveAs_Click() {

@@ -27,20 +27,33 @@ bool IsReadOnly(const std::string& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
-/// An empty file of a new name, which goes unless it takes the place of another.
+/// A file of a new name, which goes unless it takes the place of another. While it is being written it even
+/// goes when the program is ended from outside.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& folder) {
-        Check(::GetTempFileNameA(folder.c_str(), "hvx", 0, name.data()) != 0);
+        constexpr UINT numbers = 0xFFFF;
+        // What has the name already may be another copy's.
+        for (UINT attempt = 0; !file && attempt < numbers; ++attempt) {
+            // For 0 the platform would find a number, and make a file that stays.
+            const UINT number = 1 + (::GetCurrentProcessId() + attempt) % numbers;
+            Check(::GetTempFileNameA(folder.c_str(), "hvx", number, name.data()) != 0);
+            const HANDLE created = ::CreateFileA(name.data(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                                 FILE_ATTRIBUTE_NORMAL, nullptr);
+            Check(created != INVALID_HANDLE_VALUE || ::GetLastError() == ERROR_FILE_EXISTS);
+            if (created != INVALID_HANDLE_VALUE) file = OwnedFile(created);
+        }
+        Check(static_cast<bool>(file));
+        goWhenClosed(true);
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile() {
+        file = {};
         if (!isMoved) ::DeleteFileA(name.data());
     }
 
     void write(std::string_view text) const {
-        const OwnedFile file = Open(name.data(), GENERIC_WRITE, 0);
         DWORD written = 0;
         Check(::WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) !=
               FALSE);
@@ -52,6 +65,8 @@ public:
         // Scanners and searches open a file for a moment; meanwhile it cannot be replaced.
         constexpr int attempts = 10;
         constexpr DWORD pause = 20;
+        goWhenClosed(false);
+        file = {};
         for (int attempt = 0; attempt < attempts && !isMoved; ++attempt) {
             if (attempt > 0) ::Sleep(pause);
             isMoved = moveTo(path);
@@ -60,12 +75,17 @@ public:
     }
 
 private:
+    void goWhenClosed(bool goes) const {
+        FILE_DISPOSITION_INFO disposition{goes};
+        ::SetFileInformationByHandle(file.get(), FileDispositionInfo, &disposition, sizeof disposition);
+    }
     bool moveTo(const std::string& path) const {
         constexpr DWORD inOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
         return ::MoveFileExA(name.data(), path.c_str(), inOneStep) != FALSE;
     }
 
     std::array<char, MAX_PATH> name{};
+    OwnedFile file;
     bool isMoved = false;
 };
 

@@ -14,6 +14,7 @@ add_executable(program_tests
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
     program/ScreenPickTest.cpp
+    program/TextFitTest.cpp
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
@@ -52,6 +53,7 @@ add_executable(ui_tests
     ui/BurstTest.cpp
     ui/ChangedFileTest.cpp
     ui/ChangedNewPaletteTest.cpp
+    ui/ClipboardFaultTest.cpp
     ui/ClosingTest.cpp
     ui/ColorBarTest.cpp
     ui/ColorPropertiesTest.cpp
@@ -81,10 +83,14 @@ add_executable(ui_tests
     ui/PickerWindowsTest.cpp
     ui/PickersTest.cpp
     ui/ScreenPickTest.cpp
+    ui/SessionEndTest.cpp
+    ui/SettingsFaultTest.cpp
     ui/SettingsTest.cpp
     ui/SlidersTest.cpp
     ui/StartTest.cpp
+    ui/SuddenEndTest.cpp
     ui/TypedValuesTest.cpp
+    ui/VanishingFilesTest.cpp
     ui/WaitingValuesTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
@@ -141,6 +147,9 @@ add_test(NAME ui.on_a_full_disk
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+add_test(NAME program.with_few_fonts
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/few-fonts
+        sans ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests> --gtest_filter=TextFit.*)
 foreach(dpi 120 144 192)
     add_test(NAME program.pickers_at_${dpi}_dpi
         COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --dpi ${dpi}
@@ -149,7 +158,7 @@ foreach(dpi 120 144 192)
         WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
     set_tests_properties(program.pickers_at_${dpi}_dpi PROPERTIES TIMEOUT 120)
 endforeach()
-set_tests_properties(ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
+set_tests_properties(program.with_few_fonts ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
 # A share of the random user's time, on a desktop of its own: so many minutes as HUEVOX_SOAK_MINUTES says.
 add_test(NAME ui.random_user
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop

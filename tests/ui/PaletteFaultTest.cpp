@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "tests/ui/Below.h"
 #include "tests/ui/Palettes.h"
 
 // Needs the platform's main header before it.
@@ -41,29 +42,6 @@ protected:
 };
 
 class FullDisk : public UiTest {};
-
-/// The path that the system below the platform knows a file by.
-std::string SystemPathOf(const wchar_t* path) {
-    using Translate = char*(CDECL*)(LPCWSTR);
-    const FARPROC address = ::GetProcAddress(::GetModuleHandleA("kernel32"), "wine_get_unix_file_name");
-    const auto translate = reinterpret_cast<Translate>(reinterpret_cast<void*>(address));
-    char* found = translate(path);
-    std::string result = found;
-    ::HeapFree(::GetProcessHeap(), 0, found);
-    return result;
-}
-
-/// Runs a command of the system below, which does what no program of the platform may.
-void RunBelow(const std::string& program, const std::string& arguments) {
-    std::string command = "Z:\\bin\\" + program + ' ' + arguments;
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    ASSERT_TRUE(::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                 &startup, &process));
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-}
 
 /// A folder that nobody may write in, for as long as the value lives.
 class ReadOnlyFolder {
@@ -172,7 +150,7 @@ TEST_F(RefusedSaving, ByItsOwnSuddenEndLeavesAWholeFile) {
     }
     const std::string after = ContentOf(OtherPathOf("mine.txt"));
     int killedWhileWriting = 0;
-    for (int round = 0; round < 12; ++round) {
+    for (int round = 0; round < 4; ++round) {
         WriteContent(OtherPathOf("mine.txt"), before);
         const Huevox huevox;
         OpenAndChange(huevox);
