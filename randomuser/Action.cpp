@@ -15,9 +15,11 @@ constexpr std::array kindNames = std::to_array<std::string_view>({
     "swatch",        "rightSwatch", "sortOrder",     "closePicker", "comeBack",   "otherInFront",
     "otherCopies",   "otherHolds",  "otherLetsGo",   "settle",      "newPalette", "openPalette",
     "openInNotepad", "savePalette", "savePaletteAs", "close",       "answer",     "choosePath",
-    "cancelDialog",  "vainClick",
+    "cancelDialog",  "vainClick",   "barKeys",       "swatchKeys",  "tabs",       "openOptions",
+    "chooseRow",     "chooseOption", "openFormat",   "insertToken", "typeFormat", "openAbout",
+    "closeDialog",   "help",
 });
-static_assert(kindNames.size() == static_cast<std::size_t>(Kind::vainClick) + 1);
+static_assert(kindNames.size() == static_cast<std::size_t>(Kind::help) + 1);
 
 /// Takes the characters up to the next blank, and the blank, away from line.
 std::string_view NextWord(std::string_view& line) {

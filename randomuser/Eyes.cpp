@@ -57,6 +57,11 @@ bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) !
 
 HWND Eyes::box() const {
     HWND box = nullptr;
+    for (const char* form : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
+        box = ::FindWindowA(form, nullptr);
+        if (box && ::IsWindowVisible(box)) return box;
+    }
+    box = nullptr;
     while ((box = ::FindWindowExA(nullptr, box, "#32770", nullptr)) != nullptr) {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(box, &owner);
@@ -83,6 +88,15 @@ Front Eyes::frontWindow() const {
     }
     const std::string name = front ? ClassOf(front) : "";
     return name == OtherProgram::className ? Front::other : Front::none;
+}
+
+HWND Eyes::windowOf(Front front) const {
+    switch (front) {
+        case Front::main: return form;
+        case Front::other: return ::FindWindowA(OtherProgram::className, nullptr);
+        case Front::none: return nullptr;
+        default: return picker(static_cast<int>(front));
+    }
 }
 
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }

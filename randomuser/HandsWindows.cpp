@@ -28,6 +28,9 @@ std::optional<Command> CommandOf(Kind kind) {
         case Kind::openPalette: return Command{'O', true, IDM_mnuFileOpen, 'F', 'O'};
         case Kind::openInNotepad: return Command{'I', true, IDM_mnuFileOpenInNotepad, 'F', 'I'};
         case Kind::savePalette: return Command{'S', true, IDM_mnuFileSave, 'F', 'S'};
+        case Kind::openOptions: return Command{VK_F9, false, IDM_mnuToolsOptions, 'T', 'O'};
+        case Kind::openFormat: return Command{VK_F8, false, IDM_mnuToolsCustomFormat, 'T', 'C'};
+        case Kind::help: return Command{VK_F1, false, IDM_mnuHelpHelp, 'H', 'H'};
         default: return std::nullopt;
     }
 }
@@ -44,10 +47,11 @@ Swatch PlaceOf(int window, int index) {
 
 void Hands::playCommand(const Action& action) {
     if (action.kind == Kind::savePaletteAs) chooseFromMenu('F', 'A');
+    if (action.kind == Kind::openAbout) chooseFromMenu('H', 'A');
     const std::optional command = CommandOf(action.kind);
     if (!command) return;
     if (action.which == 1) {
-        Click(huevox.toolButton(command->button));
+        Click(toolButton(command->button));
     } else if (action.which == 2) {
         chooseFromMenu(command->menu, command->item);
     } else if (command->isWithControl) {
@@ -55,6 +59,24 @@ void Hands::playCommand(const Action& action) {
     } else {
         Press(command->shortcut);
     }
+    if (action.kind == Kind::help) closeHelp();
+}
+
+/// The bar does not move.
+POINT Hands::toolButton(int command) {
+    const auto known = toolButtons.find(command);
+    if (known != toolButtons.end()) return known->second;
+    return toolButtons[command] = huevox.toolButton(command);
+}
+
+void Hands::closeHelp() const {
+    constexpr DWORD longEnough = 20'000;
+    HWND help = nullptr;
+    Soon([&] { return (help = ::FindWindowA("HH Parent", nullptr)) != nullptr && ::IsWindowVisible(help); },
+         longEnough);
+    ::PostMessageA(help, WM_CLOSE, 0, 0);
+    Soon([&] { return !::IsWindow(help) || !::IsWindowVisible(help); }, longEnough);
+    bring(Front::main);
 }
 
 /// The letter of an item counts when its menu is open.
@@ -80,7 +102,7 @@ void Hands::playWindows(const Action& action, const Model& before) {
             break;
         case Kind::comeBack: Click(eyes.emptyPlace()); break;
         case Kind::close: close(action.which); break;
-        case Kind::answer: answer(action.value); break;
+        case Kind::answer: answer(action); break;
         case Kind::choosePath:
             choosePath(action.text, before.look().box.title == "Open Palette In Notepad");
             break;
@@ -104,7 +126,7 @@ void Hands::clickSwatch(const Action& action) const {
 void Hands::closePicker(int index) const {
     ::PostMessageA(eyes.picker(index), WM_CLOSE, 0, 0);
     Soon([&] { return eyes.picker(index) == nullptr; });
-    Click(eyes.emptyPlace());
+    bring(Front::main);
 }
 
 void Hands::close(int way) const {
@@ -121,20 +143,73 @@ void Hands::choosePath(const std::string& path, bool isForNotepad) const {
     Press(VK_RETURN);
     if (!isForNotepad) return;
     HWND notepad = nullptr;
-    Soon([&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; });
+    constexpr DWORD longEnough = 20'000;
+    Soon([&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; }, longEnough);
     ::PostMessageA(notepad, WM_CLOSE, 0, 0);
     Soon([&] { return !::IsWindow(notepad); });
-    Click(eyes.emptyPlace());
+    bring(Front::main);
 }
 
-void Hands::answer(int button) const {
+/// By its key, or by a click on the button; a click that the box has moved away from is made up for.
+void Hands::answer(const Action& action) const {
     const HWND box = eyes.box();
-    constexpr DWORD usual = 500;
-    // A new box may move under the pointer before it is where the window manager wants it.
+    const HWND button = ::GetDlgItem(box, action.value);
+    constexpr DWORD usual = 1000;
+    const auto isGone = [&] { return !::IsWindow(box); };
+    if (action.which == 2) {
+        clickSteady(button);
+    } else {
+        constexpr int ok = 1;
+        constexpr int cancel = 2;
+        constexpr int yes = 6;
+        if (action.value == ok) Press(VK_RETURN);
+        if (action.value == cancel) Press(VK_ESCAPE);
+        if (action.value > cancel) Press(action.value == yes ? 'Y' : 'N', {VK_MENU});
+    }
+    if (Soon(isGone, usual)) return;
+    ::PostMessageA(button, BM_CLICK, 0, 0);
+    Soon(isGone);
+}
+
+/// Once the window has been at its place for a while: a new one may move under the pointer.
+void Hands::clickSteady(HWND control) const {
+    constexpr DWORD aWhile = 100;
+    POINT place = CenterOf(control);
     Soon([&] {
-        if (::IsWindow(box)) Click(::GetDlgItem(box, button));
-        return Soon([&] { return !::IsWindow(box); }, usual);
+        const POINT before = place;
+        return !Soon(
+            [&] {
+                place = CenterOf(control);
+                return place.x != before.x || place.y != before.y;
+            },
+            aWhile);
     });
+    Click(place);
+}
+
+void Hands::playDialogs(const Action& action) {
+    constexpr std::array<WORD, 4> optionKeys = {'Y', 'N', 'A', 'V'};
+    switch (action.kind) {
+        case Kind::chooseRow:
+            Press('S', {VK_MENU});
+            Press(VK_HOME);
+            for (int row = 0; row < action.value; ++row) Press(VK_DOWN);
+            break;
+        case Kind::chooseOption: Press(optionKeys.at(action.value), {VK_MENU}); break;
+        case Kind::typeFormat:
+            Press('T', {VK_MENU});
+            Press(VK_HOME);
+            Press(VK_END, {VK_SHIFT});
+            Press(VK_DELETE);
+            Type(action.text);
+            break;
+        case Kind::insertToken: clickSteady(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value)); break;
+        case Kind::closeDialog:
+            if (action.which == 0) Press(action.value == IDC_cmdOK ? VK_RETURN : VK_ESCAPE);
+            if (action.which == 1) Press(action.value == IDC_cmdOK ? 'O' : 'C', {VK_MENU});
+            break;
+        default: break;
+    }
 }
 
 void Hands::vainClick(int mark) const {

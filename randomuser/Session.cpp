@@ -29,6 +29,32 @@ void StoreSettings(const StoredSettings& settings) {
     StoreText("StandardFolder", filesFolder);
 }
 
+bool IsSameTwice(Kind kind) {
+    switch (kind) {
+        case Kind::sliderDrag:
+        case Kind::barClick:
+        case Kind::barKeys:
+        case Kind::selectMark:
+        case Kind::typeValue:
+        case Kind::typeName:
+        case Kind::setMode:
+        case Kind::copyColor:
+        case Kind::findNames:
+        case Kind::notation:
+        case Kind::openPicker:
+        case Kind::swatch:
+        case Kind::swatchKeys:
+        case Kind::sortOrder:
+        case Kind::comeBack:
+        case Kind::otherInFront:
+        case Kind::tabs:
+        case Kind::chooseRow:
+        case Kind::chooseOption:
+        case Kind::typeFormat: return true;
+        default: return false;
+    }
+}
+
 }  // namespace
 
 Session::Session(const Facts& facts, Figures& figures, unsigned patience)
@@ -43,6 +69,7 @@ Session::Program::~Program() {
 
 std::string Session::play(const Action& action) {
     const Model before = model;
+    const Look earlier = before.look();
     model.play(action);
     const double begin = NowInMilliseconds();
     if (action.kind == Kind::start) {
@@ -50,8 +77,11 @@ std::string Session::play(const Action& action) {
     } else {
         program->hands->play(action, before);
     }
+    const bool isAll = ++steps % stepsToEverything == 0 || action.kind == Kind::start;
+    const Extent extent = isAll ? Extent::everything : Extent::changes;
     std::string found = action.kind == Kind::settle ? settle() : "";
-    if (found.empty()) found = agree();
+    if (found.empty()) found = agree(earlier, extent);
+    if (!found.empty() && isLost(action, earlier)) found = repeat(action, before, found);
     if (found.empty()) found = filesDifference(before.files());
     if (found.empty()) found = clipboardDifference(before);
     if (!model.look().isRunning) {
@@ -60,6 +90,28 @@ std::string Session::play(const Action& action) {
         measure(action, NowInMilliseconds() - begin);
     }
     return found;
+}
+
+/// Whether the input of an action has not reached the program, or may safely come again: nothing that is
+/// seen has changed, or doing it twice is as good as once.
+bool Session::isLost(const Action& action, const Look& earlier) {
+    if (action.kind == Kind::start || !program->eyes->isRunning()) return false;
+    if (IsSameTwice(action.kind)) return true;
+    Look inFront = earlier;
+    inFront.front = Front::main;
+    const auto isSeen = [&](const Look& look) {
+        return program->eyes->difference(look, look, Extent::everything).empty();
+    };
+    return isSeen(earlier) || isSeen(inFront);
+}
+
+std::string Session::repeat(const Action& action, const Model& before, const std::string& found) {
+    std::printf("    step %d, %s: %s; done once more\n", steps, LineOf(action).c_str(), found.c_str());
+    ++figures.repeats;
+    program->hands->leaveMenu();
+    if (found.starts_with("window in front")) program->hands->bring(model.look().front);
+    program->hands->play(action, before);
+    return agree(before.look(), Extent::everything);
 }
 
 void Session::start(int variant) {
@@ -77,14 +129,14 @@ void Session::start(int variant) {
 }
 
 /// Waits until all that is seen is as the model has it.
-std::string Session::agree() {
+std::string Session::agree(const Look& earlier, Extent extent) {
     constexpr DWORD tipTime = 500;
     const Look expected = model.look();
     const ULONGLONG begin = ::GetTickCount64();
     std::string found;
     Soon(
         [&] {
-            found = program->eyes->difference(expected);
+            found = program->eyes->difference(expected, earlier, extent);
             // A tool tip may lie over what is looked at.
             if (::GetTickCount64() > begin + tipTime) MoveMouse({1, 1});
             return found.empty() || found.starts_with("hang");

@@ -14,11 +14,15 @@
 /// What all sessions of a run have come to.
 struct Figures {
     int starts = 0;
+    int repeats = 0;            ///< of actions whose input had been lost
     double slowestAnswer = 0;  ///< milliseconds
     double slowestStep = 0;    ///< from the input until the window shows what it must
     std::string slowestAction = {};
     Growth growth = {};
 };
+
+/// At every so many steps everything is looked at.
+inline constexpr int stepsToEverything = 10;
 
 /// One program at a time beside one model.
 class Session {
@@ -52,7 +56,9 @@ private:
     };
 
     void start(int variant);
-    std::string agree();
+    std::string agree(const Look& earlier, Extent extent);
+    bool isLost(const Action& action, const Look& earlier);
+    std::string repeat(const Action& action, const Model& before, const std::string& found);
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);
     std::string settle();
@@ -63,5 +69,6 @@ private:
     Model model;
     OtherProgram other;
     std::unique_ptr<Program> program;
+    int steps = 0;
     DWORD clipboardNumber = 0;  ///< at the end of the last step
 };
