@@ -10,7 +10,7 @@ constexpr std::array weights = std::to_array<std::pair<Kind, int>>({
     {Kind::start, 3000},      {Kind::sliderKeys, 1000}, {Kind::sliderArrow, 300},  {Kind::sliderDrag, 20},
     {Kind::barClick, 500},    {Kind::selectMark, 400},  {Kind::markKeys, 150},     {Kind::typeValue, 400},
     {Kind::enterValue, 150},  {Kind::pressSet, 60},     {Kind::setMode, 100},      {Kind::typeName, 100},
-    {Kind::eraseName, 60},    {Kind::copyColor, 100},   {Kind::pasteColor, 120},   {Kind::findNames, 80},
+    {Kind::eraseName, 60},    {Kind::copyColor, 100},   {Kind::pasteColor, 120},   {Kind::findNames, 120},
     {Kind::properties, 8},    {Kind::notation, 250},    {Kind::notationKeys, 150}, {Kind::jsNames, 40},
     {Kind::pickMode, 20},     {Kind::pickDrag, 30},     {Kind::pickRight, 20},     {Kind::openPicker, 12},
     {Kind::swatch, 500},      {Kind::rightSwatch, 20},  {Kind::sortOrder, 15},     {Kind::closePicker, 10},
@@ -126,6 +126,6 @@ Action Chooser::filled(Kind kind) {
 Action Chooser::swatch(Kind kind) {
     constexpr std::array counts = {216, 16, 140};
     const int window = below(3);
-    const bool isFirst = below(8) == 0;
+    const bool isFirst = below(5) == 0;
     return {kind, window, isFirst ? 0 : below(counts.at(window))};
 }

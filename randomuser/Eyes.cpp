@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr UINT hang = 1000;  // milliseconds without an answer
+/// Milliseconds without an answer; on a machine with much else to do a second may pass.
+constexpr UINT hang = 5000;
 
 constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
 

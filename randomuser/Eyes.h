@@ -14,7 +14,7 @@ enum class Extent { changes, everything };
 
 class Comparison;
 
-/// Looks at the program from another process. Each question must be answered within a second.
+/// Looks at the program from another process. Each question must be answered within five seconds.
 class Eyes {
 public:
     Eyes(HWND main, HANDLE process);

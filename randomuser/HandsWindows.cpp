@@ -120,7 +120,7 @@ void Hands::clickSwatch(const Action& action) const {
     ::GetClientRect(swatches, &area);
     const POINT place = OnScreen(swatches, {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
                                             (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
-    action.kind == Kind::swatch ? Click(place) : RightClick(place);
+    action.kind == Kind::rightSwatch ? RightClick(place) : Click(place);
 }
 
 void Hands::closePicker(int index) const {
