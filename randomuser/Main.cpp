@@ -129,6 +129,11 @@ Actions ReadActions(const std::string& path) {
     return actions;
 }
 
+void PrintGrowth(const char* what, long long first, long long last, int steps) {
+    const double each = steps > 0 ? 10'000.0 * static_cast<double>(last - first) / steps : 0;
+    std::printf("    %s: %lld at first, %lld at last, %+.1f in 10,000 steps\n", what, first, last, each);
+}
+
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
     const auto& [first, last, steps, movements] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
@@ -138,10 +143,10 @@ void Summarise(const Options& options, const Outcome& outcome, const Figures& fi
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
-    std::printf("    memory %lld KB, then %lld KB\n", first.bytes / 1024, last.bytes / 1024);
-    std::printf("    graphics objects %d, then %d\n", first.gdi, last.gdi);
-    std::printf("    windows %d, then %d\n", first.windows, last.windows);
-    std::printf("    handles %d, then %d\n", first.handles, last.handles);
+    PrintGrowth("KB of memory", first.bytes / 1024, last.bytes / 1024, steps);
+    PrintGrowth("graphics objects", first.gdi, last.gdi, steps);
+    PrintGrowth("windows", first.windows, last.windows, steps);
+    PrintGrowth("handles", first.handles, last.handles, steps);
 }
 
 }  // namespace

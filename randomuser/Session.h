@@ -53,6 +53,7 @@ private:
         int firstStep = 0;  ///< the step of the first figures
         int nextMeasure = 0;
         Growth growth = {};
+        bool hasShownHelp = false;
     };
 
     void start(int variant);
