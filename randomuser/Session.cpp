@@ -29,6 +29,13 @@ void StoreSettings(const StoredSettings& settings) {
     StoreText("StandardFolder", filesFolder);
 }
 
+/// What is copied has no letters beyond ASCII.
+std::string Narrow(const std::wstring& text) {
+    std::string narrow;
+    for (const wchar_t character : text) narrow += static_cast<char>(character);
+    return narrow;
+}
+
 bool IsSameTwice(Kind kind) {
     switch (kind) {
         case Kind::sliderDrag:
@@ -95,7 +102,7 @@ std::string Session::play(const Action& action) {
 /// Whether the input of an action has not reached the program, or may safely come again: nothing that is
 /// seen has changed, or doing it twice is as good as once.
 bool Session::isLost(const Action& action, const Look& earlier) {
-    if (action.kind == Kind::start || !program->eyes->isRunning()) return false;
+    if (action.kind == Kind::start || action.kind == Kind::settle || !program->eyes->isRunning()) return false;
     if (IsSameTwice(action.kind)) return true;
     Look inFront = earlier;
     inFront.front = Front::main;
@@ -177,16 +184,23 @@ std::string Session::clipboardDifference(const Model& before) {
 /// Until the preview has been copied and the letters have followed.
 std::string Session::settle() {
     constexpr DWORD longEnough = 1500;
-    const Look expected = model.look();
+    constexpr DWORD betweenLooks = 250;
+    const std::string expected = model.look().preview;
     const ULONGLONG begin = ::GetTickCount64();
+    ULONGLONG nextLook = begin + longEnough;
+    std::string seen;
     MoveMouse({1, 1});
     const bool isCopied = Soon([&] {
-        // A copy may have come before its step was over.
-        const bool mayBeOver = ::GetTickCount64() > begin + longEnough;
-        return (mayBeOver || ::GetClipboardSequenceNumber() != clipboardNumber) &&
-               ClipboardText() == expected.preview;
+        // A copy may have come before its step was over. Who looks too often keeps the program from copying.
+        const ULONGLONG now = ::GetTickCount64();
+        const DWORD number = ::GetClipboardSequenceNumber();
+        if (number == clipboardNumber && now < nextLook) return false;
+        clipboardNumber = number;
+        nextLook = now + betweenLooks;
+        seen = Narrow(ClipboardUnicodeText());
+        return seen == expected;
     });
-    return isCopied ? "" : "clipboard: expected " + expected.preview + ", seen " + ClipboardText();
+    return isCopied ? "" : "clipboard: expected " + expected + ", seen " + seen;
 }
 
 void Session::measure(const Action& action, double milliseconds) {
