@@ -7,20 +7,34 @@ namespace {
 
 /// How often each action comes, of all that are possible. What takes long comes seldom.
 constexpr std::array weights = std::to_array<std::pair<Kind, int>>({
-    {Kind::start, 3000},      {Kind::sliderKeys, 1000}, {Kind::sliderArrow, 300},  {Kind::sliderDrag, 20},
-    {Kind::barClick, 500},    {Kind::selectMark, 400},  {Kind::markKeys, 150},     {Kind::typeValue, 400},
-    {Kind::enterValue, 150},  {Kind::pressSet, 60},     {Kind::setMode, 100},      {Kind::typeName, 100},
-    {Kind::eraseName, 60},    {Kind::copyColor, 100},   {Kind::pasteColor, 120},   {Kind::findNames, 120},
-    {Kind::properties, 8},    {Kind::notation, 250},    {Kind::notationKeys, 150}, {Kind::jsNames, 40},
-    {Kind::pickMode, 20},     {Kind::pickDrag, 30},     {Kind::pickRight, 20},     {Kind::openPicker, 12},
-    {Kind::swatch, 500},      {Kind::rightSwatch, 20},  {Kind::sortOrder, 15},     {Kind::closePicker, 10},
-    {Kind::comeBack, 150},    {Kind::otherInFront, 8},  {Kind::otherCopies, 8},    {Kind::otherHolds, 4},
-    {Kind::otherLetsGo, 80},  {Kind::settle, 4},        {Kind::newPalette, 16},    {Kind::openPalette, 8},
-    {Kind::openInNotepad, 1}, {Kind::savePalette, 4},   {Kind::savePaletteAs, 3},  {Kind::close, 2},
-    {Kind::answer, 3000},     {Kind::choosePath, 1500}, {Kind::cancelDialog, 800}, {Kind::vainClick, 60},
-    {Kind::barKeys, 60},      {Kind::swatchKeys, 100},  {Kind::tabs, 30},          {Kind::openOptions, 4},
-    {Kind::chooseRow, 1000},  {Kind::chooseOption, 1500}, {Kind::openFormat, 4},   {Kind::insertToken, 1000},
-    {Kind::typeFormat, 500},  {Kind::openAbout, 2},     {Kind::closeDialog, 1000}, {Kind::help, 1},
+    {Kind::start, 3000},       {Kind::sliderKeys, 1000},
+    {Kind::sliderArrow, 300},  {Kind::sliderDrag, 20},
+    {Kind::barClick, 500},     {Kind::selectMark, 400},
+    {Kind::markKeys, 150},     {Kind::typeValue, 400},
+    {Kind::enterValue, 150},   {Kind::pressSet, 60},
+    {Kind::setMode, 100},      {Kind::typeName, 100},
+    {Kind::eraseName, 60},     {Kind::copyColor, 100},
+    {Kind::pasteColor, 120},   {Kind::findNames, 120},
+    {Kind::properties, 8},     {Kind::notation, 250},
+    {Kind::notationKeys, 150}, {Kind::jsNames, 40},
+    {Kind::pickMode, 20},      {Kind::pickDrag, 30},
+    {Kind::pickRight, 20},     {Kind::openPicker, 12},
+    {Kind::swatch, 500},       {Kind::rightSwatch, 20},
+    {Kind::sortOrder, 15},     {Kind::closePicker, 10},
+    {Kind::comeBack, 150},     {Kind::otherInFront, 8},
+    {Kind::otherCopies, 8},    {Kind::otherHolds, 4},
+    {Kind::otherLetsGo, 80},   {Kind::settle, 4},
+    {Kind::newPalette, 16},    {Kind::openPalette, 8},
+    {Kind::openInNotepad, 1},  {Kind::savePalette, 4},
+    {Kind::savePaletteAs, 3},  {Kind::close, 1},
+    {Kind::answer, 3000},      {Kind::choosePath, 1500},
+    {Kind::cancelDialog, 800}, {Kind::vainClick, 60},
+    {Kind::barKeys, 60},       {Kind::swatchKeys, 100},
+    {Kind::tabs, 30},          {Kind::openOptions, 4},
+    {Kind::chooseRow, 1000},   {Kind::chooseOption, 1500},
+    {Kind::openFormat, 4},     {Kind::insertToken, 1000},
+    {Kind::typeFormat, 500},   {Kind::openAbout, 2},
+    {Kind::closeDialog, 1000}, {Kind::help, 1},
 });
 
 constexpr std::array valueTexts = std::to_array<const char*>(
@@ -116,7 +130,7 @@ Action Chooser::filled(Kind kind) {
         case Kind::answer: return {kind, below(3), button()};
         case Kind::choosePath:
             return {kind, 0, 0,
-                    std::string(filesFolder) + '\\' + (below(30) == 0 ? missingPath : oneOf(paths))};
+                    std::string(filesFolder) + '\\' + (below(120) == 0 ? missingPath : oneOf(paths))};
         case Kind::vainClick: return {kind, 0, below(6)};
         default: return {kind};
     }

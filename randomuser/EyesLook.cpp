@@ -210,5 +210,6 @@ void Eyes::lookAtPixels(Comparison& compare, const Look& expected) const {
     }
     const Color color = expected.marks.colors.at(expected.selected);
     for (int step = 0; step < 256 && compare.found.empty(); ++step)
-        compare.same(Numbered("step", step), BarColor(color, step), part.at({bar.x + BarStepLeft(step), bar.y}));
+        compare.same(Numbered("step", step), BarColor(color, step),
+                     part.at({bar.x + BarStepLeft(step), bar.y}));
 }

@@ -116,9 +116,7 @@ void Hands::playSliders(const Action& action) {
             dragSlider(action.which, static_cast<int>(from), action.value);
             break;
         }
-        case Kind::barClick:
-            Click(eyes.barStep(action.value));
-            break;
+        case Kind::barClick: Click(eyes.barStep(action.value)); break;
         default: break;
     }
 }

@@ -138,8 +138,8 @@ void Summarise(const Options& options, const Outcome& outcome, const Figures& fi
     const auto& [first, last, steps, movements] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
                 outcome.seconds, figures.starts);
-    std::printf("%.1f ms a step, %d actions done once more\n", 1000 * outcome.seconds / std::max(1, outcome.steps),
-                figures.repeats);
+    std::printf("%.1f ms a step, %d actions done once more\n",
+                1000 * outcome.seconds / std::max(1, outcome.steps), figures.repeats);
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);

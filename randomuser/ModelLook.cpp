@@ -39,11 +39,7 @@ BoxLook Model::boxLook() const {
         case Box::open: return {BoxKind::file, "Open Palette In Huevox"};
         case Box::notepad: return {BoxKind::file, "Open Palette In Notepad"};
         case Box::options:
-            return {BoxKind::options,
-                    "Options",
-                    "",
-                    chosen.formatIndex,
-                    chosen.promptToSave == 1,
+            return {BoxKind::options,     "Options", "", chosen.formatIndex, chosen.promptToSave == 1,
                     chosen.sortIndex == 1};
         case Box::format: return {BoxKind::format, "Custom Format", chosen.customFormat};
         case Box::about: return {BoxKind::about, "About Huevox"};

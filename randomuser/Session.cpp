@@ -102,7 +102,8 @@ std::string Session::play(const Action& action) {
 /// Whether the input of an action has not reached the program, or may safely come again: nothing that is
 /// seen has changed, or doing it twice is as good as once.
 bool Session::isLost(const Action& action, const Look& earlier) {
-    if (action.kind == Kind::start || action.kind == Kind::settle || !program->eyes->isRunning()) return false;
+    if (action.kind == Kind::start || action.kind == Kind::settle || !program->eyes->isRunning())
+        return false;
     if (IsSameTwice(action.kind)) return true;
     Look inFront = earlier;
     inFront.front = Front::main;

@@ -14,7 +14,7 @@
 /// What all sessions of a run have come to.
 struct Figures {
     int starts = 0;
-    int repeats = 0;            ///< of actions whose input had been lost
+    int repeats = 0;           ///< of actions whose input had been lost
     double slowestAnswer = 0;  ///< milliseconds
     double slowestStep = 0;    ///< from the input until the window shows what it must
     std::string slowestAction = {};
