@@ -117,15 +117,15 @@ void Eyes::lookAtBox(Comparison& compare, const BoxLook& expected) {
 }
 
 void Eyes::lookAtOptions(Comparison& compare, const BoxLook& expected) {
-    const auto control = [window = box()](int id) { return ::GetDlgItem(window, id); };
-    const auto isOn = [&](int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; };
+    const auto inBox = [window = box()](int id) { return ::GetDlgItem(window, id); };
+    const auto isOn = [&](int id) { return ask(inBox(id), BM_GETCHECK) == BST_CHECKED; };
     compare.same("row of the options", expected.row,
-                 static_cast<int>(ask(control(IDC_lstStandardFormat), LB_GETCURSEL)));
+                 static_cast<int>(ask(inBox(IDC_lstStandardFormat), LB_GETCURSEL)));
     compare.same("Yes", expected.asksToSave, isOn(IDC_optYes));
     compare.same("No", !expected.asksToSave, isOn(IDC_optNo));
     compare.same("sorted by name", !expected.isByHue, isOn(IDC_optAlphabetically));
     compare.same("sorted by hue", expected.isByHue, isOn(IDC_optDotNet));
-    compare.same("folder", std::string(filesFolder), text(control(IDC_lblSelectedStandardFolder)));
+    compare.same("folder", std::string(filesFolder), text(inBox(IDC_lblSelectedStandardFolder)));
 }
 
 void Eyes::lookAtEditors(Comparison& compare, const Look& expected, const Look& earlier) {

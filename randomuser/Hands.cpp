@@ -65,7 +65,9 @@ void Hands::clickOn(int id) {
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
     const Front front = eyes.frontWindow();
-    Click({middle.x + (isClickedLeft ? -aside : aside), middle.y});
+    const POINT place = {middle.x + (isClickedLeft ? -aside : aside), middle.y};
+    uncover(Front::main, place);
+    Click(place);
     // Keys go to the program that is in front when they are pressed.
     constexpr DWORD longEnough = 1000;
     if (front == Front::main) return;

@@ -38,6 +38,7 @@ private:
     void dragSlider(int slider, int from, int to) const;
     void pick(const Action& action, const Model& before);
     void clickSwatch(const Action& action) const;
+    void uncover(Front front, POINT place) const;
     void clickSteady(HWND control) const;
     void closeHelp() const;
     void waitForFront(const Look& before) const;

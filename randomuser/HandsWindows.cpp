@@ -93,7 +93,9 @@ void Hands::playWindows(const Action& action, const Model& before) {
         case Kind::rightSwatch: clickSwatch(action); break;
         case Kind::sortOrder: {
             const HWND bar = ::GetDlgItem(eyes.picker(2), IDC_tbrSortTools);
-            Click(huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet));
+            const POINT place = huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet);
+            uncover(Front::javaScript, place);
+            Click(place);
             break;
         }
         case Kind::closePicker:
@@ -112,6 +114,11 @@ void Hands::playWindows(const Action& action, const Model& before) {
     }
 }
 
+/// Another window may lie over the place.
+void Hands::uncover(Front front, POINT place) const {
+    if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) != eyes.windowOf(front)) bring(front);
+}
+
 void Hands::clickSwatch(const Action& action) const {
     const PickerWindow::Grid& grid = grids.at(action.which);
     const HWND swatches = ::GetDlgItem(eyes.picker(action.which), grid.swatches);
@@ -120,6 +127,7 @@ void Hands::clickSwatch(const Action& action) const {
     ::GetClientRect(swatches, &area);
     const POINT place = OnScreen(swatches, {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
                                             (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
+    uncover(static_cast<Front>(action.which), place);
     action.kind == Kind::rightSwatch ? RightClick(place) : Click(place);
 }
 
