@@ -58,8 +58,8 @@ bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) !
 
 HWND Eyes::box() const {
     HWND box = nullptr;
-    for (const char* form : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
-        box = ::FindWindowA(form, nullptr);
+    for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
+        box = ::FindWindowA(dialog, nullptr);
         if (box && ::IsWindowVisible(box)) return box;
     }
     box = nullptr;

@@ -4,9 +4,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "randomuser/Chooser.h"
 #include "randomuser/Session.h"
@@ -22,7 +25,7 @@ constexpr unsigned shortPatience = 1500;
 struct Options {
     unsigned seed = 1;
     int steps = 100'000;
-    double minutes = 25;  ///< at most
+    double minutes = 30;  ///< at most
     std::string replay = {};
 };
 
@@ -134,6 +137,17 @@ void PrintGrowth(const char* what, long long first, long long last, int steps) {
     std::printf("    %s: %lld at first, %lld at last, %+.1f in 10,000 steps\n", what, first, last, each);
 }
 
+/// The kinds of actions that have taken most of the time.
+void PrintShares(const Figures& figures) {
+    constexpr std::ptrdiff_t most = 8;
+    std::vector<std::pair<std::string, Figures::Share>> shares(figures.shares.begin(), figures.shares.end());
+    std::ranges::sort(shares, std::greater(), [](const auto& share) { return share.second.milliseconds; });
+    shares.resize(static_cast<std::size_t>(std::min(most, std::ssize(shares))));
+    for (const auto& [kind, share] : shares)
+        std::printf("    %s: %d steps, %.0f s, %.0f ms each\n", kind.c_str(), share.steps,
+                    share.milliseconds / 1000, share.milliseconds / share.steps);
+}
+
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
     const auto& [first, last, steps, movements] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
@@ -142,6 +156,7 @@ void Summarise(const Options& options, const Outcome& outcome, const Figures& fi
                 1000 * outcome.seconds / std::max(1, outcome.steps), figures.repeats);
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
+    PrintShares(figures);
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
     PrintGrowth("KB of memory", first.bytes / 1024, last.bytes / 1024, steps);
     PrintGrowth("graphics objects", first.gdi, last.gdi, steps);

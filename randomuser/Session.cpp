@@ -93,7 +93,7 @@ std::string Session::play(const Action& action) {
     if (found.empty()) found = clipboardDifference(before);
     if (!model.look().isRunning) {
         program.reset();
-    } else if (action.kind != Kind::settle) {
+    } else {
         measure(action, NowInMilliseconds() - begin);
     }
     return found;
@@ -205,9 +205,13 @@ std::string Session::settle() {
 }
 
 void Session::measure(const Action& action, double milliseconds) {
+    const std::string line = LineOf(action);
+    Figures::Share& share = figures.shares[line.substr(0, line.find(' '))];
+    ++share.steps;
+    share.milliseconds += milliseconds;
     if (milliseconds > figures.slowestStep) {
         figures.slowestStep = milliseconds;
-        figures.slowestAction = LineOf(action);
+        figures.slowestAction = line;
     }
     constexpr int warmUp = 500;
     constexpr int interval = 500;

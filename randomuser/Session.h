@@ -1,6 +1,7 @@
 // Do the program and the model agree after each step?
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -19,6 +20,11 @@ struct Figures {
     double slowestStep = 0;    ///< from the input until the window shows what it must
     std::string slowestAction = {};
     Growth growth = {};
+    struct Share {
+        int steps = 0;
+        double milliseconds = 0;
+    };
+    std::map<std::string, Share> shares = {};  ///< of each kind of action
 };
 
 /// At every so many steps everything is looked at.
