@@ -216,12 +216,14 @@ void Session::measure(const Action& action, double milliseconds) {
     constexpr int warmUp = 500;
     constexpr int interval = 500;
     ++program->steps;
-    // The viewer's library comes with the first help that is shown, and stays.
-    if (action.kind == Kind::help && !std::exchange(program->hasShownHelp, true)) {
+    const Look look = model.look();
+    // The libraries of the help viewer and of the file dialogs come with the first of each, and stay.
+    const bool loadsViewer = action.kind == Kind::help && !std::exchange(program->hasShownHelp, true);
+    const bool loadsDialogs = look.box.kind == BoxKind::file && !std::exchange(program->hasShownFiles, true);
+    if (loadsViewer || loadsDialogs) {
         program->growth = {};
         program->nextMeasure = program->steps + interval;
     }
-    const Look look = model.look();
     // Where nothing else is open, so that like is compared with like.
     const bool isPlain = !look.box.isOpen() && look.pickers == std::array<bool, 3>{};
     if (!isPlain || program->steps < program->nextMeasure) return;

@@ -60,6 +60,7 @@ private:
         int nextMeasure = 0;
         Growth growth = {};
         bool hasShownHelp = false;
+        bool hasShownFiles = false;
     };
 
     void start(int variant);
