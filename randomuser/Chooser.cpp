@@ -52,7 +52,7 @@ constexpr std::array paths = std::to_array<const char*>({"some.txt", "old.txt", 
 constexpr const char* missingPath = "nowhere.txt";
 
 constexpr std::array formats = std::to_array<const char*>(
-    {"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb(%DR%, %DG%, %DB%);", "no token at all"});
+    {"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb %DR%, %DG%, %DB%;", "no token at all"});
 
 constexpr std::array copiedTexts = std::to_array<const char*>({"theirs", "#123456", "two\r\nlines"});
 
