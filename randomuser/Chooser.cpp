@@ -10,7 +10,7 @@ constexpr std::array weights = std::to_array<std::pair<Kind, int>>({
     {Kind::start, 3000},       {Kind::sliderKeys, 1000},
     {Kind::sliderArrow, 300},  {Kind::sliderDrag, 20},
     {Kind::barClick, 500},     {Kind::selectMark, 400},
-    {Kind::markKeys, 150},     {Kind::typeValue, 400},
+    {Kind::markKeys, 70},      {Kind::typeValue, 400},
     {Kind::enterValue, 150},   {Kind::pressSet, 60},
     {Kind::setMode, 100},      {Kind::typeName, 100},
     {Kind::eraseName, 60},     {Kind::copyColor, 100},
@@ -87,7 +87,7 @@ Action Chooser::filled(Kind kind) {
     };
     switch (kind) {
         case Kind::start: return {kind, 0, below(4)};
-        case Kind::sliderKeys: return {kind, below(3), below(8) + 8 * (1 + below(4))};
+        case Kind::sliderKeys: return {kind, below(3), below(8) + 8 * (1 + below(3))};
         case Kind::sliderArrow: return {kind, below(3), below(2) * 2 - 1};
         case Kind::sliderDrag: return {kind, below(3), below(2) * 255};
         case Kind::barClick: return {kind, 0, below(256)};
