@@ -82,9 +82,6 @@ int Chooser::button() {
 }
 
 Action Chooser::filled(Kind kind) {
-    const auto oneOf = [this](const auto& texts) {
-        return std::string(texts.at(below(static_cast<int>(texts.size()))));
-    };
     switch (kind) {
         case Kind::start: return {kind, 0, below(4)};
         case Kind::sliderKeys: return {kind, below(3), below(8) + 8 * (1 + below(3))};
@@ -100,11 +97,6 @@ Action Chooser::filled(Kind kind) {
         case Kind::typeName: return {kind, below(6), 0, oneOf(nameTexts)};
         case Kind::barKeys: return {kind, below(2), below(16)};
         case Kind::tabs: return {kind, 0, below(30)};
-        case Kind::chooseRow: return {kind, 0, below(12)};
-        case Kind::chooseOption: return {kind, 0, below(4)};
-        case Kind::insertToken: return {kind, 0, below(10)};
-        case Kind::typeFormat: return {kind, 0, 0, oneOf(formats)};
-        case Kind::closeDialog: return {kind, below(2), 1 + below(2)};
         case Kind::openOptions:
         case Kind::openFormat:
         case Kind::help:
@@ -127,11 +119,22 @@ Action Chooser::filled(Kind kind) {
         case Kind::swatchKeys: return swatch(kind);
         case Kind::sortOrder: return {kind, 0, below(2)};
         case Kind::otherCopies: return {kind, 0, 0, oneOf(copiedTexts)};
+        default: return filledInBox(kind);
+    }
+}
+
+Action Chooser::filledInBox(Kind kind) {
+    switch (kind) {
         case Kind::answer: return {kind, below(3), button()};
         case Kind::choosePath:
             return {kind, 0, 0,
                     std::string(filesFolder) + '\\' + (below(120) == 0 ? missingPath : oneOf(paths))};
         case Kind::vainClick: return {kind, 0, below(6)};
+        case Kind::chooseRow: return {kind, 0, below(12)};
+        case Kind::chooseOption: return {kind, 0, below(4)};
+        case Kind::insertToken: return {kind, 0, below(10)};
+        case Kind::typeFormat: return {kind, 0, 0, oneOf(formats)};
+        case Kind::closeDialog: return {kind, below(2), 1 + below(2)};
         default: return {kind};
     }
 }

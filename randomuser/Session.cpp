@@ -163,8 +163,8 @@ std::string Session::filesDifference(const Files& before) const {
         const bool isAsBefore = found != before.end() && found->second.text == file.text;
         if (isAsBefore) continue;
         // The window may show no change when a file is saved once more.
-        if (!Soon([&] { return ContentOf(path) == file.text; }, patience))
-            return "file: " + path + " is not as it was saved";
+        const auto isSaved = [&path = path, &file = file] { return ContentOf(path) == file.text; };
+        if (!Soon(isSaved, patience)) return "file: " + path + " is not as it was saved";
     }
     return "";
 }
