@@ -114,9 +114,19 @@ void Hands::playWindows(const Action& action, const Model& before) {
     }
 }
 
-/// Another window may lie over the place.
+/// Another window may lie over the place; the one in front need not be the one on top.
 void Hands::uncover(Front front, POINT place) const {
-    if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) != eyes.windowOf(front)) bring(front);
+    constexpr DWORD longEnough = 1000;
+    const HWND window = eyes.windowOf(front);
+    const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };
+    if (isOnTop()) return;
+    bring(front);
+    Soon(
+        [&] {
+            ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            return isOnTop();
+        },
+        longEnough);
 }
 
 void Hands::clickSwatch(const Action& action) const {
