@@ -39,6 +39,8 @@ struct Outcome {
 
 ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULONGLONG>(minutes * 60'000); }
 
+double SecondsSince(ULONGLONG begin) { return static_cast<double>(::GetTickCount64() - begin) / 1000; }
+
 double ShareOfTests() {
     constexpr double usual = 1;
     const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
@@ -73,19 +75,21 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
         ++outcome.steps;
         if (outcome.steps % 1000 == 0) std::printf("%d steps\n", outcome.steps);
     }
-    outcome.seconds = static_cast<double>(::GetTickCount64() - begin) / 1000;
+    outcome.seconds = SecondsSince(begin);
     return outcome;
 }
 
 Outcome Play(const Facts& facts, Figures& figures, const Actions& actions, unsigned patience) {
     Outcome outcome;
     Session session(facts, figures, patience);
+    const ULONGLONG begin = ::GetTickCount64();
     outcome.played = Possible(actions, facts);
     for (const Action& action : outcome.played) {
         outcome.difference = session.play(action);
         ++outcome.steps;
         if (!outcome.difference.empty()) break;
     }
+    outcome.seconds = SecondsSince(begin);
     return outcome;
 }
 
