@@ -98,9 +98,8 @@ void Hands::closeHelp() const {
     bring(Front::main);
 }
 
-/// The letter of an item counts when its menu is open.
+/// The letter of an item counts when its menu is open. Elsewhere it would choose a notation, or be typed.
 void Hands::chooseFromMenu(int menu, int item) const {
     Press(static_cast<WORD>(menu), {VK_MENU});
-    Soon([&] { return eyes.isInMenu(); });
-    Press(static_cast<WORD>(item));
+    if (Soon([&] { return eyes.isInMenu(); })) Press(static_cast<WORD>(item));
 }
