@@ -106,7 +106,8 @@ void Save(const Actions& actions, const char* path) {
 
 void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
     constexpr double minutesToShorten = 2;
-    std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
+    std::printf("seed %u, step %d, %s: %s\n", options.seed, outcome.steps,
+                LineOf(outcome.played.back()).c_str(), outcome.difference.c_str());
     Figures ignored;
     const ULONGLONG end = EndAfter(minutesToShorten);
     const auto fails = [&](const Actions& actions) {
