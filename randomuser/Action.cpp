@@ -8,16 +8,18 @@ namespace {
 
 /// In the order of Kind.
 constexpr std::array kindNames = std::to_array<std::string_view>({
-    "start",         "sliderKeys",  "sliderArrow",   "sliderDrag",  "barClick",   "selectMark",
-    "markKeys",      "typeValue",   "enterValue",    "pressSet",    "setMode",    "typeName",
-    "eraseName",     "copyColor",   "pasteColor",    "findNames",   "properties", "notation",
-    "notationKeys",  "jsNames",     "pickMode",      "pickDrag",    "pickRight",  "openPicker",
-    "swatch",        "rightSwatch", "sortOrder",     "closePicker", "comeBack",   "otherInFront",
-    "otherCopies",   "otherHolds",  "otherLetsGo",   "settle",      "newPalette", "openPalette",
-    "openInNotepad", "savePalette", "savePaletteAs", "close",       "answer",     "choosePath",
-    "cancelDialog",  "vainClick",
+    "start",         "sliderKeys",   "sliderArrow",   "sliderDrag",  "barClick",   "selectMark",
+    "markKeys",      "typeValue",    "enterValue",    "pressSet",    "setMode",    "typeName",
+    "eraseName",     "copyColor",    "pasteColor",    "findNames",   "properties", "notation",
+    "notationKeys",  "jsNames",      "pickMode",      "pickDrag",    "pickRight",  "openPicker",
+    "swatch",        "rightSwatch",  "sortOrder",     "closePicker", "comeBack",   "otherInFront",
+    "otherCopies",   "otherHolds",   "otherLetsGo",   "settle",      "newPalette", "openPalette",
+    "openInNotepad", "savePalette",  "savePaletteAs", "close",       "answer",     "choosePath",
+    "cancelDialog",  "vainClick",    "barKeys",       "swatchKeys",  "tabs",       "openOptions",
+    "chooseRow",     "chooseOption", "openFormat",    "insertToken", "typeFormat", "openAbout",
+    "closeDialog",   "help",
 });
-static_assert(kindNames.size() == static_cast<std::size_t>(Kind::vainClick) + 1);
+static_assert(kindNames.size() == static_cast<std::size_t>(Kind::help) + 1);
 
 /// Takes the characters up to the next blank, and the blank, away from line.
 std::string_view NextWord(std::string_view& line) {

@@ -47,10 +47,22 @@ enum class Kind {
     savePalette,
     savePaletteAs,
     close,       ///< which: 0 by Alt+F4, 1 by the system menu, 2 by the menu
-    answer,      ///< value: the button's number
+    answer,      ///< which: 2 by the mouse, else by its key; value: the button's number
     choosePath,  ///< text: the path
     cancelDialog,
-    vainClick,  ///< value: a control that cannot be reached below the box that is open
+    vainClick,     ///< value: a control that cannot be reached below the box that is open
+    barKeys,       ///< which: 0 from the left end of the bar, 1 from the right; value: so many steps
+    swatchKeys,    ///< which: the palette window in front; value: the index, left of the one that is taken
+    tabs,          ///< value: so many times Tab, from the red slider on
+    openOptions,   ///< which: as of all commands
+    chooseRow,     ///< value: the notation's row in the options
+    chooseOption,  ///< value: 0 ask to save, 1 do not, 2 sort by name, 3 sort by hue
+    openFormat,    ///< which: as of all commands
+    insertToken,   ///< value: 0 to 9
+    typeFormat,    ///< text
+    openAbout,
+    closeDialog,  ///< which: 0 by Enter or Escape, 1 by the access key; value: 1 OK, 2 Cancel
+    help,         ///< which: as of all commands; the help is shown and closed
 };
 
 /// The keys of a slider, in this order.

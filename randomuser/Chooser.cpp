@@ -7,17 +7,34 @@ namespace {
 
 /// How often each action comes, of all that are possible. What takes long comes seldom.
 constexpr std::array weights = std::to_array<std::pair<Kind, int>>({
-    {Kind::start, 100},       {Kind::sliderKeys, 160}, {Kind::sliderArrow, 60},  {Kind::sliderDrag, 15},
-    {Kind::barClick, 80},     {Kind::selectMark, 80},  {Kind::markKeys, 40},     {Kind::typeValue, 80},
-    {Kind::enterValue, 40},   {Kind::pressSet, 30},    {Kind::setMode, 40},      {Kind::typeName, 50},
-    {Kind::eraseName, 20},    {Kind::copyColor, 30},   {Kind::pasteColor, 40},   {Kind::findNames, 20},
-    {Kind::properties, 10},   {Kind::notation, 50},    {Kind::notationKeys, 40}, {Kind::jsNames, 20},
-    {Kind::pickMode, 15},     {Kind::pickDrag, 20},    {Kind::pickRight, 15},    {Kind::openPicker, 5},
-    {Kind::swatch, 60},       {Kind::rightSwatch, 6},  {Kind::sortOrder, 10},    {Kind::closePicker, 15},
-    {Kind::comeBack, 120},    {Kind::otherInFront, 4}, {Kind::otherCopies, 3},   {Kind::otherHolds, 2},
-    {Kind::otherLetsGo, 40},  {Kind::settle, 6},       {Kind::newPalette, 3},    {Kind::openPalette, 3},
-    {Kind::openInNotepad, 1}, {Kind::savePalette, 3},  {Kind::savePaletteAs, 2}, {Kind::close, 1},
-    {Kind::answer, 300},      {Kind::choosePath, 150}, {Kind::cancelDialog, 60}, {Kind::vainClick, 60},
+    {Kind::start, 3000},       {Kind::sliderKeys, 1000},
+    {Kind::sliderArrow, 300},  {Kind::sliderDrag, 20},
+    {Kind::barClick, 500},     {Kind::selectMark, 400},
+    {Kind::markKeys, 70},      {Kind::typeValue, 400},
+    {Kind::enterValue, 150},   {Kind::pressSet, 60},
+    {Kind::setMode, 100},      {Kind::typeName, 100},
+    {Kind::eraseName, 60},     {Kind::copyColor, 100},
+    {Kind::pasteColor, 120},   {Kind::findNames, 120},
+    {Kind::properties, 8},     {Kind::notation, 250},
+    {Kind::notationKeys, 150}, {Kind::jsNames, 40},
+    {Kind::pickMode, 20},      {Kind::pickDrag, 30},
+    {Kind::pickRight, 20},     {Kind::openPicker, 15},
+    {Kind::swatch, 500},       {Kind::rightSwatch, 20},
+    {Kind::sortOrder, 15},     {Kind::closePicker, 45},
+    {Kind::comeBack, 150},     {Kind::otherInFront, 8},
+    {Kind::otherCopies, 8},    {Kind::otherHolds, 4},
+    {Kind::otherLetsGo, 80},   {Kind::settle, 4},
+    {Kind::newPalette, 16},    {Kind::openPalette, 8},
+    {Kind::openInNotepad, 1},  {Kind::savePalette, 4},
+    {Kind::savePaletteAs, 3},  {Kind::close, 1},
+    {Kind::answer, 3000},      {Kind::choosePath, 1500},
+    {Kind::cancelDialog, 800}, {Kind::vainClick, 60},
+    {Kind::barKeys, 60},       {Kind::swatchKeys, 100},
+    {Kind::tabs, 30},          {Kind::openOptions, 4},
+    {Kind::chooseRow, 1000},   {Kind::chooseOption, 1500},
+    {Kind::openFormat, 4},     {Kind::insertToken, 1000},
+    {Kind::typeFormat, 500},   {Kind::openAbout, 2},
+    {Kind::closeDialog, 1000}, {Kind::help, 1},
 });
 
 constexpr std::array valueTexts = std::to_array<const char*>(
@@ -33,6 +50,9 @@ constexpr std::array paths = std::to_array<const char*>({"some.txt", "old.txt", 
                                                          "locked.txt", "other\\some.txt", "one.txt",
                                                          "two.txt", "other\\one.txt", "New palette.txt"});
 constexpr const char* missingPath = "nowhere.txt";
+
+constexpr std::array formats = std::to_array<const char*>(
+    {"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb %DR%, %DG%, %DB%;", "no token at all"});
 
 constexpr std::array copiedTexts = std::to_array<const char*>({"theirs", "#123456", "two\r\nlines"});
 
@@ -62,12 +82,9 @@ int Chooser::button() {
 }
 
 Action Chooser::filled(Kind kind) {
-    const auto oneOf = [this](const auto& texts) {
-        return std::string(texts.at(below(static_cast<int>(texts.size()))));
-    };
     switch (kind) {
         case Kind::start: return {kind, 0, below(4)};
-        case Kind::sliderKeys: return {kind, below(3), below(8) + 8 * (1 + below(12))};
+        case Kind::sliderKeys: return {kind, below(3), below(8) + 8 * (1 + below(3))};
         case Kind::sliderArrow: return {kind, below(3), below(2) * 2 - 1};
         case Kind::sliderDrag: return {kind, below(3), below(2) * 255};
         case Kind::barClick: return {kind, 0, below(256)};
@@ -78,6 +95,11 @@ Action Chooser::filled(Kind kind) {
         case Kind::enterValue: return {kind, below(3)};
         case Kind::setMode: return {kind, 0, below(2)};
         case Kind::typeName: return {kind, below(6), 0, oneOf(nameTexts)};
+        case Kind::barKeys: return {kind, below(2), below(16)};
+        case Kind::tabs: return {kind, 0, below(30)};
+        case Kind::openOptions:
+        case Kind::openFormat:
+        case Kind::help:
         case Kind::copyColor:
         case Kind::pasteColor:
         case Kind::findNames:
@@ -93,20 +115,34 @@ Action Chooser::filled(Kind kind) {
         case Kind::openPicker:
         case Kind::closePicker: return {kind, below(3)};
         case Kind::swatch:
-        case Kind::rightSwatch: return swatch(kind);
+        case Kind::rightSwatch:
+        case Kind::swatchKeys: return swatch(kind);
         case Kind::sortOrder: return {kind, 0, below(2)};
         case Kind::otherCopies: return {kind, 0, 0, oneOf(copiedTexts)};
-        case Kind::answer: return {kind, 0, button()};
+        default: return filledInBox(kind);
+    }
+}
+
+Action Chooser::filledInBox(Kind kind) {
+    switch (kind) {
+        case Kind::answer: return {kind, below(3), button()};
         case Kind::choosePath:
             return {kind, 0, 0,
-                    std::string(filesFolder) + '\\' + (below(30) == 0 ? missingPath : oneOf(paths))};
+                    std::string(filesFolder) + '\\' + (below(120) == 0 ? missingPath : oneOf(paths))};
         case Kind::vainClick: return {kind, 0, below(6)};
+        case Kind::chooseRow: return {kind, 0, below(12)};
+        case Kind::chooseOption: return {kind, 0, below(4)};
+        case Kind::insertToken: return {kind, 0, below(10)};
+        case Kind::typeFormat: return {kind, 0, 0, oneOf(formats)};
+        case Kind::closeDialog: return {kind, below(2), 1 + below(2)};
         default: return {kind};
     }
 }
 
+/// Aliceblue, which a search does not know, comes more often than the others.
 Action Chooser::swatch(Kind kind) {
     constexpr std::array counts = {216, 16, 140};
     const int window = below(3);
-    return {kind, window, below(counts.at(window))};
+    const bool isFirst = below(5) == 0;
+    return {kind, window, isFirst ? 0 : below(counts.at(window))};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <random>
+#include <string>
 
 #include "randomuser/Action.h"
 #include "randomuser/Model.h"
@@ -18,6 +19,11 @@ private:
     int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
     Kind kind();
     Action filled(Kind kind);
+    Action filledInBox(Kind kind);
+    template <class Texts>
+    std::string oneOf(const Texts& texts) {
+        return texts.at(static_cast<std::size_t>(below(static_cast<int>(texts.size()))));
+    }
     Action swatch(Kind kind);
     int button();
 

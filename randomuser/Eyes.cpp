@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr UINT hang = 1000;  // milliseconds without an answer
+/// Milliseconds without an answer; on a machine with much else to do a second may pass.
+constexpr UINT hang = 5000;
 
 constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
 
@@ -57,6 +58,11 @@ bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) !
 
 HWND Eyes::box() const {
     HWND box = nullptr;
+    for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
+        box = ::FindWindowA(dialog, nullptr);
+        if (box && ::IsWindowVisible(box)) return box;
+    }
+    box = nullptr;
     while ((box = ::FindWindowExA(nullptr, box, "#32770", nullptr)) != nullptr) {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(box, &owner);
@@ -83,6 +89,15 @@ Front Eyes::frontWindow() const {
     }
     const std::string name = front ? ClassOf(front) : "";
     return name == OtherProgram::className ? Front::other : Front::none;
+}
+
+HWND Eyes::windowOf(Front front) const {
+    switch (front) {
+        case Front::main: return form;
+        case Front::other: return ::FindWindowA(OtherProgram::className, nullptr);
+        case Front::none: return nullptr;
+        default: return picker(static_cast<int>(front));
+    }
 }
 
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }

@@ -8,13 +8,19 @@
 #include "randomuser/Look.h"
 #include "toolkit/Platform.h"
 
-/// Looks at the program from another process. Each question must be answered within a second.
+/// How much is looked at: whether the program runs and answers, what is in front and the preview, and of the
+/// rest what must have changed; or everything, to the pixels.
+enum class Extent { changes, everything };
+
+class Comparison;
+
+/// Looks at the program from another process. Each question must be answered within five seconds.
 class Eyes {
 public:
     Eyes(HWND main, HANDLE process);
 
-    /// The first thing that is not as expected, as "what: ...", or "".
-    std::string difference(const Look& expected);
+    /// The first thing that is not as expected, as "what: ...", or "". earlier is what was seen last.
+    std::string difference(const Look& expected, const Look& earlier, Extent extent);
 
     HWND main() const { return form; }
     HWND control(int id) const { return controls.at(id); }
@@ -28,6 +34,8 @@ public:
     static HWND nameField(HWND dialog);
     HWND picker(int index) const;
     Front frontWindow() const;
+    /// The window that is in front when the front is as it must be.
+    HWND windowOf(Front front) const;
     /// A point of the main window on which there is nothing.
     POINT emptyPlace() const;
     POINT barStep(int step) const;
@@ -38,12 +46,15 @@ public:
     LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 private:
-    std::string frameDifference(const Look& expected);
-    std::string boxDifference(const Look& expected);
-    std::string editorDifference(const Look& expected);
-    std::string markDifference(const Look& expected);
-    std::string commandDifference(const Look& expected);
-    std::string pixelDifference(const Look& expected) const;
+    void lookAtFrame(Comparison& compare, const Look& expected, const Look& earlier);
+    void lookAtBox(Comparison& compare, const BoxLook& expected);
+    void lookAtOptions(Comparison& compare, const BoxLook& expected);
+    void lookAtEditors(Comparison& compare, const Look& expected, const Look& earlier);
+    void lookAtMarks(Comparison& compare, const Look& expected, const Look& earlier);
+    void lookAtCommands(Comparison& compare, const Look& expected, const Look& earlier);
+    void lookAtPixels(Comparison& compare, const Look& expected) const;
+    bool isChecked(int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; }
+    bool isEnabled(int id) const { return ::IsWindowEnabled(control(id)) != FALSE; }
 
     HWND form;
     HANDLE process;

@@ -3,6 +3,7 @@
 #include "mainwindow/ColorRamp.h"
 #include "randomuser/Eyes.h"
 #include "randomuser/Facts.h"
+#include "randomuser/Model.h"
 #include "randomuser/Screen.h"
 #include "resources/resource.h"
 #include "tests/ui/Input.h"
@@ -19,22 +20,6 @@ std::string Printed(const std::set<std::string>& texts) {
     return all;
 }
 
-/// Remembers the first difference.
-class Comparison {
-public:
-    template <class Value>
-    bool same(const std::string& what, const Value& expected, const Value& seen) {
-        if (expected != seen) found = what + ": expected " + Printed(expected) + ", seen " + Printed(seen);
-        return found.empty();
-    }
-    bool oneOf(const std::string& what, const std::set<std::string>& expected, const std::string& seen) {
-        if (!expected.contains(seen))
-            found = what + ": expected " + Printed(expected) + ", seen " + Printed(seen);
-        return found.empty();
-    }
-    std::string found;
-};
-
 std::string Numbered(const char* what, int number) {
     return std::string(what) + ' ' + std::to_string(number);
 }
@@ -46,130 +31,185 @@ const char* NameOf(Front front) {
 
 }  // namespace
 
-std::string Eyes::difference(const Look& expected) {
-    hasAnswered = true;
-    std::string found = frameDifference(expected);
-    if (!expected.isRunning) return found;
-    if (found.empty()) found = editorDifference(expected);
-    if (found.empty()) found = markDifference(expected);
-    if (found.empty()) found = commandDifference(expected);
-    // A box may lie over the window.
-    if (found.empty() && !expected.box.isOpen()) found = pixelDifference(expected);
-    return hasAnswered ? found : "hang: no answer for a second";
-}
+/// Remembers the first difference.
+class Comparison {
+public:
+    explicit Comparison(Extent extent) : isEverything(extent == Extent::everything) {}
 
-std::string Eyes::frameDifference(const Look& expected) {
-    Comparison compare;
-    if (!compare.same("running", expected.isRunning, isRunning()) || !expected.isRunning)
-        return compare.found;
-    if (std::string found = boxDifference(expected); !found.empty()) return found;
-    for (int index = 0; index < 3; ++index) {
-        const HWND window = picker(index);
-        if (!compare.same(Numbered("palette window", index), expected.pickers.at(index), window != nullptr))
-            break;
-        const bool isEnabled = window && ::IsWindowEnabled(window);
-        const bool mustBe = window && !expected.box.isOpen();
-        if (!compare.same(Numbered("enabled palette window", index), mustBe, isEnabled)) break;
+    bool isLookingAtAll() const { return found.empty() && isEverything; }
+
+    template <class Value>
+    void same(const std::string& what, const Value& expected, const Value& seen) {
+        if (found.empty() && expected != seen)
+            found = what + ": expected " + Printed(expected) + ", seen " + Printed(seen);
     }
-    if (compare.found.empty()) compare.same("title", expected.title, text(form));
-    return compare.found;
+    /// Reads only what must have changed, if that is all that is looked at.
+    template <class Value, class Read>
+    void same(const std::string& what, const Value& expected, const Value& earlier, Read read) {
+        if (!found.empty() || (!isEverything && expected == earlier)) return;
+        same(what, expected, static_cast<Value>(read()));
+    }
+    template <class Read>
+    void oneOf(const std::string& what, const std::set<std::string>& expected, Read read) {
+        if (!isLookingAtAll()) return;
+        const std::string seen = read();
+        if (!expected.contains(seen))
+            found = what + ": expected " + Printed(expected) + ", seen " + Printed(seen);
+    }
+
+    std::string found;
+
+private:
+    bool isEverything;
+};
+
+std::string Eyes::difference(const Look& expected, const Look& earlier, Extent extent) {
+    hasAnswered = true;
+    Comparison compare(extent);
+    compare.same("running", expected.isRunning, isRunning());
+    if (!compare.found.empty() || !expected.isRunning) return compare.found;
+    lookAtFrame(compare, expected, earlier);
+    lookAtEditors(compare, expected, earlier);
+    lookAtMarks(compare, expected, earlier);
+    lookAtCommands(compare, expected, earlier);
+    // A box may lie over the window.
+    if (compare.isLookingAtAll() && !expected.box.isOpen()) lookAtPixels(compare, expected);
+    return hasAnswered ? compare.found : "hang: no answer for five seconds";
 }
 
-std::string Eyes::boxDifference(const Look& expected) {
-    Comparison compare;
-    const HWND window = box();
-    compare.same("box", expected.box.title, window ? text(window) : "") &&
-        compare.same("enabled window", !expected.box.isOpen(), ::IsWindowEnabled(form) != FALSE);
-    if (!compare.found.empty()) return compare.found;
-    if (window && expected.box.text.empty()) {
-        compare.same("field for a name", true, nameField(window) != nullptr && focus() == nameField(window));
-    } else if (window) {
-        constexpr int messageText = 0xFFFF;
-        compare.same("message", expected.box.text, text(::GetDlgItem(window, messageText)));
+void Eyes::lookAtFrame(Comparison& compare, const Look& expected, const Look& earlier) {
+    if (expected.box.isOpen()) {
+        lookAtBox(compare, expected.box);
     } else {
+        if (earlier.box.isOpen() || compare.isLookingAtAll()) compare.same("box", false, box() != nullptr);
         compare.same("window in front", std::string(NameOf(expected.front)),
                      std::string(NameOf(frontWindow())));
     }
-    return compare.found;
-}
-
-std::string Eyes::editorDifference(const Look& expected) {
-    Comparison compare;
-    const Color color = expected.marks.colors.at(expected.selected);
-    const std::array channels = {color.red, color.green, color.blue};
-    for (int channel = 0; channel < 3 && compare.found.empty(); ++channel) {
-        const auto position = static_cast<int>(ask(control(IDC_hsbRed + channel), SBM_GETPOS));
-        compare.same(Numbered("slider", channel), channels.at(channel), position) &&
-            compare.same(Numbered("value", channel), expected.values.at(channel),
-                         text(control(IDC_txtSetRed + channel)));
+    compare.same("enabled window", !expected.box.isOpen(), ::IsWindowEnabled(form) != FALSE);
+    for (int index = 0; index < 3; ++index) {
+        const bool isOpen = expected.pickers.at(index);
+        compare.same(Numbered("palette window", index), isOpen, earlier.pickers.at(index),
+                     [&] { return picker(index) != nullptr; });
+        if (isOpen && compare.isLookingAtAll())
+            compare.same(Numbered("enabled palette window", index), !expected.box.isOpen(),
+                         ::IsWindowEnabled(picker(index)) != FALSE);
     }
-    const auto isEnabled = [&](int id) { return ::IsWindowEnabled(control(id)) != FALSE; };
-    const auto isChecked = [&](int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; };
-    if (!compare.found.empty()) return compare.found;
-    compare.same("preview", expected.preview, text(control(IDC_lblClipboard))) &&
-        compare.same("Set enabled", expected.isSetEnabled, isEnabled(IDC_cmdSetColor)) &&
-        compare.same("Dec enabled", expected.isModeEnabled, isEnabled(IDC_optSetDec)) &&
-        compare.same("Hex enabled", expected.isModeEnabled, isEnabled(IDC_optSetHex)) &&
-        compare.same("Dec", expected.isDecimal, isChecked(IDC_optSetDec)) &&
-        compare.same("Hex", !expected.isDecimal, isChecked(IDC_optSetHex));
-    return compare.found;
+    compare.same("title", expected.title, earlier.title, [&] { return text(form); });
+    if (expected.focus != 0) compare.same("focus", expected.focus, ::GetDlgCtrlID(focus()));
 }
 
-std::string Eyes::markDifference(const Look& expected) {
-    Comparison compare;
-    for (int mark = 0; mark < 6 && compare.found.empty(); ++mark) {
+void Eyes::lookAtBox(Comparison& compare, const BoxLook& expected) {
+    constexpr int messageText = 0xFFFF;
+    const HWND window = box();
+    compare.same("box", expected.title, window ? text(window) : "");
+    if (!compare.found.empty()) return;
+    switch (expected.kind) {
+        case BoxKind::message:
+            return compare.same("message", expected.text, text(::GetDlgItem(window, messageText)));
+        case BoxKind::file:
+            return compare.same("field for a name", true,
+                                nameField(window) != nullptr && focus() == nameField(window));
+        case BoxKind::options: return lookAtOptions(compare, expected);
+        case BoxKind::format:
+            return compare.same("template", expected.text, text(::GetDlgItem(window, IDC_txtFormat)));
+        default: return compare.same("dialog in front", true, ::GetForegroundWindow() == window);
+    }
+}
+
+void Eyes::lookAtOptions(Comparison& compare, const BoxLook& expected) {
+    const auto inBox = [window = box()](int id) { return ::GetDlgItem(window, id); };
+    const auto isOn = [&](int id) { return ask(inBox(id), BM_GETCHECK) == BST_CHECKED; };
+    compare.same("row of the options", expected.row,
+                 static_cast<int>(ask(inBox(IDC_lstStandardFormat), LB_GETCURSEL)));
+    compare.same("Yes", expected.asksToSave, isOn(IDC_optYes));
+    compare.same("No", !expected.asksToSave, isOn(IDC_optNo));
+    compare.same("sorted by name", !expected.isByHue, isOn(IDC_optAlphabetically));
+    compare.same("sorted by hue", expected.isByHue, isOn(IDC_optDotNet));
+    compare.same("folder", std::string(filesFolder), text(inBox(IDC_lblSelectedStandardFolder)));
+}
+
+void Eyes::lookAtEditors(Comparison& compare, const Look& expected, const Look& earlier) {
+    const auto channels = [](const Look& look) {
+        const Color color = look.marks.colors.at(look.selected);
+        return std::array{color.red, color.green, color.blue};
+    };
+    for (int channel = 0; channel < 3; ++channel) {
+        compare.same(Numbered("slider", channel), channels(expected).at(channel),
+                     channels(earlier).at(channel),
+                     [&] { return static_cast<int>(ask(control(IDC_hsbRed + channel), SBM_GETPOS)); });
+        compare.same(Numbered("value", channel), expected.values.at(channel), earlier.values.at(channel),
+                     [&] { return text(control(IDC_txtSetRed + channel)); });
+    }
+    if (!compare.found.empty()) return;
+    compare.same("preview", expected.preview, text(control(IDC_lblClipboard)));
+    compare.same("Set enabled", expected.isSetEnabled, earlier.isSetEnabled,
+                 [&] { return isEnabled(IDC_cmdSetColor); });
+    compare.same("Dec enabled", expected.isModeEnabled, earlier.isModeEnabled,
+                 [&] { return isEnabled(IDC_optSetDec); });
+    compare.same("Hex enabled", expected.isModeEnabled, earlier.isModeEnabled,
+                 [&] { return isEnabled(IDC_optSetHex); });
+    compare.same("Dec", expected.isDecimal, earlier.isDecimal, [&] { return isChecked(IDC_optSetDec); });
+    compare.same("Hex", !expected.isDecimal, !earlier.isDecimal, [&] { return isChecked(IDC_optSetHex); });
+}
+
+void Eyes::lookAtMarks(Comparison& compare, const Look& expected, const Look& earlier) {
+    for (int mark = 0; mark < 6; ++mark) {
         const bool isSelected = mark == expected.selected;
-        const bool isOn = ask(control(IDC_optColor + mark), BM_GETCHECK) == BST_CHECKED;
-        const bool isEnabled = ::IsWindowEnabled(control(IDC_picSample + mark)) != FALSE;
-        compare.same(Numbered("option", mark), isSelected, isOn) &&
-            compare.same(Numbered("sample enabled", mark), isSelected, isEnabled) &&
-            compare.same(Numbered("name", mark), expected.marks.names.at(mark),
-                         text(control(IDC_txtName + mark))) &&
-            compare.oneOf(Numbered("letters", mark), expected.letters.at(mark),
-                          text(control(IDC_lblColorProp + mark)));
+        const bool wasSelected = mark == earlier.selected;
+        compare.same(Numbered("option", mark), isSelected, wasSelected,
+                     [&] { return isChecked(IDC_optColor + mark); });
+        compare.same(Numbered("sample enabled", mark), isSelected, wasSelected,
+                     [&] { return isEnabled(IDC_picSample + mark); });
+        compare.same(Numbered("name", mark), expected.marks.names.at(mark), earlier.marks.names.at(mark),
+                     [&] { return text(control(IDC_txtName + mark)); });
+        compare.oneOf(Numbered("letters", mark), expected.letters.at(mark),
+                      [&] { return text(control(IDC_lblColorProp + mark)); });
     }
-    return compare.found;
 }
 
-std::string Eyes::commandDifference(const Look& expected) {
-    Comparison compare;
+void Eyes::lookAtCommands(Comparison& compare, const Look& expected, const Look& earlier) {
     const auto isButtonEnabled = [&](int command) {
         return ask(control(IDC_tbrTools), TB_ISBUTTONENABLED, command) != 0;
     };
-    const auto isChecked = [&](int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; };
-    const auto isEnabled = [&](int id) { return ::IsWindowEnabled(control(id)) != FALSE; };
-    const auto isVisible = [&](int id) { return ::IsWindowVisible(control(id)) != FALSE; };
-    compare.same("notation", expected.notation,
-                 static_cast<int>(ask(control(IDC_lstAutocopy), LB_GETCURSEL))) &&
-        compare.same("list enabled", !expected.areNamesCopied, isEnabled(IDC_lstAutocopy)) &&
-        compare.same("names copied", expected.areNamesCopied, isChecked(IDC_chkJSNamesOnly)) &&
-        compare.same("pick mode", expected.isPickMode, isChecked(IDC_chkColorPick)) &&
-        compare.same("samples enabled", expected.isPickMode, isEnabled(IDC_picSampleContainer)) &&
-        compare.same("open enabled", !expected.isPickMode, isButtonEnabled(IDM_mnuFileOpen)) &&
-        compare.same("paste enabled", expected.isPasteEnabled, isButtonEnabled(IDM_mnuEditPasteColor)) &&
-        compare.same("pick preview", false, isVisible(IDC_picPick)) &&
-        compare.same("sliders shown", true, isVisible(IDC_hsbBlue));
-    return compare.found;
+    compare.same("notation", expected.notation, earlier.notation,
+                 [&] { return static_cast<int>(ask(control(IDC_lstAutocopy), LB_GETCURSEL)); });
+    compare.same("list enabled", !expected.areNamesCopied, !earlier.areNamesCopied,
+                 [&] { return isEnabled(IDC_lstAutocopy); });
+    compare.same("names copied", expected.areNamesCopied, earlier.areNamesCopied,
+                 [&] { return isChecked(IDC_chkJSNamesOnly); });
+    compare.same("pick mode", expected.isPickMode, earlier.isPickMode,
+                 [&] { return isChecked(IDC_chkColorPick); });
+    compare.same("samples enabled", expected.isPickMode, earlier.isPickMode,
+                 [&] { return isEnabled(IDC_picSampleContainer); });
+    compare.same("open enabled", !expected.isPickMode, !earlier.isPickMode,
+                 [&] { return isButtonEnabled(IDM_mnuFileOpen); });
+    compare.same("paste enabled", expected.isPasteEnabled, earlier.isPasteEnabled,
+                 [&] { return isButtonEnabled(IDM_mnuEditPasteColor); });
+    if (!compare.isLookingAtAll()) return;
+    compare.same("pick preview", false, ::IsWindowVisible(control(IDC_picPick)) != FALSE);
+    compare.same("sliders shown", true, ::IsWindowVisible(control(IDC_hsbBlue)) != FALSE);
 }
 
-std::string Eyes::pixelDifference(const Look& expected) const {
-    Comparison compare;
+void Eyes::lookAtPixels(Comparison& compare, const Look& expected) const {
     const POINT samples = CenterOf(control(IDC_picSample));
     const int width = static_cast<int>(CenterOf(control(IDC_picSample + 5)).x - samples.x) + 1;
-    const ScreenRow sampleRow(samples, width);
     RECT area{};
     ::GetClientRect(control(IDC_txtName), &area);
     const POINT names = OnScreen(control(IDC_txtName), {area.right - 3, 2});
-    const ScreenRow nameRow(names, width);
-    for (int mark = 0; mark < 6 && compare.found.empty(); ++mark) {
-        const int left = mark * (width - 1) / 5;
+    const POINT bar = barStep(0);
+    // From the names to the bar, read at once.
+    const LONG left = std::min(bar.x, samples.x);
+    const LONG right = std::max({names.x + width, samples.x + width, bar.x + BarStepLeft(255) + 1});
+    const ScreenPart part({left, names.y}, right - left, bar.y - names.y + 1);
+    for (int mark = 0; mark < 6; ++mark) {
+        const LONG aside = mark * (width - 1) / 5;
         const Color back = expected.highlighted.at(mark) ? ColorOf(255, 250, 205) : ColorOf(255, 255, 255);
-        compare.same(Numbered("sample", mark), expected.marks.colors.at(mark), sampleRow.at(left)) &&
-            compare.same(Numbered("back of name", mark), back, nameRow.at(left));
+        compare.same(Numbered("sample", mark), expected.marks.colors.at(mark),
+                     part.at({samples.x + aside, samples.y}));
+        compare.same(Numbered("back of name", mark), back, part.at({names.x + aside, names.y}));
     }
-    const ScreenRow bar(barStep(0), BarStepLeft(255) + 1);
     const Color color = expected.marks.colors.at(expected.selected);
     for (int step = 0; step < 256 && compare.found.empty(); ++step)
-        compare.same(Numbered("step", step), BarColor(color, step), bar.at(BarStepLeft(step)));
-    return compare.found;
+        compare.same(Numbered("step", step), BarColor(color, step),
+                     part.at({bar.x + BarStepLeft(step), bar.y}));
 }

@@ -119,6 +119,16 @@ Color FailsafeColor(int index) {
     return colors.at(static_cast<std::size_t>(index));
 }
 
+int SwatchRightOf(int window, int index) {
+    if (window == 0) {
+        // Six blocks of six columns: red changes within a block, green from one to the next.
+        if (index / 36 < 5) return index + 36;
+        return index / 6 % 6 < 5 ? index - 5 * 36 + 6 : index;
+    }
+    const int columns = window == 1 ? 16 : 7;
+    return index % columns < columns - 1 ? index + 1 : index;
+}
+
 Color BarColor(const Color& color, int step) {
     const int added = step - std::min({color.red, color.green, color.blue});
     const auto limited = [](int channel) { return std::clamp(channel, 0, 255); };

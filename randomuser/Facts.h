@@ -40,6 +40,9 @@ inline constexpr const char* notJavaScript = "Not JavaScript colour";
 Color WebsafeColor(int index);
 Color FailsafeColor(int index);
 
+/// The swatch that the key Right leads to in a palette window, 0 to 2; the same at the end of a row.
+int SwatchRightOf(int window, int index);
+
 /// The colour of step 0 to 255 of the bar.
 Color BarColor(const Color& color, int step);
 

@@ -21,15 +21,42 @@ void PressSteps(WORD forward, WORD back, int steps) {
     PressOften(steps > 0 ? forward : back, std::abs(steps));
 }
 
+void BringWindow(HWND window) {
+    constexpr DWORD usual = 200;
+    const auto isInFront = [window] { return ::GetForegroundWindow() == window; };
+    if (!window || isInFront()) return;
+    Soon([&] {
+        if (Soon(isInFront, usual)) return true;
+        ::SetForegroundWindow(window);
+        return Soon(isInFront, usual);
+    });
+}
+
 }  // namespace
 
 void Hands::play(const Action& action, const Model& before) {
-    playSliders(action, before);
+    waitForFront(before.look());
+    playSliders(action);
     playBoxes(action);
     playPicks(action, before);
+    playKeys(action, before);
     playCommand(action);
+    playDialogs(action);
     playWindows(action, before);
     playOutside(action, before);
+}
+
+/// The window manager may hand the focus over late, and then once more.
+void Hands::waitForFront(const Look& before) const {
+    if (before.box.isOpen()) return BringWindow(eyes.box());
+    bring(before.front);
+}
+
+void Hands::bring(Front front) const { BringWindow(eyes.windowOf(front)); }
+
+void Hands::leaveMenu() const {
+    if (eyes.isInMenu()) Press(VK_ESCAPE);
+    if (!Soon([&] { return !eyes.isInMenu(); }, 200)) Press(VK_ESCAPE);
 }
 
 /// Never twice at one place: a double click does not bring the focus to a box that has lost it meanwhile.
@@ -38,14 +65,27 @@ void Hands::clickOn(int id) {
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
     const Front front = eyes.frontWindow();
-    Click({middle.x + (isClickedLeft ? -aside : aside), middle.y});
+    const POINT place = {middle.x + (isClickedLeft ? -aside : aside), middle.y};
+    uncover(Front::main, place);
+    Click(place);
     // Keys go to the program that is in front when they are pressed.
     constexpr DWORD longEnough = 1000;
-    if (front != Front::main) Soon([&] { return eyes.frontWindow() != front; }, longEnough);
+    if (front == Front::main) return;
+    Soon([&] { return eyes.frontWindow() == Front::main; }, longEnough);
+    bring(Front::main);
+}
+
+/// Clicks until the focus has come.
+void Hands::focusOn(int id) {
+    constexpr DWORD longEnough = 1000;
+    Soon([&] {
+        clickOn(id);
+        return Soon([&] { return eyes.focus() == eyes.control(id); }, longEnough);
+    });
 }
 
 void Hands::retype(int id, const std::string& text) {
-    clickOn(id);
+    focusOn(id);
     Press(VK_END);
     Press(VK_HOME, {VK_SHIFT});
     if (text.empty()) Press(VK_DELETE);
@@ -58,7 +98,7 @@ void Hands::waitForInput() const {
     Soon([&] { return eyes.focus() == eyes.control(isOnRed ? IDC_hsbGreen : IDC_hsbRed); });
 }
 
-void Hands::playSliders(const Action& action, const Model& before) {
+void Hands::playSliders(const Action& action) {
     switch (action.kind) {
         case Kind::sliderKeys:
             Press(sliderLetters.at(action.which), {VK_MENU});
@@ -74,9 +114,8 @@ void Hands::playSliders(const Action& action, const Model& before) {
             break;
         }
         case Kind::sliderDrag: {
-            const Color color = before.current();
-            const std::array channels = {color.red, color.green, color.blue};
-            dragSlider(action.which, channels.at(action.which), action.value);
+            const LRESULT from = eyes.ask(eyes.control(IDC_hsbRed + action.which), SBM_GETPOS);
+            dragSlider(action.which, static_cast<int>(from), action.value);
             break;
         }
         case Kind::barClick: Click(eyes.barStep(action.value)); break;
@@ -84,16 +123,22 @@ void Hands::playSliders(const Action& action, const Model& before) {
     }
 }
 
-/// By way of the middle, and over the end: the thumb stops there.
+/// Over the end, and to and fro until the thumb has come there: late reports of the pointer take it back.
 void Hands::dragSlider(int slider, int from, int to) const {
-    const int id = IDC_hsbRed + slider;
-    const POINT start = huevox.thumb(id, from);
-    const POINT end = huevox.thumb(id, to);
-    PressButton(start);
-    Soon([&] { return eyes.capture() == eyes.control(id); });
+    const HWND bar = eyes.control(IDC_hsbRed + slider);
+    const POINT start = huevox.thumb(IDC_hsbRed + slider, from);
     const LONG beyond = to > 0 ? 20 : -20;
-    for (const LONG left : {(start.x + end.x) / 2, end.x, end.x + beyond}) MoveMouse({left, start.y});
-    ReleaseButton({end.x + beyond, start.y});
+    const LONG end = huevox.thumb(IDC_hsbRed + slider, to).x + beyond;
+    PressButton(start);
+    Soon([&] { return eyes.capture() == bar; });
+    LONG aside = 0;
+    Soon([&] {
+        aside = 1 - aside;
+        MoveMouse({end + aside, start.y});
+        constexpr DWORD usual = 20;
+        return Soon([&] { return eyes.ask(bar, SBM_GETPOS) == to; }, usual);
+    });
+    ReleaseButton({end + aside, start.y});
     Soon([&] { return eyes.capture() == nullptr; });
 }
 
@@ -102,11 +147,11 @@ void Hands::playBoxes(const Action& action) {
         case Kind::typeValue: retype(IDC_txtSetRed + action.which, action.text); break;
         case Kind::typeName: retype(IDC_txtName + action.which, action.text); break;
         case Kind::enterValue:
-            clickOn(IDC_txtSetRed + action.which);
+            focusOn(IDC_txtSetRed + action.which);
             Press(VK_RETURN);
             break;
         case Kind::eraseName:
-            clickOn(IDC_txtName + action.which);
+            focusOn(IDC_txtName + action.which);
             Press(VK_END);
             Press(VK_BACK);
             break;
@@ -133,11 +178,35 @@ void Hands::playPicks(const Action& action, const Model& before) {
     switch (action.kind) {
         case Kind::selectMark: clickOn(IDC_optColor + action.which); break;
         case Kind::markKeys:
-            clickOn(IDC_optColor + selected);
+            focusOn(IDC_optColor + selected);
             PressSteps(VK_RIGHT, VK_LEFT, action.value);
             break;
         case Kind::pickDrag: pick(action, before); break;
         case Kind::pickRight: RightClick(CenterOf(eyes.control(IDC_picSample + selected))); break;
+        default: break;
+    }
+}
+
+void Hands::playKeys(const Action& action, const Model& before) {
+    switch (action.kind) {
+        case Kind::barKeys:
+            focusOn(IDC_optColor + before.look().selected);
+            Press(VK_TAB);
+            Press(action.which == 0 ? VK_HOME : VK_END);
+            PressOften(action.which == 0 ? VK_RIGHT : VK_LEFT, action.value);
+            Press(VK_SPACE);
+            // The frame of the focus would lie over the colours.
+            Press('R', {VK_MENU});
+            break;
+        case Kind::swatchKeys:
+            clickSwatch(action);
+            Press(VK_RIGHT);
+            Press(VK_SPACE);
+            break;
+        case Kind::tabs:
+            Press('R', {VK_MENU});
+            PressOften(VK_TAB, action.value);
+            break;
         default: break;
     }
 }

@@ -28,6 +28,9 @@ std::optional<Command> CommandOf(Kind kind) {
         case Kind::openPalette: return Command{'O', true, IDM_mnuFileOpen, 'F', 'O'};
         case Kind::openInNotepad: return Command{'I', true, IDM_mnuFileOpenInNotepad, 'F', 'I'};
         case Kind::savePalette: return Command{'S', true, IDM_mnuFileSave, 'F', 'S'};
+        case Kind::openOptions: return Command{VK_F9, false, IDM_mnuToolsOptions, 'T', 'O'};
+        case Kind::openFormat: return Command{VK_F8, false, IDM_mnuToolsCustomFormat, 'T', 'C'};
+        case Kind::help: return Command{VK_F1, false, IDM_mnuHelpHelp, 'H', 'H'};
         default: return std::nullopt;
     }
 }
@@ -44,10 +47,11 @@ Swatch PlaceOf(int window, int index) {
 
 void Hands::playCommand(const Action& action) {
     if (action.kind == Kind::savePaletteAs) chooseFromMenu('F', 'A');
+    if (action.kind == Kind::openAbout) chooseFromMenu('H', 'A');
     const std::optional command = CommandOf(action.kind);
     if (!command) return;
     if (action.which == 1) {
-        Click(huevox.toolButton(command->button));
+        Click(toolButton(command->button));
     } else if (action.which == 2) {
         chooseFromMenu(command->menu, command->item);
     } else if (command->isWithControl) {
@@ -55,13 +59,14 @@ void Hands::playCommand(const Action& action) {
     } else {
         Press(command->shortcut);
     }
+    if (action.kind == Kind::help) closeHelp();
 }
 
-/// The letter of an item counts when its menu is open.
-void Hands::chooseFromMenu(int menu, int item) const {
-    Press(static_cast<WORD>(menu), {VK_MENU});
-    Soon([&] { return eyes.isInMenu(); });
-    Press(static_cast<WORD>(item));
+/// The bar does not move.
+POINT Hands::toolButton(int command) {
+    const auto known = toolButtons.find(command);
+    if (known != toolButtons.end()) return known->second;
+    return toolButtons[command] = huevox.toolButton(command);
 }
 
 void Hands::playWindows(const Action& action, const Model& before) {
@@ -71,7 +76,9 @@ void Hands::playWindows(const Action& action, const Model& before) {
         case Kind::rightSwatch: clickSwatch(action); break;
         case Kind::sortOrder: {
             const HWND bar = ::GetDlgItem(eyes.picker(2), IDC_tbrSortTools);
-            Click(huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet));
+            const POINT place = huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet);
+            uncover(Front::javaScript, place);
+            Click(place);
             break;
         }
         case Kind::closePicker:
@@ -80,7 +87,7 @@ void Hands::playWindows(const Action& action, const Model& before) {
             break;
         case Kind::comeBack: Click(eyes.emptyPlace()); break;
         case Kind::close: close(action.which); break;
-        case Kind::answer: answer(action.value); break;
+        case Kind::answer: answer(action); break;
         case Kind::choosePath:
             choosePath(action.text, before.look().box.title == "Open Palette In Notepad");
             break;
@@ -88,6 +95,21 @@ void Hands::playWindows(const Action& action, const Model& before) {
         case Kind::vainClick: vainClick(action.value); break;
         default: break;
     }
+}
+
+/// Another window may lie over the place; the one in front need not be the one on top.
+void Hands::uncover(Front front, POINT place) const {
+    constexpr DWORD longEnough = 1000;
+    const HWND window = eyes.windowOf(front);
+    const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };
+    if (isOnTop()) return;
+    bring(front);
+    Soon(
+        [&] {
+            ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            return isOnTop();
+        },
+        longEnough);
 }
 
 void Hands::clickSwatch(const Action& action) const {
@@ -98,13 +120,14 @@ void Hands::clickSwatch(const Action& action) const {
     ::GetClientRect(swatches, &area);
     const POINT place = OnScreen(swatches, {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
                                             (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
-    action.kind == Kind::swatch ? Click(place) : RightClick(place);
+    uncover(static_cast<Front>(action.which), place);
+    action.kind == Kind::rightSwatch ? RightClick(place) : Click(place);
 }
 
 void Hands::closePicker(int index) const {
     ::PostMessageA(eyes.picker(index), WM_CLOSE, 0, 0);
     Soon([&] { return eyes.picker(index) == nullptr; });
-    Click(eyes.emptyPlace());
+    bring(Front::main);
 }
 
 void Hands::close(int way) const {
@@ -112,36 +135,6 @@ void Hands::close(int way) const {
     if (way == 0) Press(VK_F4, {VK_MENU});
     if (way == 1) ::PostMessageA(eyes.main(), WM_SYSCOMMAND, SC_CLOSE, 0);
     if (way == 2) chooseFromMenu('F', 'E');
-}
-
-void Hands::choosePath(const std::string& path, bool isForNotepad) const {
-    const HWND dialog = eyes.box();
-    const HWND field = Eyes::nameField(dialog);
-    eyes.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
-    Press(VK_RETURN);
-    if (!isForNotepad) return;
-    HWND notepad = nullptr;
-    Soon([&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; });
-    ::PostMessageA(notepad, WM_CLOSE, 0, 0);
-    Soon([&] { return !::IsWindow(notepad); });
-    Click(eyes.emptyPlace());
-}
-
-void Hands::answer(int button) const {
-    const HWND box = eyes.box();
-    constexpr DWORD usual = 500;
-    // A new box may move under the pointer before it is where the window manager wants it.
-    Soon([&] {
-        if (::IsWindow(box)) Click(::GetDlgItem(box, button));
-        return Soon([&] { return !::IsWindow(box); }, usual);
-    });
-}
-
-void Hands::vainClick(int mark) const {
-    const HWND option = eyes.control(IDC_optColor + mark);
-    const POINT place = CenterOf(option);
-    // Not where the box lies over it.
-    if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) == eyes.main()) Click(place);
 }
 
 void Hands::playOutside(const Action& action, const Model& before) {

@@ -11,11 +11,18 @@
 /// them.
 enum class Front { websafe, failsafe, javaScript, main, other, none };
 
-struct BoxLook {
-    std::string title;
-    std::string text;  ///< "" for a file dialog
+/// What lies over the main window and must be answered first.
+enum class BoxKind { none, message, file, options, format, about };
 
-    bool isOpen() const { return !title.empty(); }
+struct BoxLook {
+    BoxKind kind = BoxKind::none;
+    std::string title = {};
+    std::string text = {};  ///< of a message, or the template in the editor of the custom notation
+    int row = 0;            ///< this and the following: of the options
+    bool asksToSave = false;
+    bool isByHue = false;
+
+    bool isOpen() const { return kind != BoxKind::none; }
     friend bool operator==(const BoxLook&, const BoxLook&) = default;
 };
 
@@ -43,4 +50,7 @@ struct Look {
     bool areNamesCopied = false;
     bool isPickMode = false;
     bool isPasteEnabled = false;
+    int focus = 0;  ///< the control that must have the focus, 0 for any
+
+    friend bool operator==(const Look&, const Look&) = default;
 };

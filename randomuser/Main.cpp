@@ -4,9 +4,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "randomuser/Chooser.h"
 #include "randomuser/Session.h"
@@ -22,7 +25,7 @@ constexpr unsigned shortPatience = 1500;
 struct Options {
     unsigned seed = 1;
     int steps = 100'000;
-    double minutes = 25;  ///< at most
+    double minutes = 30;  ///< at most
     std::string replay = {};
 };
 
@@ -35,6 +38,8 @@ struct Outcome {
 };
 
 ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULONGLONG>(minutes * 60'000); }
+
+double SecondsSince(ULONGLONG begin) { return static_cast<double>(::GetTickCount64() - begin) / 1000; }
 
 double ShareOfTests() {
     constexpr double usual = 1;
@@ -70,19 +75,21 @@ Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& option
         ++outcome.steps;
         if (outcome.steps % 1000 == 0) std::printf("%d steps\n", outcome.steps);
     }
-    outcome.seconds = static_cast<double>(::GetTickCount64() - begin) / 1000;
+    outcome.seconds = SecondsSince(begin);
     return outcome;
 }
 
 Outcome Play(const Facts& facts, Figures& figures, const Actions& actions, unsigned patience) {
     Outcome outcome;
     Session session(facts, figures, patience);
+    const ULONGLONG begin = ::GetTickCount64();
     outcome.played = Possible(actions, facts);
     for (const Action& action : outcome.played) {
         outcome.difference = session.play(action);
         ++outcome.steps;
         if (!outcome.difference.empty()) break;
     }
+    outcome.seconds = SecondsSince(begin);
     return outcome;
 }
 
@@ -99,7 +106,8 @@ void Save(const Actions& actions, const char* path) {
 
 void Report(const Facts& facts, const Options& options, const Outcome& outcome) {
     constexpr double minutesToShorten = 2;
-    std::printf("seed %u, step %d: %s\n", options.seed, outcome.steps, outcome.difference.c_str());
+    std::printf("seed %u, step %d, %s: %s\n", options.seed, outcome.steps,
+                LineOf(outcome.played.back()).c_str(), outcome.difference.c_str());
     Figures ignored;
     const ULONGLONG end = EndAfter(minutesToShorten);
     const auto fails = [&](const Actions& actions) {
@@ -129,17 +137,36 @@ Actions ReadActions(const std::string& path) {
     return actions;
 }
 
+void PrintGrowth(const char* what, long long first, long long last, int steps) {
+    const double each = steps > 0 ? 10'000.0 * static_cast<double>(last - first) / steps : 0;
+    std::printf("    %s: %lld at first, %lld at last, %+.1f in 10,000 steps\n", what, first, last, each);
+}
+
+/// The kinds of actions that have taken most of the time.
+void PrintShares(const Figures& figures) {
+    constexpr std::ptrdiff_t most = 8;
+    std::vector<std::pair<std::string, Figures::Share>> shares(figures.shares.begin(), figures.shares.end());
+    std::ranges::sort(shares, std::greater(), [](const auto& share) { return share.second.milliseconds; });
+    shares.resize(static_cast<std::size_t>(std::min(most, std::ssize(shares))));
+    for (const auto& [kind, share] : shares)
+        std::printf("    %s: %d steps, %.0f s, %.0f ms each\n", kind.c_str(), share.steps,
+                    share.milliseconds / 1000, share.milliseconds / share.steps);
+}
+
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
     const auto& [first, last, steps, movements] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
                 outcome.seconds, figures.starts);
+    std::printf("%.1f ms a step, %d actions done once more\n",
+                1000 * outcome.seconds / std::max(1, outcome.steps), figures.repeats);
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
+    PrintShares(figures);
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
-    std::printf("    memory %lld KB, then %lld KB\n", first.bytes / 1024, last.bytes / 1024);
-    std::printf("    graphics objects %d, then %d\n", first.gdi, last.gdi);
-    std::printf("    windows %d, then %d\n", first.windows, last.windows);
-    std::printf("    handles %d, then %d\n", first.handles, last.handles);
+    PrintGrowth("KB of memory", first.bytes / 1024, last.bytes / 1024, steps);
+    PrintGrowth("graphics objects", first.gdi, last.gdi, steps);
+    PrintGrowth("windows", first.windows, last.windows, steps);
+    PrintGrowth("handles", first.handles, last.handles, steps);
 }
 
 }  // namespace

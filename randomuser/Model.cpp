@@ -18,9 +18,12 @@ int ChannelOf(const Color& color, int channel) {
 }  // namespace
 
 void Model::play(const Action& action) {
+    focus = 0;
     playOutside(action);
     playEditing(action);
+    playKeys(action);
     playFiles(action);
+    playDialogs(action);
 }
 
 void Model::playEditing(const Action& action) {
@@ -67,7 +70,7 @@ void Model::playEditing(const Action& action) {
         case Kind::pickRight:
             if (isPickMode) setColor(picked);
             break;
-        case Kind::swatch: setColor(*swatchColor(action)); break;
+        case Kind::swatch: setColor(*swatchColor(action.which, action.value)); break;
         case Kind::sortOrder: isSortedByHue = action.value != 0; break;
         default: break;
     }
@@ -75,8 +78,8 @@ void Model::playEditing(const Action& action) {
 
 /// Which window is in front, and what other programs do.
 void Model::playOutside(const Action& action) {
-    const bool isInPicker =
-        action.kind == Kind::swatch || action.kind == Kind::rightSwatch || action.kind == Kind::sortOrder;
+    const bool isInPicker = action.kind == Kind::swatch || action.kind == Kind::rightSwatch ||
+                            action.kind == Kind::swatchKeys || action.kind == Kind::sortOrder;
     switch (action.kind) {
         case Kind::otherInFront: front = Front::other; return;
         case Kind::otherCopies:
@@ -217,8 +220,8 @@ Color Model::pickTarget(const Action& action) const {
     return action.which < 6 ? marks.colors.at(action.which) : BarColor(current(), action.value);
 }
 
-std::optional<Color> Model::swatchColor(const Action& action) const {
-    if (action.which == 0) return WebsafeColor(action.value);
-    if (action.which == 1) return FailsafeColor(action.value);
-    return isSortedByHue ? facts->colorByHue(action.value) : facts->javaScriptColor(action.value);
+std::optional<Color> Model::swatchColor(int window, int index) const {
+    if (window == 0) return WebsafeColor(index);
+    if (window == 1) return FailsafeColor(index);
+    return isSortedByHue ? facts->colorByHue(index) : facts->javaScriptColor(index);
 }

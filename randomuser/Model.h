@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "randomuser/Action.h"
 #include "randomuser/Facts.h"
@@ -15,10 +16,10 @@ inline constexpr const char* secondFolder = "C:\\Huevox Soak\\other";
 
 /// The settings that the program finds when it starts.
 struct StoredSettings {
-    const char* customFormat;
-    int formatIndex;
-    int sortIndex;
-    int promptToSave;
+    std::string customFormat = {};
+    int formatIndex = 0;
+    int sortIndex = 0;
+    int promptToSave = 1;
 };
 StoredSettings SettingsOf(int variant);
 
@@ -57,15 +58,33 @@ public:
 
 private:
     enum class After { nothing, newPalette, open, close };
-    enum class Box { none, question, refusal, report, fatal, message, save, open, notepad, overwrite };
+    enum class Box {
+        none,
+        question,
+        refusal,
+        report,
+        fatal,
+        message,
+        save,
+        open,
+        notepad,
+        overwrite,
+        options,
+        format,
+        about
+    };
 
     void playOutside(const Action& action);
     void playEditing(const Action& action);
+    void playKeys(const Action& action);
     void playFiles(const Action& action);
+    void playDialogs(const Action& action);
+    bool isPossibleInDialog(const Action& action) const;
     bool isPossibleInMain(const Action& action) const;
     bool isFileDialog() const;
     bool isButton(int button) const;
-    std::string boxTitle() const;
+    BoxLook boxLook() const;
+    std::vector<int> tabStops() const;
 
     void setColor(const Color& color);
     void applyAgain();
@@ -81,7 +100,7 @@ private:
     void typeName(int mark, const std::string& name);
     void findNames();
     void choose(int row);
-    std::optional<Color> swatchColor(const Action& action) const;
+    std::optional<Color> swatchColor(int window, int index) const;
 
     void start(int variant);
     void begin(After command);
@@ -90,6 +109,10 @@ private:
     void answer(int button);
     void choosePath(const std::string& path);
     void cancelDialog();
+    void openOptions();
+    void openFormat();
+    void chooseOption(int option);
+    void closeDialog(bool isAccepted);
     void newPalette();
     void save();
     void saveTo(const std::string& path);
@@ -112,10 +135,13 @@ private:
     bool isSetEnabled = false;
     bool isModeLocked = false;
     bool isDecimal = true;
-    StoredSettings settings = {};
+    StoredSettings settings = {};  ///< in memory
+    StoredSettings stored = {};
+    StoredSettings chosen = {};  ///< in the dialog that is open
     int notation = 0;
     bool areNamesCopied = false;
     bool isPickMode = false;
+    int focus = 0;
     std::optional<Color> copied;
     Color picked;
     ClipboardFact clip;

@@ -29,6 +29,7 @@ void Model::start(int variant) {
     *this = Model(*facts);
     isRunning = true;
     settings = SettingsOf(variant);
+    stored = settings;
     notation = settings.formatIndex;
     allFiles = FilesAtStart();
     newPalette();

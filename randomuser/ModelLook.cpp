@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "randomuser/Model.h"
+#include "resources/resource.h"
 
 Look Model::look() const {
     Look look;
@@ -8,7 +9,7 @@ Look Model::look() const {
     look.exitCode = exitCode;
     if (!isRunning) return look;
     look.front = front;
-    look.box = {boxTitle(), boxText};
+    look.box = boxLook();
     look.pickers = pickers;
     look.title = "Huevox - " + paletteName;
     look.marks = marks;
@@ -25,18 +26,24 @@ Look Model::look() const {
     look.areNamesCopied = areNamesCopied;
     look.isPickMode = isPickMode;
     look.isPasteEnabled = copied.has_value();
+    look.focus = focus;
     return look;
 }
 
-std::string Model::boxTitle() const {
+BoxLook Model::boxLook() const {
     switch (box) {
-        case Box::none: return "";
-        case Box::report: return "Colour Properties";
-        case Box::save:
-        case Box::overwrite: return "Save Palette As";
-        case Box::open: return "Open Palette In Huevox";
-        case Box::notepad: return "Open Palette In Notepad";
-        default: return "Huevox";
+        case Box::none: return {};
+        case Box::report: return {BoxKind::message, "Colour Properties", boxText};
+        case Box::overwrite: return {BoxKind::message, "Save Palette As", boxText};
+        case Box::save: return {BoxKind::file, "Save Palette As"};
+        case Box::open: return {BoxKind::file, "Open Palette In Huevox"};
+        case Box::notepad: return {BoxKind::file, "Open Palette In Notepad"};
+        case Box::options:
+            return {BoxKind::options,     "Options", "", chosen.formatIndex, chosen.promptToSave == 1,
+                    chosen.sortIndex == 1};
+        case Box::format: return {BoxKind::format, "Custom Format", chosen.customFormat};
+        case Box::about: return {BoxKind::about, "About Huevox"};
+        default: return {BoxKind::message, "Huevox", boxText};
     }
 }
 
@@ -51,7 +58,24 @@ bool Model::isPossible(const Action& action) const {
             return isRunning && isFileDialog() && (box != Box::notepad || allFiles.contains(action.text));
         case Kind::cancelDialog: return isRunning && isFileDialog();
         case Kind::vainClick: return isRunning && box != Box::none;
+        case Kind::chooseRow:
+        case Kind::chooseOption:
+        case Kind::insertToken:
+        case Kind::typeFormat:
+        case Kind::closeDialog: return isRunning && isPossibleInDialog(action);
         default: return isRunning && box == Box::none && isPossibleInMain(action);
+    }
+}
+
+bool Model::isPossibleInDialog(const Action& action) const {
+    switch (action.kind) {
+        case Kind::chooseRow:
+        case Kind::chooseOption: return box == Box::options;
+        case Kind::insertToken:
+        case Kind::typeFormat: return box == Box::format;
+        default:
+            // The about box has no button of that kind to its two keys.
+            return box == Box::options || box == Box::format || (box == Box::about && action.which == 0);
     }
 }
 
@@ -62,13 +86,15 @@ bool Model::isButton(int button) const {
         box == Box::report && !facts->offeredName(current(), marks.names.at(selected)).empty();
     if (box == Box::question) return button == 2 || button == 6 || button == 7;
     if (box == Box::overwrite || isReportQuestion) return button == 6 || button == 7;
-    return box != Box::none && !isFileDialog() && button == 1;
+    return boxLook().kind == BoxKind::message && button == 1;
 }
 
 bool Model::isPossibleInMain(const Action& action) const {
     const bool isByMouse = action.which == 1;
     switch (action.kind) {
         case Kind::sliderKeys:
+        case Kind::barKeys:
+        case Kind::openAbout:
         case Kind::savePaletteAs:
         case Kind::close: return front == Front::main;
         case Kind::notationKeys: {
@@ -78,6 +104,9 @@ bool Model::isPossibleInMain(const Action& action) const {
         case Kind::copyColor:
         case Kind::findNames:
         case Kind::properties:
+        case Kind::openOptions:
+        case Kind::openFormat:
+        case Kind::help:
         case Kind::newPalette:
         case Kind::savePalette: return isByMouse || front == Front::main;
         case Kind::pasteColor: return isByMouse || (front == Front::main && (action.which == 0 || copied));
@@ -85,7 +114,15 @@ bool Model::isPossibleInMain(const Action& action) const {
         case Kind::openInNotepad:
             return isByMouse || (front == Front::main && (action.which == 0 || !isPickMode));
         case Kind::pickDrag: return isPickMode && front == Front::main;
-        case Kind::swatch: return pickers.at(action.which) && swatchColor(action);
+        case Kind::swatch: return pickers.at(action.which) && swatchColor(action.which, action.value);
+        case Kind::swatchKeys:
+            return front == static_cast<Front>(action.which) && swatchColor(action.which, action.value) &&
+                   swatchColor(action.which, SwatchRightOf(action.which, action.value));
+        case Kind::tabs: {
+            const std::vector<int> stops = tabStops();
+            // A frame would lie on the bar while it has the focus.
+            return front == Front::main && stops.at(action.value % stops.size()) != IDC_lblColorBar;
+        }
         case Kind::rightSwatch:
         case Kind::closePicker: return pickers.at(action.which);
         case Kind::sortOrder: return pickers[2];

@@ -1,4 +1,4 @@
-// Which colours does a row of the screen show?
+// Which colours does a part of the screen show?
 #pragma once
 
 #include <vector>
@@ -6,13 +6,18 @@
 #include "core/Color.h"
 #include "toolkit/Platform.h"
 
-/// The pixels from place to the right, read at once.
-class ScreenRow {
+/// The pixels from place to the right and down, read at once.
+class ScreenPart {
 public:
-    ScreenRow(POINT place, int width);
-    /// The pixel so many to the right of place.
-    Color at(int offset) const { return Unpack(static_cast<PackedColor>(pixels.at(offset))); }
+    ScreenPart(POINT place, int width, int height);
+    /// A pixel of the part, by its place on the screen.
+    Color at(POINT pixel) const {
+        const LONG index = (pixel.y - place.y) * width + pixel.x - place.x;
+        return Unpack(static_cast<PackedColor>(pixels.at(static_cast<std::size_t>(index))));
+    }
 
 private:
+    POINT place;
+    int width;
     std::vector<COLORREF> pixels;
 };

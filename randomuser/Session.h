@@ -1,6 +1,7 @@
 // Do the program and the model agree after each step?
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -14,11 +15,20 @@
 /// What all sessions of a run have come to.
 struct Figures {
     int starts = 0;
+    int repeats = 0;           ///< of actions whose input had been lost
     double slowestAnswer = 0;  ///< milliseconds
     double slowestStep = 0;    ///< from the input until the window shows what it must
     std::string slowestAction = {};
     Growth growth = {};
+    struct Share {
+        int steps = 0;
+        double milliseconds = 0;
+    };
+    std::map<std::string, Share> shares = {};  ///< of each kind of action
 };
+
+/// At every so many steps everything is looked at.
+inline constexpr int stepsToEverything = 10;
 
 /// One program at a time beside one model.
 class Session {
@@ -49,10 +59,14 @@ private:
         int firstStep = 0;  ///< the step of the first figures
         int nextMeasure = 0;
         Growth growth = {};
+        bool hasShownHelp = false;
+        bool hasShownFiles = false;
     };
 
     void start(int variant);
-    std::string agree();
+    std::string agree(const Look& earlier, Extent extent);
+    bool isLost(const Action& action, const Look& earlier);
+    std::string repeat(const Action& action, const Model& before, const std::string& found);
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);
     std::string settle();
@@ -63,5 +77,6 @@ private:
     Model model;
     OtherProgram other;
     std::unique_ptr<Program> program;
+    int steps = 0;
     DWORD clipboardNumber = 0;  ///< at the end of the last step
 };

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "randomuser/Chooser.h"
+#include "resources/resource.h"
 #include "tests/core/NamedColors.h"
 
 namespace {
@@ -188,5 +191,95 @@ TEST_F(SoakModel, IsNeverAtALossForTheNextAction) {
         const Action action = chooser.next(model);
         ASSERT_EQ(same.next(model), action);
         model.play(action);
+    }
+}
+
+TEST_F(SoakModel, TakesTheSwatchToTheRight) {
+    EXPECT_EQ(WebsafeColor(SwatchRightOf(0, 0)), ColorOf(51, 0, 0));
+    EXPECT_EQ(WebsafeColor(SwatchRightOf(0, 5 * 36)), ColorOf(0, 51, 0));
+    EXPECT_EQ(SwatchRightOf(1, 15), 15);
+    EXPECT_EQ(SwatchRightOf(2, 6), 6);
+    play({Kind::openPicker, 1});
+    play({Kind::swatchKeys, 1, 4});
+    EXPECT_EQ(model.current(), ColorOf(128, 128, 0));
+}
+
+TEST_F(SoakModel, TakesAStepOfTheBarFromEitherEnd) {
+    play({Kind::barKeys, 1, 0});
+    EXPECT_EQ(model.current(), ColorOf(255, 255, 255));
+    play({Kind::barKeys, 0, 3});
+    EXPECT_EQ(model.current(), ColorOf(3, 3, 3));
+}
+
+TEST_F(SoakModel, TabGoesPastWhatIsDisabled) {
+    play({Kind::tabs, 0, 6});
+    EXPECT_EQ(model.look().focus, IDC_optSetDec);
+    play({Kind::typeValue, 0, 0, "7"});
+    EXPECT_EQ(model.look().focus, 0);
+    play({Kind::tabs, 0, 6});
+    EXPECT_EQ(model.look().focus, IDC_cmdSetColor);
+    play({Kind::tabs, 0, 7});
+    EXPECT_EQ(model.look().focus, IDC_txtName);
+}
+
+TEST_F(SoakModel, TakesOptionsByOkOnly) {
+    play({Kind::openOptions});
+    play({Kind::chooseRow, 0, 3});
+    play({Kind::chooseOption, 0, 1});
+    EXPECT_FALSE(model.look().box.asksToSave);
+    play({Kind::closeDialog, 0, 2});
+    play({Kind::openOptions});
+    EXPECT_TRUE(model.look().box.asksToSave);
+    EXPECT_EQ(model.look().box.row, 0);
+    play({Kind::chooseOption, 0, 1});
+    play({Kind::chooseOption, 0, 3});
+    play({Kind::closeDialog, 1, 1});
+    moveRed();
+    play({Kind::openPicker, 2});
+    EXPECT_FALSE(model.isPossible({Kind::swatch, 2, 1}));
+    play({Kind::comeBack});
+    play({Kind::close});
+    EXPECT_FALSE(model.look().isRunning);
+}
+
+TEST_F(SoakModel, ShowsANewTemplateAtOnceAndTheStoredNotationInTheOptions) {
+    play({Kind::notation, 0, 11});
+    play({Kind::openOptions});
+    play({Kind::chooseRow, 0, 5});
+    play({Kind::closeDialog, 0, 1});
+    play({Kind::openOptions});
+    EXPECT_EQ(model.look().box.row, 0);
+    play({Kind::closeDialog, 0, 2});
+    play({Kind::openFormat});
+    play({Kind::typeFormat, 0, 0, "x"});
+    play({Kind::insertToken, 0, 6});
+    EXPECT_EQ(model.look().box.text, "x%DR%");
+    play({Kind::closeDialog, 0, 1});
+    EXPECT_EQ(model.look().preview, "x255");
+    play({Kind::openOptions});
+    EXPECT_EQ(model.look().box.row, 5);
+}
+
+TEST(SoakChooser, ComesToRarePathsOften) {
+    const Facts facts(ReadJavaScriptColors());
+    for (unsigned seed = 1; seed <= 5; ++seed) {
+        Chooser chooser(seed);
+        Model model(facts);
+        int givenUp = 0;
+        int searches = 0;
+        bool isNew = false;
+        for (int step = 0; step < 20'000; ++step) {
+            const Action action = chooser.next(model);
+            if (action.kind == Kind::newPalette) isNew = model.isChanged();
+            if (!model.look().box.isOpen() && action.kind != Kind::newPalette) isNew = false;
+            const bool isSaveAs = model.look().box.title == "Save Palette As";
+            if (isNew && isSaveAs && action.kind == Kind::cancelDialog) ++givenUp;
+            const SixMarks marks = model.look().marks;
+            model.play(action);
+            const bool hasAliceblue = std::ranges::count(marks.colors, ColorOf(0xF0, 0xF8, 0xFF)) > 0;
+            if (action.kind == Kind::findNames && hasAliceblue) ++searches;
+        }
+        EXPECT_GE(givenUp, 3) << seed;
+        EXPECT_GE(searches, 3) << seed;
     }
 }
