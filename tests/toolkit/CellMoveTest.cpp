@@ -11,6 +11,7 @@ namespace {
 
 std::vector<Area> Bar() {
     std::vector<Area> steps;
+    steps.reserve(barSteps);
     for (int step = 0; step < barSteps; ++step)
         steps.push_back({BarStepLeft(step), 0, BarStepLeft(step) + barStepWidth, barStepHeight});
     return steps;
