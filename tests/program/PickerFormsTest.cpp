@@ -54,15 +54,21 @@ protected:
     frmMain main{state};
 };
 
-/// The colour of a pixel of the client area, after moving the window so that the pixel is on the screen.
+/// The colour of a pixel of the client area, after moving the window so that the pixel is on the screen. A
+/// window that is activated for the first time moves itself once more.
 COLORREF PixelOf(HWND window, int x, int y) {
-    ::SetWindowPos(window, HWND_TOP, 100 - x, 100 - y, 0, 0, SWP_NOSIZE);
-    PumpAll();
-    ::SetFocus(nullptr);  // no frame around the cell that has it
-    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    const HDC context = ::GetDC(window);
-    const COLORREF color = ::GetPixel(context, x, y);
-    ::ReleaseDC(window, context);
+    COLORREF color = CLR_INVALID;
+    PumpUntil([&] {
+        ::SetWindowPos(window, HWND_TOP, 100 - x, 100 - y, 0, 0, SWP_NOSIZE);
+        PumpAll();
+        ::SetFocus(nullptr);  // no frame around the cell that has it
+        ::RedrawWindow(window, nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        const HDC context = ::GetDC(window);
+        color = ::GetPixel(context, x, y);
+        ::ReleaseDC(window, context);
+        return color != CLR_INVALID;
+    });
     return color;
 }
 
