@@ -28,8 +28,10 @@ public:
     virtual ~Form();
 
     Event<> Load;
-    Event<> Activate;    ///< after the platform's own activation has finished; never before loading has ended
-    Event<> Deactivate;  ///< at once
+    /// After the platform's own activation has finished, or before the click that activates; never before
+    /// loading has ended.
+    Event<> Activate;
+    Event<> Deactivate;        ///< at once
     Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
     Event<> Unload;
     Event<int> Command;  ///< a menu item, a shortcut or a tool-bar button was chosen
