@@ -28,8 +28,7 @@ public:
     virtual ~Form();
 
     Event<> Load;
-    /// After the platform's own activation has finished, or before the click that activates; never before
-    /// loading has ended.
+    /// After the platform's own activation, or before the click that activates; never while loading.
     Event<> Activate;
     Event<> Deactivate;        ///< at once
     Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
