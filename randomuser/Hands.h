@@ -39,7 +39,7 @@ private:
     void pick(const Action& action, const Model& before);
     void clickSwatch(const Action& action) const;
     void uncover(Front front, POINT place) const;
-    void clickSteady(HWND control) const;
+    static POINT steadyCenter(HWND window);
     void closeHelp() const;
     void waitForFront(const Look& before) const;
     POINT toolButton(int command);

@@ -26,7 +26,7 @@ void Hands::answer(const Action& action) const {
     constexpr DWORD usual = 1000;
     const auto isGone = [&] { return !::IsWindow(box); };
     if (action.which == 2) {
-        clickSteady(button);
+        Click(steadyCenter(button));
     } else {
         constexpr int ok = 1;
         constexpr int cancel = 2;
@@ -41,19 +41,19 @@ void Hands::answer(const Action& action) const {
 }
 
 /// Once the window has been at its place for a while: a new one may move under the pointer.
-void Hands::clickSteady(HWND control) const {
+POINT Hands::steadyCenter(HWND window) {
     constexpr DWORD aWhile = 100;
-    POINT place = CenterOf(control);
+    POINT place = CenterOf(window);
     Soon([&] {
         const POINT before = place;
         return !Soon(
             [&] {
-                place = CenterOf(control);
+                place = CenterOf(window);
                 return place.x != before.x || place.y != before.y;
             },
             aWhile);
     });
-    Click(place);
+    return place;
 }
 
 void Hands::playDialogs(const Action& action) {
@@ -72,7 +72,7 @@ void Hands::playDialogs(const Action& action) {
             Press(VK_DELETE);
             Type(action.text);
             break;
-        case Kind::insertToken: clickSteady(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value)); break;
+        case Kind::insertToken: Click(steadyCenter(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value))); break;
         case Kind::closeDialog:
             if (action.which == 0) Press(action.value == IDC_cmdOK ? VK_RETURN : VK_ESCAPE);
             if (action.which == 1) Press(action.value == IDC_cmdOK ? 'O' : 'C', {VK_MENU});
@@ -82,8 +82,8 @@ void Hands::playDialogs(const Action& action) {
 }
 
 void Hands::vainClick(int mark) const {
-    const HWND option = eyes.control(IDC_optColor + mark);
-    const POINT place = CenterOf(option);
+    steadyCenter(eyes.box());
+    const POINT place = CenterOf(eyes.control(IDC_optColor + mark));
     // Not where the box lies over it.
     if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) == eyes.main()) Click(place);
 }

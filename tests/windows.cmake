@@ -25,6 +25,7 @@ add_executable(program_tests
     toolkit/ScalingTest.cpp
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
+    ui/DisplayFocus.cpp
     ui/Input.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
@@ -35,6 +36,7 @@ target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_
 
 # What acts on the running program from another process, by real keys and mouse.
 add_library(ui_driver STATIC
+    ui/DisplayFocus.cpp
     ui/Huevox.cpp
     ui/Input.cpp
     ui/Palettes.cpp

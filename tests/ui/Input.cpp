@@ -1,5 +1,6 @@
 #include "tests/ui/Input.h"
 
+#include "tests/ui/DisplayFocus.h"
 #include "tests/ui/Wait.h"
 
 namespace {
@@ -45,6 +46,12 @@ void SendMouse(POINT screen, DWORD button = 0) {
     ::SendInput(1, &input, sizeof input);
 }
 
+/// Until the window's program has taken in what the display has told it so far.
+void WaitForReports(HWND window) {
+    constexpr UINT longEnough = 500;
+    ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, longEnough, nullptr);
+}
+
 /// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
 /// report between press and release takes it off what was pressed.
 void RestPointer(POINT screen) {
@@ -57,7 +64,26 @@ void RestPointer(POINT screen) {
         const bool isThere = pointer.x == screen.x && pointer.y == screen.y;
         steady = isThere ? steady + 1 : 0;
         if (!isThere) SendMouse(screen);
+        WaitForReports(::WindowFromPoint(screen));
         ::Sleep(1);
+    }
+}
+
+bool IsHeld(WORD key) { return (::GetAsyncKeyState(key) & 0x8000) != 0; }
+
+/// Holds a modifier key until it stays held: when the display tells that the focus or the pointer has come
+/// into a window, it tells which keys it believes to be pressed, and the platform lets go of all others.
+void Hold(WORD modifier) {
+    constexpr int mostLooks = 100;
+    constexpr int enough = 2;
+    constexpr DWORD longestHandover = 1000;
+    int steady = 0;
+    Eventually(HasDisplayFocus, longestHandover);
+    WaitForReports(::GetForegroundWindow());
+    for (int look = 0; look < mostLooks && steady < enough; ++look) {
+        steady = IsHeld(modifier) ? steady + 1 : 0;
+        if (steady == 0) KeyDown(modifier);
+        WaitForReports(::GetForegroundWindow());
     }
 }
 
@@ -67,7 +93,7 @@ void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
-    for (const WORD modifier : modifiers) KeyDown(modifier);
+    for (const WORD modifier : modifiers) Hold(modifier);
     KeyDown(key);
     KeyUp(key);
     for (const WORD modifier : modifiers) KeyUp(modifier);

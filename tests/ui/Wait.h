@@ -7,7 +7,7 @@
 
 /// Looks again and again until condition is true. False when it still is not after the limit.
 template <class Condition>
-bool Eventually(Condition condition, DWORD milliseconds = 5000) {
+bool Eventually(Condition condition, DWORD milliseconds = 15'000) {
     const ULONGLONG end = ::GetTickCount64() + milliseconds;
     while (!condition()) {
         if (::GetTickCount64() >= end) return false;
