@@ -20,18 +20,20 @@ BYTE StyleOf(const ToolButton& button) {
 
 void ToolBar::fill(std::span<const ToolButton> buttons) {
     std::vector<TBBUTTON> records;
-    icons.clear();
+    std::vector<int> wanted;
     for (const ToolButton& button : buttons) {
         TBBUTTON record{};
         record.fsState = TBSTATE_ENABLED;
         record.fsStyle = StyleOf(button);
         record.idCommand = button.command;
-        record.iBitmap = button.command == 0 ? 0 : static_cast<int>(icons.size());
+        record.iBitmap = button.command == 0 ? 0 : static_cast<int>(wanted.size());
         records.push_back(record);
         if (button.command == 0) continue;
-        icons.push_back(button.icon);
+        wanted.push_back(button.icon);
         tips[button.command] = button.tip;
     }
+    if (wanted != icons) drawnSize = 0;
+    icons = std::move(wanted);
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     setSizes();
     send(TB_ADDBUTTONSA, records.size(), reinterpret_cast<LPARAM>(records.data()));
@@ -76,9 +78,11 @@ void ToolBar::rescaled() {
 }
 
 void ToolBar::setSizes() {
-    OwnedImages scaledImages = ImagesFromIcons(icons, form.scaled(pictureSize));
-    send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(scaledImages.get()));
-    images = std::move(scaledImages);
+    const int size = form.scaled(pictureSize);
+    OwnedImages drawn = size == drawnSize ? std::move(images) : ImagesFromIcons(icons, size);
+    drawnSize = size;
+    send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(drawn.get()));
+    images = std::move(drawn);
     send(TB_SETBUTTONSIZE, 0, MAKELPARAM(form.scaled(buttonSize), form.scaled(buttonSize)));
 }
 

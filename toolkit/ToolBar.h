@@ -43,7 +43,9 @@ private:
     void showTips(ToolTips& toolTips) const override;
     void onCommand(int id, int code) override;
 
+    // They outlive the window: a form that is opened again has its pictures already.
     OwnedImages images;
+    int drawnSize = 0;
     std::vector<int> icons;
     std::map<int, std::string> tips;
 };
