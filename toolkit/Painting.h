@@ -23,5 +23,5 @@ private:
 inline void FillWithColor(HDC context, const RECT& area, COLORREF color) {
     // An empty text on an opaque ground: cheaper than a brush that changes its colour each time.
     ::SetBkColor(context, color);
-    ::ExtTextOutA(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
+    ::ExtTextOutW(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
 }
