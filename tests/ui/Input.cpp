@@ -46,27 +46,29 @@ void SendMouse(POINT screen, DWORD button = 0) {
     ::SendInput(1, &input, sizeof input);
 }
 
-/// Until the window's program has taken in what the display has told it so far.
+/// Until the display has done what it was asked to do and the window's program has taken in what it tells of
+/// it.
 void WaitForReports(HWND window) {
     constexpr UINT longEnough = 500;
+    const HDC screen = ::GetDC(nullptr);
+    // The display answers in the order of its callers: the second time all earlier wishes have been heard.
+    ::GetPixel(screen, 0, 0);
+    ::GetPixel(screen, 0, 0);
+    ::ReleaseDC(nullptr, screen);
     ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, longEnough, nullptr);
 }
 
 /// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
 /// report between press and release takes it off what was pressed.
 void RestPointer(POINT screen) {
-    constexpr int mostLooks = 500;
-    constexpr int enough = 3;
-    int steady = 0;
-    for (int look = 0; look < mostLooks && steady < enough; ++look) {
-        POINT pointer{};
-        ::GetCursorPos(&pointer);
-        const bool isThere = pointer.x == screen.x && pointer.y == screen.y;
-        steady = isThere ? steady + 1 : 0;
-        if (!isThere) SendMouse(screen);
+    constexpr int mostLooks = 100;
+    int looks = 0;
+    POINT pointer{};
+    do {
+        SendMouse(screen);
         WaitForReports(::WindowFromPoint(screen));
-        ::Sleep(1);
-    }
+        ::GetCursorPos(&pointer);
+    } while ((pointer.x != screen.x || pointer.y != screen.y) && ++looks < mostLooks);
 }
 
 bool IsHeld(WORD key) { return (::GetAsyncKeyState(key) & 0x8000) != 0; }
@@ -75,14 +77,11 @@ bool IsHeld(WORD key) { return (::GetAsyncKeyState(key) & 0x8000) != 0; }
 /// into a window, it tells which keys it believes to be pressed, and the platform lets go of all others.
 void Hold(WORD modifier) {
     constexpr int mostLooks = 100;
-    constexpr int enough = 2;
     constexpr DWORD longestHandover = 1000;
-    int steady = 0;
     Eventually(HasDisplayFocus, longestHandover);
     WaitForReports(::GetForegroundWindow());
-    for (int look = 0; look < mostLooks && steady < enough; ++look) {
-        steady = IsHeld(modifier) ? steady + 1 : 0;
-        if (steady == 0) KeyDown(modifier);
+    for (int look = 0; look < mostLooks && !IsHeld(modifier); ++look) {
+        KeyDown(modifier);
         WaitForReports(::GetForegroundWindow());
     }
 }
