@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Milliseconds without an answer; on a machine with much else to do a second may pass.
-constexpr UINT hang = 5000;
+/// Milliseconds without an answer.
+constexpr UINT hang = 1000;
 
 constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
 

@@ -64,24 +64,19 @@ void Hands::clickOn(int id) {
     isClickedLeft = !isClickedLeft;
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
-    const Front front = eyes.frontWindow();
     const POINT place = {middle.x + (isClickedLeft ? -aside : aside), middle.y};
     uncover(Front::main, place);
     Click(place);
-    // Keys go to the program that is in front when they are pressed.
-    constexpr DWORD longEnough = 1000;
-    if (front == Front::main) return;
-    Soon([&] { return eyes.frontWindow() == Front::main; }, longEnough);
-    bring(Front::main);
 }
 
-/// Clicks until the focus has come.
+/// Clicks until the focus has come. Keys go to the program that is in front when they are pressed.
 void Hands::focusOn(int id) {
     constexpr DWORD longEnough = 1000;
     Soon([&] {
         clickOn(id);
         return Soon([&] { return eyes.focus() == eyes.control(id); }, longEnough);
     });
+    bring(Front::main);
 }
 
 void Hands::retype(int id, const std::string& text) {

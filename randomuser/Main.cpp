@@ -42,7 +42,7 @@ ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULO
 double SecondsSince(ULONGLONG begin) { return static_cast<double>(::GetTickCount64() - begin) / 1000; }
 
 double ShareOfTests() {
-    constexpr double usual = 0.5;
+    constexpr double usual = 3;
     const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
     return minutes ? std::atof(minutes) : usual;
 }
@@ -99,7 +99,7 @@ void Print(const Actions& actions) {
     for (const Action& action : actions) std::puts(("    " + LineOf(action)).c_str());
 }
 
-void Save(const Actions& actions, const char* path) {
+void Save(const Actions& actions, const std::string& path) {
     std::ofstream file(path);
     for (const Action& action : actions) file << LineOf(action) << '\n';
 }
@@ -124,8 +124,9 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
                            outcome.played.end());
     }
     Print(*shortest);
-    Save(outcome.played, "soak-whole.txt");
-    Save(*shortest, "soak-sequence.txt");
+    const std::string name = "soak-" + std::to_string(options.seed);
+    Save(outcome.played, name + "-whole.txt");
+    Save(*shortest, name + "-shortest.txt");
 }
 
 Actions ReadActions(const std::string& path) {

@@ -166,7 +166,8 @@ add_test(NAME ui.random_user
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --share-of-tests
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
-set_tests_properties(ui.random_user PROPERTIES TIMEOUT 1800 LABELS soak)
+# It takes longest and is started first.
+set_tests_properties(ui.random_user PROPERTIES TIMEOUT 1800 COST 1000)
 
 add_test(NAME product.size_imports_and_hardening
     COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
