@@ -18,6 +18,7 @@ add_executable(program_tests
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
     toolkit/FormTest.cpp
+    toolkit/FormUnloadTest.cpp
     toolkit/IconPixelsTest.cpp
     toolkit/LabelTest.cpp
     toolkit/ModalFormTest.cpp
@@ -25,7 +26,6 @@ add_executable(program_tests
     toolkit/ScalingTest.cpp
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
-    ui/DisplayFocus.cpp
     ui/Input.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
@@ -36,7 +36,7 @@ target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_
 
 # What acts on the running program from another process, by real keys and mouse.
 add_library(ui_driver STATIC
-    ui/DisplayFocus.cpp
+    ui/Dialogs.cpp
     ui/Huevox.cpp
     ui/Input.cpp
     ui/Palettes.cpp

@@ -2,38 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-#include <random>
-
-#include "palette/FirstLines.h"
+#include "tests/palette/PaletteTexts.h"
 
 namespace {
-
-bool NoLeadByte(char) { return false; }
 
 /// As in a code page of Japanese, where 0x5C, a backslash, may be the second byte of a character.
 bool ShiftJisLeadByte(char byte) {
     const auto value = static_cast<unsigned char>(byte);
     return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
-}
-
-std::string FileText(const std::string& name) {
-    std::ifstream file(std::string(HUEVOX_TEST_FILES) + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-std::vector<std::string> LinesOf(std::string_view text, std::size_t most = linesLookedAt) {
-    FirstLines lines(most, most);
-    lines.take(text);
-    const std::vector kept = lines.kept();
-    return {kept.begin(), kept.end()};
-}
-
-std::optional<Palette> Parsed(std::string_view text, LeadByteTest isLeadByte = NoLeadByte) {
-    FirstLines lines(linesLookedAt, linesLookedAt);
-    lines.take(text);
-    return ParsePaletteLines(lines.kept(), isLeadByte);
 }
 
 std::string Joined(const std::vector<std::string>& lines) {
@@ -78,74 +54,13 @@ std::optional<Palette> CurrentWith(std::size_t line, const std::string& text) {
     return Parsed(Joined(lines));
 }
 
-Palette SavedPalette() {
-    return {.names = {"Sea", "Type a colour name", "a, b] and [c", "caf\xE9", "", "lightgoldenrodyellow!"},
-            .colors = {ColorOf(0, 128, 255), ColorOf(255, 0, 128), ColorOf(0, 0, 0), ColorOf(255, 255, 255),
-                       ColorOf(1, 20, 255), ColorOf(250, 250, 210)}};
-}
-
 Palette OlderPalette() {
     return {.names = {"Brick", "Night", "x, y]", "", "white", "Type a colour name"},
             .colors = {ColorOf(178, 34, 34), ColorOf(0, 0, 128), ColorOf(255, 255, 0), ColorOf(0, 0, 0),
                        ColorOf(255, 255, 255), ColorOf(7, 70, 207)}};
 }
 
-std::string CustomLine(const Palette& palette, std::string_view customFormat) {
-    const std::string text = WritePaletteFile(palette, customFormat);
-    return LinesOf(text)[29];
-}
-
 }  // namespace
-
-TEST(WritePaletteFile, WritesThe100LinesByteForByte) {
-    EXPECT_EQ(WritePaletteFile(SavedPalette(), "rgb %UR%/%LG%/%DB% (%LD%) %ur%"), FileText("saved.txt"));
-}
-
-TEST(WritePaletteFile, AnEmptyTemplateGivesCustomWithNothingAfterIt) {
-    EXPECT_EQ(CustomLine(SavedPalette(), ""), "Custom:");
-}
-
-TEST(WritePaletteFile, ATemplateOfABlankIsNotEmpty) {
-    EXPECT_EQ(CustomLine(SavedPalette(), " "), "Custom:  ");
-}
-
-TEST(WritePaletteFile, TokensAreMatchedCaseSensitively) {
-    Palette palette = SavedPalette();
-    palette.colors[0] = ColorOf(255, 0, 0);
-    EXPECT_EQ(CustomLine(palette, "%UR%%ur%"), "Custom: FF%ur%");
-}
-
-TEST(AsSaved, NotJavaScriptColourIsSavedAsTypeAColourName) {
-    Palette palette = SavedPalette();
-    palette.names[4] = "Not JavaScript colour";
-    palette.names[5] = "not JavaScript colour";
-    const std::optional<Palette> read = Parsed(WritePaletteFile(AsSaved(palette), ""));
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->names[4], "Type a colour name");
-    EXPECT_EQ(read->names[5], "not JavaScript colour");
-    EXPECT_EQ(read->names[0], "Sea");
-}
-
-TEST(PaletteFile, WrittenAndReadBackIsTheSame) {
-    const std::optional<Palette> read = Parsed(WritePaletteFile(SavedPalette(), "%UR%"));
-    EXPECT_EQ(read, SavedPalette());
-}
-
-TEST(PaletteFile, AnyNamesAndColorsComeBack) {
-    std::mt19937 random(20041);
-    const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
-    for (int round = 0; round < 5000; ++round) {
-        Palette palette;
-        for (int mark = 0; mark < markCount; ++mark) {
-            for (int left = upTo(longestName); left > 0; --left) {
-                const char character = static_cast<char>(1 + upTo(254));
-                if (character != '\n') palette.names[mark] += character;
-            }
-            palette.colors[mark] = ColorOf(upTo(255), upTo(255), upTo(255));
-        }
-        ASSERT_EQ(Parsed(WritePaletteFile(palette, "%LD%")), palette) << round;
-    }
-}
 
 TEST(ParsePaletteLines, ReadsTheCurrentGeneration) {
     EXPECT_EQ(Parsed(FileText("saved.txt")), SavedPalette());

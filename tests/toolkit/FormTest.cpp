@@ -1,38 +1,12 @@
 // A form from its load to its unload, and what it passes on to its controls.
 #include "toolkit/Form.h"
 
-#include <gtest/gtest.h>
-
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-#include "tests/toolkit/TestForm.h"
+#include "tests/toolkit/FormFixture.h"
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
-
-namespace {
-
-class FormTest : public testing::Test {
-protected:
-    void SetUp() override {
-        ForgetQuit();
-        PrepareControls();
-    }
-
-    void show() {
-        form.load();
-        form.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
-        PumpAll();
-    }
-
-    std::vector<std::string> events;
-    TestForm form;
-};
-
-}  // namespace
 
 TEST_F(FormTest, LoadComesFirstAndTicksAndActivationsWaitForItsEnd) {
     form.tmrTest.Tick.bind([&] { events.emplace_back("Tick"); });
@@ -117,76 +91,6 @@ TEST_F(FormTest, AHeldControlIsAChildOfItsContainerAtItsPlaceOnTheForm) {
     EXPECT_EQ(place.left, form.scaled(210));
     EXPECT_EQ(place.top, form.scaled(200));
     form.unload();
-}
-
-TEST_F(FormTest, QueryUnloadCanKeepIt) {
-    bool isKept = true;
-    form.QueryUnload.bind([&](bool& isCancelled) { isCancelled = isKept; });
-    form.Unload.bind([&] { events.emplace_back("Unload"); });
-    form.load();
-    form.unload();
-    EXPECT_TRUE(form.isLoaded());
-    EXPECT_TRUE(events.empty());
-    isKept = false;
-    form.unload();
-    EXPECT_FALSE(form.handle());
-    EXPECT_EQ(events, (std::vector<std::string>{"Unload"}));
-}
-
-TEST_F(FormTest, TheCloseBoxUnloadsUnlessAModalWindowHasDisabledTheForm) {
-    show();
-    ::EnableWindow(form.handle(), FALSE);
-    ::SendMessageA(form.handle(), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(form.isLoaded());
-    ::EnableWindow(form.handle(), TRUE);
-    ::SendMessageA(form.handle(), WM_CLOSE, 0, 0);
-    EXPECT_FALSE(form.handle());
-}
-
-TEST_F(FormTest, AtTheEndOfTheSessionAsksOnceAndUnloadsWhenItReallyEnds) {
-    int asked = 0;
-    bool isCancelled = true;
-    form.QueryUnload.bind([&](bool& cancel) {
-        ++asked;
-        cancel = isCancelled;
-    });
-    form.load();
-    EXPECT_FALSE(::SendMessageA(form.handle(), WM_QUERYENDSESSION, 0, 0));
-    isCancelled = false;
-    EXPECT_TRUE(::SendMessageA(form.handle(), WM_QUERYENDSESSION, 0, 0));
-    ::SendMessageA(form.handle(), WM_ENDSESSION, FALSE, 0);
-    EXPECT_TRUE(form.isLoaded());
-    EXPECT_EQ(asked, 2);
-    ::SendMessageA(form.handle(), WM_ENDSESSION, TRUE, 0);
-    EXPECT_FALSE(form.handle());
-    EXPECT_EQ(asked, 2);
-}
-
-TEST_F(FormTest, AtTheEndOfTheSessionAnOpenQuestionIsAnsweredFirst) {
-    LRESULT mayEnd = TRUE;
-    int asked = 0;
-    form.QueryUnload.bind([&](bool& isCancelled) {
-        ++asked;
-        mayEnd = ::SendMessageA(form.handle(), WM_QUERYENDSESSION, 0, 0);
-        isCancelled = true;
-    });
-    form.load();
-    form.unload();
-    EXPECT_EQ(asked, 1);
-    EXPECT_FALSE(mayEnd);
-    form.QueryUnload.bind([](bool&) {});
-    form.unload();
-}
-
-TEST_F(FormTest, TheLastOneEndsTheMessageLoop) {
-    TestForm second;
-    form.load();
-    second.load();
-    form.unload();
-    MSG message;
-    EXPECT_FALSE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    second.unload();
-    EXPECT_EQ(RunMessageLoop(), 0);
 }
 
 TEST_F(FormTest, CommandsComeFromMenuAndShortcutUnlessTheFormIsDisabled) {

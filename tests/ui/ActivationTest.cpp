@@ -1,5 +1,4 @@
 // What does a return to the window do?
-#include "tests/ui/DisplayFocus.h"
 #include "tests/ui/PickerWindow.h"
 #include "tests/ui/UiTest.h"
 
@@ -20,14 +19,6 @@ TEST_F(Activation, CopiesTheColorAgainOverWhatWasCopiedElsewhere) {
     }
     ::SetForegroundWindow(huevox.window());
     EXPECT_BECOMES(ClipboardText(), "#FF0000");
-}
-
-TEST_F(Activation, BringsTheDisplaysFocus) {
-    const Huevox huevox;
-    EXPECT_TRUE(Eventually(HasDisplayFocus));
-    Press(VK_F9);
-    ASSERT_TRUE(Eventually([&] { return ::GetForegroundWindow() == huevox.form("frmOptions"); }));
-    EXPECT_TRUE(Eventually(HasDisplayFocus));
 }
 
 TEST_F(Activation, KeepsNotationAndFocus) {

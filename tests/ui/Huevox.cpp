@@ -241,14 +241,3 @@ Color Pixel(POINT screen) {
     ::ReleaseDC(nullptr, context);
     return Unpack(static_cast<PackedColor>(color));
 }
-
-std::string MessageOf(HWND dialog) {
-    constexpr int messageText = 0xFFFF;
-    return TextOf(::GetDlgItem(dialog, messageText));
-}
-
-void Answer(HWND dialog, int button) {
-    ::PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                   reinterpret_cast<LPARAM>(::GetDlgItem(dialog, button)));
-    Eventually([&] { return !::IsWindow(dialog); });
-}

@@ -92,8 +92,3 @@ private:
 
 /// The colour of a pixel of the screen.
 Color Pixel(POINT screen);
-
-/// The text of a message box.
-std::string MessageOf(HWND dialog);
-/// Presses a button of a message box, such as IDOK, and waits until the box is gone.
-void Answer(HWND dialog, int button);

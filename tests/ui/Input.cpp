@@ -1,6 +1,5 @@
 #include "tests/ui/Input.h"
 
-#include "tests/ui/DisplayFocus.h"
 #include "tests/ui/Wait.h"
 
 namespace {
@@ -71,28 +70,13 @@ void RestPointer(POINT screen) {
     } while ((pointer.x != screen.x || pointer.y != screen.y) && ++looks < mostLooks);
 }
 
-bool IsHeld(WORD key) { return (::GetAsyncKeyState(key) & 0x8000) != 0; }
-
-/// Holds a modifier key until it stays held: when the display tells that the focus or the pointer has come
-/// into a window, it tells which keys it believes to be pressed, and the platform lets go of all others.
-void Hold(WORD modifier) {
-    constexpr int mostLooks = 100;
-    constexpr DWORD longestHandover = 1000;
-    Eventually(HasDisplayFocus, longestHandover);
-    WaitForReports(::GetForegroundWindow());
-    for (int look = 0; look < mostLooks && !IsHeld(modifier); ++look) {
-        KeyDown(modifier);
-        WaitForReports(::GetForegroundWindow());
-    }
-}
-
 }  // namespace
 
 void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
-    for (const WORD modifier : modifiers) Hold(modifier);
+    for (const WORD modifier : modifiers) KeyDown(modifier);
     KeyDown(key);
     KeyUp(key);
     for (const WORD modifier : modifiers) KeyUp(modifier);

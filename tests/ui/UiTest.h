@@ -7,6 +7,7 @@
 
 #include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"
+#include "tests/ui/Dialogs.h"
 #include "tests/ui/Huevox.h"
 #include "tests/ui/Input.h"
 #include "tests/ui/Wait.h"

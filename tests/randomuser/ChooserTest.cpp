@@ -1,0 +1,39 @@
+#include "randomuser/Chooser.h"
+
+#include <algorithm>
+
+#include "tests/randomuser/SoakModel.h"
+
+TEST_F(SoakModel, IsNeverAtALossForTheNextAction) {
+    Chooser chooser(7);
+    Chooser same(7);
+    for (int step = 0; step < 20'000; ++step) {
+        const Action action = chooser.next(model);
+        ASSERT_EQ(same.next(model), action);
+        model.play(action);
+    }
+}
+
+TEST(SoakChooser, ComesToRarePathsOften) {
+    const Facts facts(ReadJavaScriptColors());
+    for (unsigned seed = 1; seed <= 5; ++seed) {
+        Chooser chooser(seed);
+        Model model(facts);
+        int givenUp = 0;
+        int searches = 0;
+        bool isNew = false;
+        for (int step = 0; step < 20'000; ++step) {
+            const Action action = chooser.next(model);
+            if (action.kind == Kind::newPalette) isNew = model.isChanged();
+            if (!model.look().box.isOpen() && action.kind != Kind::newPalette) isNew = false;
+            const bool isSaveAs = model.look().box.title == "Save Palette As";
+            if (isNew && isSaveAs && action.kind == Kind::cancelDialog) ++givenUp;
+            const SixMarks marks = model.look().marks;
+            model.play(action);
+            const bool hasAliceblue = std::ranges::count(marks.colors, ColorOf(0xF0, 0xF8, 0xFF)) > 0;
+            if (action.kind == Kind::findNames && hasAliceblue) ++searches;
+        }
+        EXPECT_GE(givenUp, 3) << seed;
+        EXPECT_GE(searches, 3) << seed;
+    }
+}

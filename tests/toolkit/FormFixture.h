@@ -1,0 +1,28 @@
+// How does a test hold a form of its own?
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/toolkit/TestForm.h"
+#include "toolkit/Pump.h"
+
+class FormTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ForgetQuit();
+        PrepareControls();
+    }
+
+    void show() {
+        form.load();
+        form.show(SW_SHOWNORMAL);
+        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
+        PumpAll();
+    }
+
+    std::vector<std::string> events;
+    TestForm form;
+};
