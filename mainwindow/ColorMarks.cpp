@@ -1,5 +1,7 @@
 #include "mainwindow/ColorMarks.h"
 
+#include <optional>
+
 #include "core/ChannelText.h"
 #include "core/ColorTables.h"
 #include "resources/resource.h"
@@ -8,7 +10,6 @@
 
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF nameHighlight = RGB(255, 250, 205);
 
 }  // namespace
@@ -68,7 +69,7 @@ void ColorMarks::Rename(int mark, std::string_view name) {
 }
 
 void ColorMarks::WhitenNames() {
-    for (TextBox& box : txtName) box.setBackColor(white);
+    for (TextBox& box : txtName) box.setBackColor(std::nullopt);
 }
 
 void ColorMarks::EnableSelectedSample() {
@@ -121,7 +122,7 @@ void ColorMarks::optColor_Click(int mark) {
 }
 
 void ColorMarks::txtName_Change(int mark) {
-    txtName(mark).setBackColor(white);
+    txtName(mark).setBackColor(std::nullopt);
     DescribeSample(mark);
     if (edit.nameFillInProgress || txtName(mark).text() != messages::notJavaScript) return;
     txtName(mark).setText(messages::noName);
