@@ -26,6 +26,8 @@ ColorMarks::ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors
       picSample(form, IDC_picSample),
       lblColorProp(form, IDC_lblColorProp) {
     optColor.bind(&OptionButton::Click, this, &ColorMarks::optColor_Click);
+    optColor.bind(&OptionButton::GotFocus, this, &ColorMarks::optColor_GotFocus);
+    optColor.bind(&OptionButton::LostFocus, this, &ColorMarks::optColor_LostFocus);
     txtName.bind(&TextBox::Change, this, &ColorMarks::txtName_Change);
     txtName.bind(&TextBox::Click, this, &ColorMarks::txtName_Click);
     txtName.bind(&TextBox::DblClick, this, &ColorMarks::txtName_DblClick);
@@ -120,6 +122,11 @@ void ColorMarks::optColor_Click(int mark) {
     const Color color = channels.SliderColor();
     target.SetSelectedColor(color.red, color.green, color.blue);
 }
+
+// The button is too small for a frame of its own.
+void ColorMarks::optColor_GotFocus(int mark) { picSample(mark).setFocusFrame(true); }
+
+void ColorMarks::optColor_LostFocus(int mark) { picSample(mark).setFocusFrame(false); }
 
 void ColorMarks::txtName_Change(int mark) {
     txtName(mark).setBackColor(std::nullopt);
