@@ -19,7 +19,7 @@ public:
 
 private:
     static void use(const char* isActive) {
-        ::RegSetKeyValueA(HKEY_CURRENT_USER, "Software\\Microsoft\\Windows\\CurrentVersion\\ThemeManager",
+        ::RegSetKeyValueA(HKEY_CURRENT_USER, R"(Software\Microsoft\Windows\CurrentVersion\ThemeManager)",
                           "ThemeActive", REG_SZ, isActive, 2);
     }
 };

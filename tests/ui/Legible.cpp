@@ -40,7 +40,10 @@ std::vector<std::uint32_t> PixelsOf(const RECT& screen) {
     return pixels;
 }
 
-Color ColorIn(std::uint32_t pixel) { return ColorOf(pixel >> 16 & 255, pixel >> 8 & 255, pixel & 255); }
+Color ColorIn(std::uint32_t pixel) {
+    return ColorOf(static_cast<int>(pixel >> 16 & 255), static_cast<int>(pixel >> 8 & 255),
+                   static_cast<int>(pixel & 255));
+}
 
 double Luminance(const Color& color) {
     const auto linear = [](int channel) {
@@ -50,13 +53,13 @@ double Luminance(const Color& color) {
     return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-std::string KindOf(HWND window) {
+std::string ClassOf(HWND window) {
     std::array<char, 50> name{};
     ::GetClassNameA(window, name.data(), name.size());
     return name.data();
 }
 
-std::string TextOf(HWND window) {
+std::string CaptionOf(HWND window) {
     std::array<char, 300> text{};
     ::SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
     return text.data();
@@ -85,11 +88,11 @@ void ExpectButton(HWND button, double least) {
     } else if (kind != BS_PUSHBUTTON && kind != BS_DEFPUSHBUTTON) {
         RECT circle = Inside(button, 0);
         circle.right = std::min(circle.right, circle.left + circleWidth);
-        ExpectToBe(visible, circle, TextOf(button) + ", its circle");
+        ExpectToBe(visible, circle, CaptionOf(button) + ", its circle");
         area.left = circle.right;
         if (area.left >= area.right) return;
     }
-    ExpectToBe(least, area, TextOf(button));
+    ExpectToBe(least, area, CaptionOf(button));
 }
 
 void ExpectRows(HWND list, double least) {
@@ -104,7 +107,7 @@ void ExpectRows(HWND list, double least) {
 }
 
 BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
-    const std::string kind = KindOf(control);
+    const std::string kind = ClassOf(control);
     const double least = ::IsWindowEnabled(control) ? legible : visible;
     if (!::IsWindowVisible(control)) return TRUE;
     if (kind == "Button") {
@@ -113,8 +116,8 @@ BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
         ExpectRows(control, least);
     } else if (kind == "ScrollBar") {
         ExpectToBe(visible, Inside(control, 0), "a slider");
-    } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !TextOf(control).empty()) {
-        ExpectToBe(least, Inside(control, kind == "Edit" ? 3 : 0), TextOf(control));
+    } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !CaptionOf(control).empty()) {
+        ExpectToBe(least, Inside(control, kind == "Edit" ? 3 : 0), CaptionOf(control));
     }
     return TRUE;
 }

@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr Color black = ColorOf(0, 0, 0);
-constexpr Color white = ColorOf(255, 255, 255);
-constexpr Color gray = ColorOf(128, 128, 128);
+constexpr Color darkest = ColorOf(0, 0, 0);
+constexpr Color lightest = ColorOf(255, 255, 255);
+constexpr Color middle = ColorOf(128, 128, 128);
 
 constexpr int colorCount = COLOR_MENUBAR + 1;
 constexpr std::array<int, 13> grounds = {COLOR_SCROLLBAR,
@@ -29,9 +29,9 @@ constexpr std::array<int, 9> texts = {COLOR_WINDOWFRAME,  COLOR_MENUTEXT,   COLO
 }  // namespace
 
 const Theme blackTheme = {
-    "Black", black, white, ColorOf(0, 255, 0), ColorOf(26, 235, 255), black, ColorOf(255, 255, 0)};
-const Theme whiteTheme = {"White",           white, black, ColorOf(96, 0, 0), ColorOf(55, 0, 110), white,
-                          ColorOf(0, 0, 159)};
+    "Black", darkest, lightest, ColorOf(0, 255, 0), ColorOf(26, 235, 255), darkest, ColorOf(255, 255, 0)};
+const Theme whiteTheme = {"White",  lightest,          darkest, ColorOf(96, 0, 0), ColorOf(55, 0, 110),
+                          lightest, ColorOf(0, 0, 159)};
 
 SystemColors::SystemColors() {
     for (int index = 0; index < colorCount; ++index) {
@@ -46,7 +46,7 @@ void SystemColors::use(const Theme& theme) const {
     std::vector<COLORREF> colors = before;
     for (const int index : grounds) colors[index] = Pack(theme.ground);
     for (const int index : texts) colors[index] = Pack(theme.text);
-    colors[COLOR_BTNSHADOW] = Pack(gray);
+    colors[COLOR_BTNSHADOW] = Pack(middle);
     colors[COLOR_GRAYTEXT] = Pack(theme.grayed);
     colors[COLOR_HIGHLIGHT] = Pack(theme.selected);
     colors[COLOR_MENUHILIGHT] = Pack(theme.selected);
