@@ -7,6 +7,7 @@
 
 ColorBar::ColorBar(Form& form, ChannelEditors& channels)
     : channels(channels), lblColorBar(form, IDC_lblColorBar) {
+    lblColorBar.setEdged();
     lblColorBar.Click.bind(this, &ColorBar::lblColorBar_Click);
     std::vector<Area> steps;
     for (int step = 0; step < barSteps; ++step) {

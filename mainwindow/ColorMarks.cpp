@@ -1,5 +1,7 @@
 #include "mainwindow/ColorMarks.h"
 
+#include <optional>
+
 #include "core/ChannelText.h"
 #include "core/ColorTables.h"
 #include "resources/resource.h"
@@ -8,7 +10,6 @@
 
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF nameHighlight = RGB(255, 250, 205);
 
 }  // namespace
@@ -25,6 +26,8 @@ ColorMarks::ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors
       picSample(form, IDC_picSample),
       lblColorProp(form, IDC_lblColorProp) {
     optColor.bind(&OptionButton::Click, this, &ColorMarks::optColor_Click);
+    optColor.bind(&OptionButton::GotFocus, this, &ColorMarks::optColor_GotFocus);
+    optColor.bind(&OptionButton::LostFocus, this, &ColorMarks::optColor_LostFocus);
     txtName.bind(&TextBox::Change, this, &ColorMarks::txtName_Change);
     txtName.bind(&TextBox::Click, this, &ColorMarks::txtName_Click);
     txtName.bind(&TextBox::DblClick, this, &ColorMarks::txtName_DblClick);
@@ -68,7 +71,7 @@ void ColorMarks::Rename(int mark, std::string_view name) {
 }
 
 void ColorMarks::WhitenNames() {
-    for (TextBox& box : txtName) box.setBackColor(white);
+    for (TextBox& box : txtName) box.setBackColor(std::nullopt);
 }
 
 void ColorMarks::EnableSelectedSample() {
@@ -120,8 +123,13 @@ void ColorMarks::optColor_Click(int mark) {
     target.SetSelectedColor(color.red, color.green, color.blue);
 }
 
+// The button is too small for a frame of its own.
+void ColorMarks::optColor_GotFocus(int mark) { picSample(mark).setFocusFrame(true); }
+
+void ColorMarks::optColor_LostFocus(int mark) { picSample(mark).setFocusFrame(false); }
+
 void ColorMarks::txtName_Change(int mark) {
-    txtName(mark).setBackColor(white);
+    txtName(mark).setBackColor(std::nullopt);
     DescribeSample(mark);
     if (edit.nameFillInProgress || txtName(mark).text() != messages::notJavaScript) return;
     txtName(mark).setText(messages::noName);

@@ -47,6 +47,8 @@ public:
 
 private:
     void optColor_Click(int mark);
+    void optColor_GotFocus(int mark);
+    void optColor_LostFocus(int mark);
     void txtName_Change(int mark);
     void txtName_Click(int mark);
     void txtName_DblClick(int mark);

@@ -26,7 +26,7 @@ frmJavaScript::frmJavaScript(const Settings& settings, ChannelEditors& channels)
     Command.bind(this, &frmJavaScript::tbrSortTools_ButtonClick);
     lblJavaScriptColor.MouseDown.bind(this, &frmJavaScript::lblJavaScriptColor_MouseDown);
     lblJavaScriptColor.setPlaces(JavaScriptPlaces());
-    setBackground(static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    setBackground(COLOR_WINDOW);
 }
 
 void frmJavaScript::Form_Load() {

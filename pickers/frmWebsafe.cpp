@@ -14,7 +14,7 @@ frmWebsafe::frmWebsafe(ChannelEditors& channels)
     Load.bind(this, &frmWebsafe::Form_Load);
     lblWebsafeColor.MouseDown.bind(this, &frmWebsafe::lblWebsafeColor_MouseDown);
     lblWebsafeColor.setPlaces(WebsafePlaces());
-    setBackground(static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    setBackground(COLOR_WINDOW);
 }
 
 void frmWebsafe::Form_Load() {

@@ -103,5 +103,6 @@ HWND Eyes::windowOf(Front front) const {
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
 
 POINT Eyes::barStep(int step) const {
-    return OnScreen(control(IDC_lblColorBar), {BarStepLeft(step), barStepHeight / 2});
+    constexpr int edge = 1;
+    return OnScreen(control(IDC_lblColorBar), {BarStepLeft(step) + edge, barStepHeight / 2});
 }

@@ -14,6 +14,7 @@ add_executable(program_tests
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
     program/ScreenPickTest.cpp
+    program/SystemColorsTest.cpp
     program/TextFitTest.cpp
     toolkit/CellStripTest.cpp
     toolkit/EventContractTest.cpp
@@ -26,7 +27,9 @@ add_executable(program_tests
     toolkit/ScalingTest.cpp
     toolkit/ToolBarTest.cpp
     toolkit/YieldTest.cpp
-    ui/Input.cpp)
+    ui/Input.cpp
+    ui/Legible.cpp
+    ui/Theme.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
 target_link_libraries(Planted PRIVATE huevox_flags)
@@ -39,8 +42,10 @@ add_library(ui_driver STATIC
     ui/Dialogs.cpp
     ui/Huevox.cpp
     ui/Input.cpp
+    ui/Legible.cpp
     ui/Palettes.cpp
     ui/PickerWindow.cpp
+    ui/Theme.cpp
     ui/UiTest.cpp)
 target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
@@ -66,6 +71,7 @@ add_executable(ui_tests
     ui/FormatDialogTest.cpp
     ui/FormatLimitTest.cpp
     ui/HelpTest.cpp
+    ui/HighContrastTest.cpp
     ui/HomePageTest.cpp
     ui/JavaScriptNamesTest.cpp
     ui/JavaScriptPickerTest.cpp

@@ -20,3 +20,10 @@ void OptionButton::onCommand(int /*id*/, int code) {
     turnOn();
     Click.raise();
 }
+
+LRESULT OptionButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = Control::onMessage(message, wParam, lParam);
+    if (message == WM_SETFOCUS) GotFocus.raise();
+    if (message == WM_KILLFOCUS) LostFocus.raise();
+    return result;
+}

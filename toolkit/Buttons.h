@@ -40,13 +40,17 @@ public:
     OptionButton(Form& form, int id, OptionGroup& group) : Control(form, id), group(group) {}
 
     Event<> Click;  ///< the user has turned the button on; turnOn raises nothing
+    Event<> GotFocus;
+    Event<> LostFocus;
 
     bool value() const { return group.on == this; }
     /// Turns this button on and the rest of its group off.
     void turnOn();
 
 private:
+    void attached() override { subclass(); }
     void onCommand(int id, int code) override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     OptionGroup& group;
 };

@@ -111,23 +111,20 @@ void CellStrip::paint() {
     for (std::size_t cell = 0; cell < count; ++cell) {
         FillWithColor(painting.context(), placeOf(cell), static_cast<COLORREF>(colors[cell]));
     }
-    // The platform hides such frames until the keyboard is used.
-    const bool isHidden = (send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0;
-    if (hasFocus() && !isHidden && !colors.empty()) paintFrame(painting.context());
+    if (isEdged) {
+        RECT area{};
+        ::GetClientRect(handle(), &area);
+        PaintEdge(painting.context(), area);
+    }
+    if (hasFocus() && !colors.empty()) paintFrame(painting.context());
 }
 
-/// Black around white, so that it is seen on any colour, and wide enough to be seen around the narrowest
-/// cell.
+/// Wide enough to be seen around the narrowest cell.
 void CellStrip::paintFrame(HDC context) const {
     RECT frame = placeOf(framedCell);
     const int narrow = form.scaled(narrowestFrame) - static_cast<int>(frame.right - frame.left);
     if (narrow > 0) ::InflateRect(&frame, narrow / 2, 0);
-    for (const int color : {BLACK_BRUSH, WHITE_BRUSH}) {
-        for (int line = 0; line < form.scaled(1); ++line) {
-            ::FrameRect(context, &frame, static_cast<HBRUSH>(::GetStockObject(color)));
-            ::InflateRect(&frame, -1, -1);
-        }
-    }
+    PaintFocusFrame(handle(), context, frame, form.scaled(1));
 }
 
 void CellStrip::setFirstCell(int cell) {

@@ -31,6 +31,9 @@ public:
     /// Places in twips from the left and top of the strip; a later cell lies over an earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
+    /// Its outermost pixels are an edge, for strips that do not fill their window.
+    void setEdged() { isEdged = true; }
+
     /// The cell that the keyboard begins with; it stays while the strip has the focus.
     void setFirstCell(int cell);
 
@@ -74,4 +77,5 @@ private:
     int pressedCell = -1;
     int framedCell = 0;
     bool isHeld = false;
+    bool isEdged = false;
 };

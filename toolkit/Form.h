@@ -62,8 +62,8 @@ public:
     /// The pointer over the form and while it has captured the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
-    /// One of the platform's own brushes, in place of that of dialogs.
-    void setBackground(HBRUSH brush) { background = brush; }
+    /// One of the system's colours, COLOR_WINDOW for instance, in place of that of dialogs.
+    void setBackground(int systemColor) { background = systemColor; }
 
     /// Pixels at 96 DPI in pixels of this window.
     int scaled(int pixels) const { return ::MulDiv(pixels, layout.dpi(), USER_DEFAULT_SCREEN_DPI); }
@@ -108,7 +108,7 @@ private:
     HWND owner = nullptr;  ///< of a modal form
     HACCEL accelerators = nullptr;
     HCURSOR pointer = nullptr;
-    HBRUSH background = nullptr;
+    int background = COLOR_BTNFACE;
     std::unique_ptr<ToolTips> toolTips;
     ControlList controls;
     std::vector<Timer*> timers;

@@ -112,7 +112,8 @@ LRESULT Form::Receiver::onScroll(int code, int position, HWND sender) {
 }
 
 LRESULT Form::Receiver::onColor(HDC context, HWND sender) {
-    if (sender == form.window) return reinterpret_cast<LRESULT>(form.background);
+    // The brush of a colour may be another one when the user has changed the theme.
+    if (sender == form.window) return reinterpret_cast<LRESULT>(::GetSysColorBrush(form.background));
     Control* control = form.controls.withWindow(sender);
     return control ? reinterpret_cast<LRESULT>(control->onColor(context)) : 0;
 }

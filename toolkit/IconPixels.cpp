@@ -42,28 +42,31 @@ Drawing FindDrawing(int icon, int wantedSize) {
 
 // Read from the resources: to make an icon only to ask it for its colours again takes the platform
 // milliseconds each.
-OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize) {
+OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize, int imageSize) {
     std::vector<Drawing> drawings;
     for (const int icon : icons) drawings.push_back(FindDrawing(icon, wantedSize));
     const int size = drawings.front().size;
     const int count = static_cast<int>(drawings.size());
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = count * size;
-    info.bmiHeader.biHeight = size;
+    const int image = std::max(size, imageSize);
+    info.bmiHeader.biWidth = count * image;
+    info.bmiHeader.biHeight = image;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
     const OwnedBitmap strip(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!strip) throw std::runtime_error("the platform refused a bitmap");
-    auto* target = static_cast<std::uint32_t*>(bits);
+    const int room = (image - size) / 2;
     for (int row = 0; row < size; ++row) {
+        auto* target = static_cast<std::uint32_t*>(bits) + (room + row) * count * image + room;
         for (const Drawing& drawing : drawings) {
-            target = std::transform(drawing.row(row), drawing.row(row) + size, target,
-                                    [&](BYTE index) { return drawing.palette[index]; });
+            std::transform(drawing.row(row), drawing.row(row) + size, target,
+                           [&](BYTE index) { return drawing.palette[index]; });
+            target += image;
         }
     }
-    OwnedImages images(::ImageList_Create(size, size, ILC_COLOR32, count, 0));
+    OwnedImages images(::ImageList_Create(image, image, ILC_COLOR32, count, 0));
     ::ImageList_Add(images.get(), strip.get(), nullptr);
     return images;
 }

@@ -19,6 +19,23 @@ private:
     PAINTSTRUCT paint{};
 };
 
+/// The line that tells an area of any colour from what is around it.
+inline void PaintEdge(HDC context, const RECT& area) {
+    ::FrameRect(context, &area, ::GetSysColorBrush(COLOR_3DSHADOW));
+}
+
+/// Where the focus is, unless the window hides that until the keyboard is used. Black around white, so that
+/// it is seen on any colour; each line has that width.
+inline void PaintFocusFrame(HWND window, HDC context, RECT frame, int width) {
+    if (::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) return;
+    for (const int color : {BLACK_BRUSH, WHITE_BRUSH}) {
+        for (int line = 0; line < width; ++line) {
+            ::FrameRect(context, &frame, static_cast<HBRUSH>(::GetStockObject(color)));
+            ::InflateRect(&frame, -1, -1);
+        }
+    }
+}
+
 /// Fills area without a brush of its own.
 inline void FillWithColor(HDC context, const RECT& area, COLORREF color) {
     // An empty text on an opaque ground: cheaper than a brush that changes its colour each time.

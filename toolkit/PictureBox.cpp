@@ -1,7 +1,14 @@
 #include "toolkit/PictureBox.h"
 
+#include "toolkit/Form.h"
 #include "toolkit/Mouse.h"
 #include "toolkit/Painting.h"
+
+namespace {
+
+constexpr int focusRoom = 3;  // from the edge to the frame, in pixels at 96 DPI
+
+}  // namespace
 
 void PictureBox::setBackColor(COLORREF color) {
     if (back == color) return;
@@ -15,19 +22,34 @@ void PictureBox::setText(std::string_view text) {
     ::SetWindowTextA(handle(), spoken.c_str());
 }
 
+void PictureBox::setFocusFrame(bool isWanted) {
+    isFocusFramed = isWanted;
+    ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
 LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
-        case WM_PAINT: {
-            const Painting painting(handle());
-            FillWithColor(painting.context(), painting.area(), backColor());
-            return 0;
-        }
+        case WM_PAINT: paint(); return 0;
+        case WM_UPDATEUISTATE: ::InvalidateRect(handle(), nullptr, FALSE); break;
         case WM_CAPTURECHANGED: MouseCaptureLost.raise(); return 0;
         default: break;
     }
     if (isUsable()) raiseMouse(message, wParam);
     return Control::onMessage(message, wParam, lParam);
+}
+
+void PictureBox::paint() const {
+    const Painting painting(handle());
+    FillWithColor(painting.context(), painting.area(), backColor());
+    if (!back) return;
+    RECT area{};
+    ::GetClientRect(handle(), &area);
+    PaintEdge(painting.context(), area);
+    if (!isFocusFramed) return;
+    // Apart from the edge, which may be black or white as well.
+    ::InflateRect(&area, -form.scaled(focusRoom), -form.scaled(focusRoom));
+    PaintFocusFrame(handle(), painting.context(), area, form.scaled(1));
 }
 
 void PictureBox::raiseMouse(UINT message, WPARAM wParam) const {

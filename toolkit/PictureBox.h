@@ -8,7 +8,8 @@
 #include "toolkit/Control.h"
 #include "toolkit/Event.h"
 
-/// A window of class "PictureBox"; it can hold other controls.
+/// A window of class "PictureBox"; it can hold other controls. With a colour of its own it has an edge, so
+/// that it is seen on a form of the same colour.
 class PictureBox : public Control {
 public:
     using Control::Control;
@@ -26,6 +27,9 @@ public:
     COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_BTNFACE)); }
     void setBackColor(COLORREF color);
 
+    /// Shows that the focus is on the control that goes with the box.
+    void setFocusFrame(bool isWanted);
+
     /// What screen readers say of it.
     void setText(std::string_view text);
 
@@ -34,8 +38,10 @@ public:
 private:
     void attached() override { receive(); }
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void paint() const;
     void raiseMouse(UINT message, WPARAM wParam) const;
 
     std::optional<COLORREF> back;  // until it has one, as the form's
     std::string spoken;
+    bool isFocusFramed = false;
 };

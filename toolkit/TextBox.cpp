@@ -49,7 +49,7 @@ void TextBox::setCaretToEnd() {
     setSelection({end, end});
 }
 
-void TextBox::setBackColor(COLORREF color) {
+void TextBox::setBackColor(std::optional<COLORREF> color) {
     if (back == color) return;
     back = color;
     ::InvalidateRect(handle(), nullptr, TRUE);
@@ -64,10 +64,10 @@ void TextBox::onCommand(int /*id*/, int code) {
 }
 
 HBRUSH TextBox::onColor(HDC context) {
-    // The back colours are the program's own, so the text must not follow a theme that may be light.
-    ::SetTextColor(context, RGB(0, 0, 0));
-    ::SetBkColor(context, back);
-    ::SetDCBrushColor(context, back);
+    // A back colour of the program's own is light, so its text must not follow a theme that may be too.
+    ::SetTextColor(context, back ? RGB(0, 0, 0) : ::GetSysColor(COLOR_WINDOWTEXT));
+    ::SetBkColor(context, backColor());
+    ::SetDCBrushColor(context, backColor());
     return static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
 }
 

@@ -42,8 +42,9 @@ public:
     void setSelection(const Selection& wanted);
     void setCaretToEnd();
 
-    COLORREF backColor() const { return back; }
-    void setBackColor(COLORREF color);
+    COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_WINDOW)); }
+    /// A light colour, under black text; or nothing for the system's colours of fields.
+    void setBackColor(std::optional<COLORREF> color);
 
 private:
     void attached() override;
@@ -54,7 +55,7 @@ private:
     void onRelease(LPARAM position);
 
     mutable std::optional<std::string> known;  // the window's text, as far as it has been asked for
-    COLORREF back = RGB(255, 255, 255);
+    std::optional<COLORREF> back;
     bool isSettingText = false;
     bool isDoubleClick = false;
 };

@@ -10,6 +10,8 @@ namespace {
 
 constexpr int pictureSize = 16;
 constexpr int buttonSize = 24;
+constexpr int topRoom = 3;  // what the platform leaves above a picture, at every scaling
+constexpr int gapSize = 8;  // of a separator
 
 BYTE StyleOf(const ToolButton& button) {
     if (button.command == 0) return BTNS_SEP;
@@ -35,8 +37,8 @@ void ToolBar::fill(std::span<const ToolButton> buttons) {
     if (wanted != icons) drawnSize = 0;
     icons = std::move(wanted);
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
-    setSizes();
     send(TB_ADDBUTTONSA, records.size(), reinterpret_cast<LPARAM>(records.data()));
+    setSizes();
 }
 
 LRESULT ToolBar::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -78,12 +80,29 @@ void ToolBar::rescaled() {
 }
 
 void ToolBar::setSizes() {
+    const int button = form.scaled(buttonSize);
     const int size = form.scaled(pictureSize);
-    OwnedImages drawn = size == drawnSize ? std::move(images) : ImagesFromIcons(icons, size);
+    OwnedImages drawn =
+        size == drawnSize ? std::move(images) : ImagesFromIcons(icons, size, button - 2 * topRoom);
     drawnSize = size;
     send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(drawn.get()));
     images = std::move(drawn);
-    send(TB_SETBUTTONSIZE, 0, MAKELPARAM(form.scaled(buttonSize), form.scaled(buttonSize)));
+    send(TB_SETBUTTONSIZE, 0, MAKELPARAM(button, button));
+    setGaps();
+}
+
+void ToolBar::setGaps() const {
+    const auto count = static_cast<int>(send(TB_BUTTONCOUNT));
+    for (int index = 0; index < count; ++index) {
+        TBBUTTON button{};
+        send(TB_GETBUTTON, index, reinterpret_cast<LPARAM>(&button));
+        if (!(button.fsStyle & BTNS_SEP)) continue;
+        TBBUTTONINFOA gap{};
+        gap.cbSize = sizeof gap;
+        gap.dwMask = TBIF_BYINDEX | TBIF_SIZE;
+        gap.cx = static_cast<WORD>(form.scaled(gapSize));
+        send(TB_SETBUTTONINFOA, index, reinterpret_cast<LPARAM>(&gap));
+    }
 }
 
 void ToolBar::setButtonTip(int command, std::string_view tip) {

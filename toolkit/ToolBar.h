@@ -40,6 +40,7 @@ private:
     void pressHot();
     void rescaled() override;
     void setSizes();
+    void setGaps() const;
     void showTips(ToolTips& toolTips) const override;
     void onCommand(int id, int code) override;
 

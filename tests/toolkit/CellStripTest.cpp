@@ -107,7 +107,7 @@ TEST_F(CellStripTest, ANewWindowHasNoColorsAndShowsTheFormsBackground) {
 }
 
 TEST_F(CellStripTest, WithoutColorsShowsTheBackgroundThatTheFormHasBeenGiven) {
-    form.setBackground(static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    form.setBackground(COLOR_WINDOW);
     show();
-    EXPECT_EQ(pixel(1), RGB(255, 255, 255));
+    EXPECT_EQ(pixel(1), ::GetSysColor(COLOR_WINDOW));
 }

@@ -39,7 +39,7 @@ class IconPixels : public testing::TestWithParam<int> {};
 TEST_P(IconPixels, TakesTheDrawingOfTheWantedSize) {
     int width = 0;
     int height = 0;
-    ::ImageList_GetIconSize(ImagesFromIcons(icons, GetParam()).get(), &width, &height);
+    ::ImageList_GetIconSize(ImagesFromIcons(icons, GetParam(), GetParam()).get(), &width, &height);
     EXPECT_EQ(width, GetParam());
     EXPECT_EQ(height, GetParam());
 }
@@ -47,7 +47,7 @@ TEST_P(IconPixels, TakesTheDrawingOfTheWantedSize) {
 TEST_P(IconPixels, CornersAreSeenThroughEdgesPartlyAndTheMiddleNotAtAll) {
     constexpr COLORREF white = RGB(255, 255, 255);
     constexpr COLORREF black = RGB(0, 0, 0);
-    const OwnedImages images = ImagesFromIcons(icons, GetParam());
+    const OwnedImages images = ImagesFromIcons(icons, GetParam(), GetParam());
     const auto onWhite = Drawn(images, help, GetParam(), white);
     const auto onBlack = Drawn(images, help, GetParam(), black);
     EXPECT_EQ(onWhite.front(), white);
@@ -65,11 +65,25 @@ TEST_P(IconPixels, CornersAreSeenThroughEdgesPartlyAndTheMiddleNotAtAll) {
     EXPECT_GT(std::set<COLORREF>(onWhite.begin(), onWhite.end()).size(), 10u);
 }
 
+TEST_P(IconPixels, PutsTheDrawingIntoTheMiddleOfALargerImage) {
+    constexpr COLORREF white = RGB(255, 255, 255);
+    constexpr int room = 5;
+    const int imageSize = GetParam() + 2 * room;
+    const auto drawing = Drawn(ImagesFromIcons(icons, GetParam(), GetParam()), help, GetParam(), white);
+    const auto image = Drawn(ImagesFromIcons(icons, GetParam(), imageSize), help, imageSize, white);
+    for (int at = 0; at < imageSize * imageSize; ++at) {
+        const int column = at % imageSize - room;
+        const int row = at / imageSize - room;
+        const bool isInside = column >= 0 && row >= 0 && column < GetParam() && row < GetParam();
+        ASSERT_EQ(image[at], isInside ? drawing[row * GetParam() + column] : white) << at;
+    }
+}
+
 TEST(IconPixelsOfNoToolBar, AreRefused) {
     constexpr std::array<int, 1> programIcon = {IDI_huevox};
-    EXPECT_THROW(ImagesFromIcons(programIcon, 16), std::runtime_error);
+    EXPECT_THROW(ImagesFromIcons(programIcon, 16, 16), std::runtime_error);
     constexpr std::array<int, 1> missing = {9999};
-    EXPECT_THROW(ImagesFromIcons(missing, 16), std::runtime_error);
+    EXPECT_THROW(ImagesFromIcons(missing, 16, 16), std::runtime_error);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, IconPixels, testing::Values(16, 20, 24, 32));

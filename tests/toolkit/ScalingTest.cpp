@@ -1,6 +1,7 @@
 // A form that comes to a monitor of another scaling.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -55,6 +56,27 @@ protected:
     TwipsForm twips;
 };
 
+/// The first row of the first picture, and the one behind the last, in which anything is painted.
+std::pair<int, int> PaintedRows(HIMAGELIST images, int size) {
+    const HDC screen = ::GetDC(nullptr);
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
+    const HGDIOBJ previous = ::SelectObject(memory, bitmap);
+    ::PatBlt(memory, 0, 0, size, size, WHITENESS);
+    ::ImageList_Draw(images, 0, memory, 0, 0, ILD_NORMAL);
+    std::pair<int, int> rows = {size, 0};
+    for (int at = 0; at < size * size; ++at) {
+        if (::GetPixel(memory, at % size, at / size) == RGB(255, 255, 255)) continue;
+        rows.first = std::min(rows.first, at / size);
+        rows.second = at / size + 1;
+    }
+    ::SelectObject(memory, previous);
+    ::DeleteObject(bitmap);
+    ::DeleteDC(memory);
+    ::ReleaseDC(nullptr, screen);
+    return rows;
+}
+
 }  // namespace
 
 TEST_F(Scaling, WindowControlsAndFontsFollow) {
@@ -99,18 +121,36 @@ TEST_F(Scaling, CellsMeetAndEndWithTheWindowAtEveryScaling) {
     }
 }
 
-TEST_F(Scaling, ToolBarPicturesAreThoseOfTheScaling) {
+TEST_F(Scaling, ToolBarPicturesAreThoseOfTheScalingAndInTheMiddle) {
     twips.load();
     twips.tbrTest.fill(scaledChoices);
     for (const auto& [dpi, size] : {std::pair{144, 24}, std::pair{192, 32}, std::pair{96, 16}}) {
         moveTo(twips, dpi, {10, 10});
         const auto images =
             reinterpret_cast<HIMAGELIST>(::SendMessageA(twips.tbrTest.handle(), TB_GETIMAGELIST, 0, 0));
+        EXPECT_EQ(::ImageList_GetImageCount(images), 2);
         int width = 0;
         int height = 0;
         ::ImageList_GetIconSize(images, &width, &height);
-        EXPECT_EQ(width, size);
-        EXPECT_EQ(::ImageList_GetImageCount(images), 2);
+        EXPECT_EQ(height, twips.scaled(24) - 6);  // the platform leaves 3 pixels above it
+        const auto [first, last] = PaintedRows(images, height);
+        EXPECT_LE(last - first, size);
+        EXPECT_GE(last - first, size * 3 / 4);
+        EXPECT_NEAR(first + last, height, size / 8.0);
+    }
+}
+
+TEST_F(Scaling, GapsOfAToolBarAreScaled) {
+    constexpr std::array<ToolButton, 3> buttons = {{{IDM_firstChoice, IDI_Save, "first"},  //
+                                                    {0, 0, ""},
+                                                    {IDM_secondChoice, IDI_Find, "second"}}};
+    twips.load();
+    twips.tbrTest.fill(buttons);
+    for (const auto& [dpi, gap] : {std::pair{144, 12}, std::pair{192, 16}, std::pair{96, 8}}) {
+        moveTo(twips, dpi, {10, 10});
+        RECT area{};
+        ::SendMessageA(twips.tbrTest.handle(), TB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&area));
+        EXPECT_EQ(area.right - area.left, gap);
     }
 }
 

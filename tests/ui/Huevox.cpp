@@ -157,9 +157,9 @@ Color Huevox::sliders() const {
 Color Huevox::sample(int mark) const { return Pixel(CenterOf(control(IDC_picSample + mark))); }
 
 POINT Huevox::barStepPlace(int step) const {
-    // The right edge of a step may lie under its neighbour, its left edge never does.
+    // Under a neighbour or the bar's edge may lie a step's outermost pixels, but never its second.
     const int left =
-        ::MulDiv(step * 731 / 255, static_cast<int>(::GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
+        ::MulDiv(step * 731 / 255 + 1, static_cast<int>(::GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
     return OnScreen(control(IDC_lblColorBar), {left, 10});
 }
 

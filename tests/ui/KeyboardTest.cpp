@@ -124,6 +124,27 @@ TEST_F(Keyboard, AFrameIsSeenAroundTheSwatchThatHasTheFocus) {
     EXPECT_BECOMES(Pixel(OnScreen(swatches, {5, 10})), ColorOf(0, 0, 0));
 }
 
+TEST_F(Keyboard, AFrameIsSeenInTheSampleOfTheMarkWhoseButtonHasTheFocus) {
+    const Huevox huevox;
+    const auto line = [&](int mark, int distance) {
+        const HWND sample = huevox.control(IDC_picSample + mark);
+        return Pixel(OnScreen(sample, {distance, CenterOf(sample).y - OnScreen(sample, {0, 0}).y}));
+    };
+    constexpr Color red = ColorOf(255, 0, 0);
+    constexpr Color black = ColorOf(0, 0, 0);
+    EXPECT_BECOMES(line(0, 3), red);
+    TabTo(huevox, Option(0));
+    EXPECT_BECOMES(line(0, 3), black);
+    EXPECT_EQ(line(0, 2), red);
+    EXPECT_EQ(line(0, 4), white);
+    EXPECT_EQ(line(0, 5), red);
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(line(1, 3), black);
+    EXPECT_BECOMES(line(0, 3), red);
+    Press(VK_TAB);
+    EXPECT_BECOMES(line(1, 3), huevox.sample(1));
+}
+
 TEST_F(Keyboard, TheOrderOfTheJavaScriptColorsIsSwitched) {
     const Huevox huevox;
     const HWND picker = OpenByKeyboard(huevox, javaScriptGrid);

@@ -1,0 +1,35 @@
+// How does a test give all programs the colours of another theme?
+#pragma once
+
+#include <vector>
+
+#include "core/Color.h"
+#include "toolkit/Platform.h"
+
+struct Theme {
+    const char* name;
+    Color ground;
+    Color text;
+    Color grayed;
+    Color selected;
+    Color selectedText;
+    Color link;
+};
+
+extern const Theme blackTheme;
+extern const Theme whiteTheme;
+
+/// The system's colours, until they are given back: those of the programs that start now, and of this one.
+class SystemColors {
+public:
+    SystemColors();
+    SystemColors(const SystemColors&) = delete;
+    SystemColors& operator=(const SystemColors&) = delete;
+    ~SystemColors();
+
+    void use(const Theme& theme) const;
+
+private:
+    std::vector<int> indexes;
+    std::vector<COLORREF> before;
+};
