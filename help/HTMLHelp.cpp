@@ -1,6 +1,6 @@
 #include "help/HTMLHelp.h"
 
-#include <stdexcept>
+#include "toolkit/SystemFunction.h"
 
 namespace {
 
@@ -14,10 +14,7 @@ DWORD_PTR Text(const char* text) { return reinterpret_cast<DWORD_PTR>(text); }
 void HTMLHelp::DisplayTopicURL() {
     if (!viewer) {
         // It stays loaded: its windows may outlive the call that closes them.
-        const HMODULE library = ::LoadLibraryExA("hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-        const FARPROC found = library ? ::GetProcAddress(library, "HtmlHelpA") : nullptr;
-        if (!found) throw std::runtime_error("no help viewer");
-        viewer = reinterpret_cast<Viewer>(reinterpret_cast<void*>(found));
+        viewer = SystemFunction<Viewer>("hhctrl.ocx", "HtmlHelpA");
     }
     viewer(nullptr, file.c_str(), displayTopic, Text(topic.c_str()));
 }

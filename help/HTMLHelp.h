@@ -25,9 +25,9 @@ public:
     void HelpClose() const;
 
 private:
-    using Viewer = HWND(WINAPI*)(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
+    using Viewer = HWND WINAPI(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
 
-    Viewer viewer = nullptr;
+    Viewer* viewer = nullptr;
     std::string file;
     std::string topic;
 };

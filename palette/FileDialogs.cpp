@@ -8,9 +8,10 @@
 #include "settings/Folders.h"
 #include "support/PathText.h"
 #include "toolkit/CodePage.h"
+#include "toolkit/SystemFunction.h"
 
 struct FileDialogs::Kind {
-    BOOL(WINAPI* show)(OPENFILENAMEA*);
+    const char* function;
     const char* title;
     DWORD flags;
     bool isForExistingFiles;
@@ -42,15 +43,15 @@ bool IsFile(const std::string& path) {
 FileDialogs::FileDialogs(const Form& owner, AppState& state) : owner(owner), state(state) {}
 
 std::string FileDialogs::ShowSaveDialog() {
-    return Show({::GetSaveFileNameA, "Save Palette As", OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, false});
+    return Show({"GetSaveFileNameA", "Save Palette As", OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, false});
 }
 
 std::string FileDialogs::ShowOpenDialog() {
-    return Show({::GetOpenFileNameA, "Open Palette In Huevox", OFN_HIDEREADONLY, true});
+    return Show({"GetOpenFileNameA", "Open Palette In Huevox", OFN_HIDEREADONLY, true});
 }
 
 std::string FileDialogs::ShowNotepadDialog() {
-    return Show({::GetOpenFileNameA, "Open Palette In Notepad", OFN_HIDEREADONLY, true});
+    return Show({"GetOpenFileNameA", "Open Palette In Notepad", OFN_HIDEREADONLY, true});
 }
 
 std::string FileDialogs::Show(const Kind& kind) {
@@ -72,9 +73,11 @@ std::string FileDialogs::Show(const Kind& kind) {
     record.Flags = kind.flags;
     record.lpstrDefExt = "txt\0";
 
+    // Its library brings those of printing along, which most runs of the program never need.
+    const auto show = SystemFunction<decltype(::GetOpenFileNameA)>("comdlg32.dll", kind.function);
     // Whether the dialog itself moves the current folder, and when, differs from platform to platform.
     const std::string folderBefore = CurrentFolder();
-    if (!kind.show(&record)) {
+    if (!show(&record)) {
         ::SetCurrentDirectoryA(folderBefore.c_str());
         return "";
     }
