@@ -86,7 +86,7 @@ std::string Session::play(const Action& action) {
     }
     const bool isAll = ++steps % stepsToEverything == 0 || action.kind == Kind::start;
     const Extent extent = isAll ? Extent::everything : Extent::changes;
-    std::string found = action.kind == Kind::settle ? settle() : "";
+    std::string found = action.kind == Kind::settle ? settleSoon() : "";
     if (found.empty()) found = agree(earlier, extent);
     if (!found.empty() && isLost(action, earlier)) found = repeat(action, before, found);
     if (found.empty()) found = filesDifference(before.files());
@@ -180,6 +180,21 @@ std::string Session::clipboardDifference(const Model& before) {
         return "clipboard: expected " + clipboard.text + ", seen " + ClipboardText();
     clipboardNumber = number;
     return "";
+}
+
+/// Who has the clipboard open at the very moment of a copy, the platform's own window of it for instance, keeps
+/// the program from it until the next change: choosing the same notation once more.
+std::string Session::settleSoon() {
+    const std::string found = settle();
+    const Action sameNotation = {Kind::notation, 0, model.look().notation};
+    if (found.empty() || sameNotation.value < 0 || !model.isPossible(sameNotation)) return found;
+    std::printf("    step %d, settle: %s; done once more\n", steps, found.c_str());
+    ++figures.repeats;
+    const Model before = model;
+    model.play(sameNotation);
+    program->hands->play(sameNotation, before);
+    model.play({Kind::settle});
+    return settle();
 }
 
 /// Until the preview has been copied and the letters have followed.

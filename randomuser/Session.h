@@ -70,6 +70,7 @@ private:
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);
     std::string settle();
+    std::string settleSoon();
     void measure(const Action& action, double milliseconds);
 
     Figures& figures;
