@@ -33,8 +33,8 @@ void SwatchWindow::Form_Activate() {
 
 void SwatchWindow::Form_Unload() { lastPlace = PlaceOf(handle()); }
 
-Area SwatchWindow::firstPlace(const Area& middle) {
-    newPlace = choosePlace(middle.width(), middle.height());
+Area SwatchWindow::firstPlace(const SIZE& frame) {
+    newPlace = choosePlace(frame.cx, frame.cy);
     return *newPlace;
 }
 

@@ -23,7 +23,7 @@ protected:
 private:
     void Form_Activate();
     void Form_Unload();
-    Area firstPlace(const Area& middle) override;
+    Area firstPlace(const SIZE& frame) override;
     Area choosePlace(int width, int height) const;
 
     std::span<const HWND> others;  ///< the windows that it is to stand beside, while it opens

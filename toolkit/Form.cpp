@@ -37,8 +37,10 @@ void Form::createFrame(const DialogTemplate& dialog) {
     loadedForms.push_back(this);
     modalHold.join(window);
     layout.begin(window, dialog);
-    PlaceAt(window, firstPlace(layout.middle()));
+    PlaceAt(window, firstPlace(layout.frameSize()));
 }
+
+Area Form::firstPlace(const SIZE& frame) { return CenteredPlace(window, frame); }
 
 void Form::createControl(const TemplateItem& item) {
     Control* control = controls.withId(static_cast<int>(item.id));

@@ -77,9 +77,9 @@ public:
     static bool preTranslate(MSG& message);
 
 protected:
-    /// Where the window comes to the screen, given the middle of its owner or of the work area. The size
-    /// stays.
-    virtual Area firstPlace(const Area& middle) { return middle; }
+    /// Where the window comes to the screen, which is that large with its frame: in the middle of its owner
+    /// or of the work area.
+    virtual Area firstPlace(const SIZE& frame);
 
 private:
     friend class Control;

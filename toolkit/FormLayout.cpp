@@ -11,8 +11,8 @@ void FormLayout::begin(HWND form, const DialogTemplate& layout) {
     controls.clear();
 }
 
-Area FormLayout::middle(int dpi) const {
-    return CenteredPlace(window, fromUnits(width, dpi), fromUnits(height, dpi), dpi);
+SIZE FormLayout::frameSize(int dpi) const {
+    return FrameSize(window, fromUnits(width, dpi), fromUnits(height, dpi), dpi);
 }
 
 HWND FormLayout::create(HWND parent, const TemplateItem& item) {
@@ -24,8 +24,8 @@ HWND FormLayout::create(HWND parent, const TemplateItem& item) {
 
 void FormLayout::rescale(int dpi, const POINT& corner) {
     scaling = dpi;
-    const Area frame = middle();
-    PlaceAt(window, {corner.x, corner.y, corner.x + frame.width(), corner.y + frame.height()});
+    const SIZE frame = frameSize();
+    PlaceAt(window, {corner.x, corner.y, corner.x + frame.cx, corner.y + frame.cy});
     fit();  // not every platform scales the frame of a window that is on the screen
     for (const Placed& control : controls) {
         const RECT place = placeOf(control.units, ::GetParent(control.window));

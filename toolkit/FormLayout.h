@@ -17,9 +17,9 @@ public:
     void begin(HWND form, const DialogTemplate& layout);
 
     int dpi() const { return scaling; }
-    /// The window with its frame, in the middle of its owner or of the work area.
-    Area middle() const { return middle(scaling); }
-    Area middle(int dpi) const;
+    /// The size of the window with its frame.
+    SIZE frameSize() const { return frameSize(scaling); }
+    SIZE frameSize(int dpi) const;
 
     /// Creates a control at its place. Returns nullptr when the platform refuses.
     HWND create(HWND parent, const TemplateItem& item);

@@ -139,8 +139,7 @@ LRESULT Form::Receiver::onEndSession(bool isEnding) {
 
 /// The platform asks how large the window will be at another scaling.
 LRESULT Form::Receiver::onScalingWanted(int dpi, SIZE& size) {
-    const Area frame = form.layout.middle(dpi);
-    size = {frame.width(), frame.height()};
+    size = form.layout.frameSize(dpi);
     return TRUE;
 }
 

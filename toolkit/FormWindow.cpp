@@ -33,18 +33,6 @@ void RegisterFormClass(const char* name, WNDPROC proc) {
 /// work.
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
-/// In the middle of the owner, but on its monitor; without an owner, of the work area.
-Area Centered(HWND window, int width, int height) {
-    const HWND owner = ::GetWindow(window, GW_OWNER);
-    const Area work = WorkAreaAt(owner ? owner : window);
-    const Area middle = owner ? PlaceOf(owner) : work;
-    const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
-    const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
-    const int left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
-    const int top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
-    return {left, top, left + width, top + height};
-}
-
 bool IsFace(HDC context, std::string_view face) {
     std::array<char, LF_FACESIZE> selected{};
     ::GetTextFaceA(context, selected.size(), selected.data());
@@ -91,11 +79,24 @@ HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner
                                         owner, NoDialogProc, 0);
 }
 
-Area CenteredPlace(HWND window, int clientWidth, int clientHeight, int dpi) {
+SIZE FrameSize(HWND window, int clientWidth, int clientHeight, int dpi) {
     RECT area = {0, 0, clientWidth, clientHeight};
     ::AdjustWindowRectExForDpi(&area, ::GetWindowLongA(window, GWL_STYLE), ::GetMenu(window) != nullptr,
                                ::GetWindowLongA(window, GWL_EXSTYLE), dpi);
-    return Centered(window, area.right - area.left, area.bottom - area.top);
+    return {area.right - area.left, area.bottom - area.top};
+}
+
+Area CenteredPlace(HWND window, const SIZE& frame) {
+    const int width = frame.cx;
+    const int height = frame.cy;
+    const HWND owner = ::GetWindow(window, GW_OWNER);
+    const Area work = WorkAreaAt(owner ? owner : window);
+    const Area middle = owner ? PlaceOf(owner) : work;
+    const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
+    const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
+    const int left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
+    const int top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
+    return {left, top, left + width, top + height};
 }
 
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {

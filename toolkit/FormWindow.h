@@ -14,9 +14,11 @@ DialogTemplate LoadDialogTemplate(const char* name);
 /// nullptr when the platform refuses.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc);
 
-/// The window with its frame that has a client area of that size, in pixels, in the middle of its owner, or
-/// else of the work area.
-Area CenteredPlace(HWND window, int clientWidth, int clientHeight, int dpi);
+/// The size of the window with its frame that has a client area of that size, in pixels.
+SIZE FrameSize(HWND window, int clientWidth, int clientHeight, int dpi);
+
+/// In the middle of the window's owner, but on its monitor; without an owner, of the work area.
+Area CenteredPlace(HWND window, const SIZE& frame);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);

@@ -57,9 +57,10 @@ OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize, int imag
     void* bits = nullptr;
     const OwnedBitmap strip(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!strip) throw std::runtime_error("the platform refused a bitmap");
+    const std::ptrdiff_t stride = static_cast<std::ptrdiff_t>(count) * image;
     const int room = (image - size) / 2;
     for (int row = 0; row < size; ++row) {
-        auto* target = static_cast<std::uint32_t*>(bits) + (room + row) * count * image + room;
+        auto* target = static_cast<std::uint32_t*>(bits) + (room + row) * stride + room;
         for (const Drawing& drawing : drawings) {
             std::transform(drawing.row(row), drawing.row(row) + size, target,
                            [&](BYTE index) { return drawing.palette[index]; });

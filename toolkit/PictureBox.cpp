@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int focusRoom = 3;  // from the edge to the frame, in pixels at 96 DPI
+constexpr int roomToFrame = 3;  // from the edge to the frame, in pixels at 96 DPI
 
 }  // namespace
 
@@ -48,7 +48,7 @@ void PictureBox::paint() const {
     PaintEdge(painting.context(), area);
     if (!isFocusFramed) return;
     // Apart from the edge, which may be black or white as well.
-    ::InflateRect(&area, -form.scaled(focusRoom), -form.scaled(focusRoom));
+    ::InflateRect(&area, -form.scaled(roomToFrame), -form.scaled(roomToFrame));
     PaintFocusFrame(handle(), painting.context(), area, form.scaled(1));
 }
 

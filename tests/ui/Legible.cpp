@@ -1,4 +1,5 @@
 #include "tests/ui/Legible.h"
+#include "tests/toolkit/WindowText.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/toolkit/WindowText.h"
 #include "tests/ui/Wait.h"
 
 namespace {
@@ -53,18 +55,6 @@ double Luminance(const Color& color) {
     return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-std::string ClassOf(HWND window) {
-    std::array<char, 50> name{};
-    ::GetClassNameA(window, name.data(), name.size());
-    return name.data();
-}
-
-std::string CaptionOf(HWND window) {
-    std::array<char, 300> text{};
-    ::SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-    return text.data();
-}
-
 RECT Inside(HWND window, int border) {
     RECT area{};
     ::GetWindowRect(window, &area);
@@ -88,11 +78,11 @@ void ExpectButton(HWND button, double least) {
     } else if (kind != BS_PUSHBUTTON && kind != BS_DEFPUSHBUTTON) {
         RECT circle = Inside(button, 0);
         circle.right = std::min(circle.right, circle.left + circleWidth);
-        ExpectToBe(visible, circle, CaptionOf(button) + ", its circle");
+        ExpectToBe(visible, circle, TextOf(button) + ", its circle");
         area.left = circle.right;
         if (area.left >= area.right) return;
     }
-    ExpectToBe(least, area, CaptionOf(button));
+    ExpectToBe(least, area, TextOf(button));
 }
 
 void ExpectRows(HWND list, double least) {
@@ -116,8 +106,8 @@ BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
         ExpectRows(control, least);
     } else if (kind == "ScrollBar") {
         ExpectToBe(visible, Inside(control, 0), "a slider");
-    } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !CaptionOf(control).empty()) {
-        ExpectToBe(least, Inside(control, kind == "Edit" ? 3 : 0), CaptionOf(control));
+    } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !TextOf(control).empty()) {
+        ExpectToBe(least, Inside(control, kind == "Edit" ? 3 : 0), TextOf(control));
     }
     return TRUE;
 }
