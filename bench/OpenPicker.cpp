@@ -7,6 +7,7 @@
 #include "bench/RunningProgram.h"
 #include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"
+#include "toolkit/IconPixels.h"
 
 namespace {
 
@@ -78,21 +79,39 @@ double TimeOfPicker(HWND form, const Picker& picker, Shape& shape) {
     return time;
 }
 
+/// Two buttons with pictures, the first one pressed, as in the window of the JavaScript colours.
+void FillStockToolBar(HWND bar, HIMAGELIST images) {
+    std::array<TBBUTTON, 2> buttons{};
+    for (int index = 0; TBBUTTON & button : buttons) {
+        button.iBitmap = index;
+        button.idCommand = ++index;
+        button.fsState = index == 1 ? TBSTATE_ENABLED | TBSTATE_CHECKED : TBSTATE_ENABLED;
+        button.fsStyle = BTNS_CHECKGROUP;
+    }
+    ::SendMessageA(bar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    ::SendMessageA(bar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images));
+    ::SendMessageA(bar, TB_ADDBUTTONSA, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
+}
+
 /// The platform's own control where there is one, else its simplest.
-void AddStockControl(HWND window, const Child& child) {
+void AddStockControl(HWND window, const Child& child, HIMAGELIST images) {
     const bool isToolBar = child.className == TOOLBARCLASSNAMEA;
-    const DWORD style = isToolBar ? CCS_NORESIZE | CCS_NOPARENTALIGN : 0;
-    ::CreateWindowExA(0, isToolBar ? TOOLBARCLASSNAMEA : "Static", "", WS_CHILD | WS_VISIBLE | style,
-                      child.place.left, child.place.top, child.place.right - child.place.left,
-                      child.place.bottom - child.place.top, window, nullptr, nullptr, nullptr);
+    const DWORD style = isToolBar ? TBSTYLE_FLAT | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN : 0;
+    const HWND control =
+        ::CreateWindowExA(0, isToolBar ? TOOLBARCLASSNAMEA : "Static", "", WS_CHILD | WS_VISIBLE | style,
+                          child.place.left, child.place.top, child.place.right - child.place.left,
+                          child.place.bottom - child.place.top, window, nullptr, nullptr, nullptr);
+    if (isToolBar) FillStockToolBar(control, images);
 }
 
 double TimeOfStockWindow(const RECT& place, const std::vector<Child>& children) {
+    constexpr int size = 16;
+    static const OwnedImages images = ImagesFromIcons(std::array{IDI_Back, IDI_Forward}, size, size);
     const double before = NowInMilliseconds();
     const HWND window = ::CreateWindowExA(WS_EX_TOOLWINDOW, emptyClass, "Empty", WS_CAPTION | WS_SYSMENU,
                                           place.left, place.top, place.right - place.left,
                                           place.bottom - place.top, nullptr, nullptr, nullptr, nullptr);
-    for (const Child& child : children) AddStockControl(window, child);
+    for (const Child& child : children) AddStockControl(window, child, images.get());
     ::ShowWindow(window, SW_SHOWNORMAL);
     ::SetForegroundWindow(window);
     ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

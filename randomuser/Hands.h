@@ -22,6 +22,9 @@ public:
     /// Movements while picking: each may cost a context of the screen.
     int pickMovements() const { return movements; }
 
+    /// Moves a window as a user does, once the window manager has put it somewhere.
+    static void moveTo(HWND window, POINT place);
+
 private:
     void playSliders(const Action& action);
     void playBoxes(const Action& action);
@@ -37,6 +40,7 @@ private:
     void retype(int id, const std::string& text);
     void dragSlider(int slider, int from, int to) const;
     void pick(const Action& action, const Model& before);
+    void openPicker(int index);
     void clickSwatch(const Action& action) const;
     void uncover(Front front, POINT place) const;
     static POINT steadyCenter(HWND window);

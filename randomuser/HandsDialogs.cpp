@@ -56,6 +56,12 @@ POINT Hands::steadyCenter(HWND window) {
     return place;
 }
 
+void Hands::moveTo(HWND window, POINT place) {
+    steadyCenter(window);
+    ::SetWindowPos(window, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    steadyCenter(window);
+}
+
 void Hands::playDialogs(const Action& action) {
     constexpr std::array<WORD, 4> optionKeys = {'Y', 'N', 'A', 'V'};
     switch (action.kind) {
@@ -72,7 +78,9 @@ void Hands::playDialogs(const Action& action) {
             Press(VK_DELETE);
             Type(action.text);
             break;
-        case Kind::insertToken: Click(steadyCenter(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value))); break;
+        case Kind::insertToken:
+            Click(steadyCenter(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value)));
+            break;
         case Kind::closeDialog:
             if (action.which == 0) Press(action.value == IDC_cmdOK ? VK_RETURN : VK_ESCAPE);
             if (action.which == 1) Press(action.value == IDC_cmdOK ? 'O' : 'C', {VK_MENU});

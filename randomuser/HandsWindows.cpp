@@ -71,7 +71,7 @@ POINT Hands::toolButton(int command) {
 
 void Hands::playWindows(const Action& action, const Model& before) {
     switch (action.kind) {
-        case Kind::openPicker: clickOn(grids.at(action.which).button); break;
+        case Kind::openPicker: openPicker(action.which); break;
         case Kind::swatch:
         case Kind::rightSwatch: clickSwatch(action); break;
         case Kind::sortOrder: {
@@ -95,6 +95,16 @@ void Hands::playWindows(const Action& action, const Model& before) {
         case Kind::vainClick: vainClick(action.value); break;
         default: break;
     }
+}
+
+/// Puts a new window where no other of the program's lies over it: which one is on top is the window
+/// manager's affair, and late.
+void Hands::openPicker(int index) {
+    constexpr std::array<POINT, 3> places = {{{0, 620}, {0, 850}, {900, 100}}};
+    const bool isNew = eyes.picker(index) == nullptr;
+    clickOn(grids.at(index).button);
+    if (isNew && Soon([&] { return eyes.picker(index) != nullptr; }))
+        moveTo(eyes.picker(index), places.at(index));
 }
 
 /// Another window may lie over the place; the one in front need not be the one on top.

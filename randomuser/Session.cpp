@@ -121,6 +121,7 @@ void Session::start(int variant) {
     program = std::make_unique<Program>();
     program->huevox.waitForWindow();
     const HWND window = program->huevox.window();
+    Hands::moveTo(window, {0, 0});
     DWORD id = 0;
     ::GetWindowThreadProcessId(window, &id);
     program->process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);

@@ -46,9 +46,12 @@ TEST_F(ScreenPicking, TakesThePixelUnderThePointerToTheVeryEdge) {
     Hold(huevox, Sample(huevox, 0));
     const Color outside = Pixel({yellow.right, yellow.top + 5});
     ASSERT_NE(outside, ColorOf(255, 255, 0));
+    const Color edge = Pixel({yellow.right - 1, yellow.top + 5});
+    ASSERT_NE(edge, ColorOf(255, 255, 0));
     DragTo(huevox, {yellow.right, yellow.top + 5}, outside);
-    DragTo(huevox, {yellow.right - 1, yellow.top + 5}, ColorOf(255, 255, 0));
-    ReleaseButton({yellow.right - 1, yellow.top + 5});
+    DragTo(huevox, {yellow.right - 1, yellow.top + 5}, edge);
+    DragTo(huevox, {yellow.right - 2, yellow.top + 5}, ColorOf(255, 255, 0));
+    ReleaseButton({yellow.right - 2, yellow.top + 5});
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 255, 0));
 }
 
