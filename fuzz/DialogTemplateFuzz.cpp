@@ -1,6 +1,5 @@
 // Any bytes may stand where a dialog template belongs: it is read as it is laid out, or refused as cut short.
 #include <array>
-#include <cstring>
 #include <span>
 #include <stdexcept>
 
@@ -65,35 +64,28 @@ void RequireItem(Layout& layout, const DialogTemplate* read, std::size_t index) 
     Require(item.className == expected.className && item.text == expected.text);
 }
 
-/// The window alone: its bytes as they were, with a count of no controls, padded to whole numbers.
-void RequireFrame(const Layout& layout, const DialogTemplate& read) {
-    Require(read.frame.size() * 4 >= layout.at && read.frame.size() * 4 <= layout.at + 4);
-    std::string frame(read.frame.size() * 4, '\0');
-    std::memcpy(frame.data(), read.frame.data(), frame.size());
-    std::string expected(layout.bytes.substr(0, layout.at));
-    expected[16] = expected[17] = '\0';
-    expected.resize(frame.size(), '\0');
-    Require(frame == expected);
-}
-
 /// Walks through the template and compares it with what was read, nullptr for one that was refused.
 void RequireSame(std::string_view bytes, const DialogTemplate* read) {
     Layout layout{bytes};
-    layout.skip(12);
-    const bool hasFont = (layout.number(4) & 0x40) != 0;
+    layout.skip(8);
+    const std::uint32_t exStyle = layout.number(4);
+    const std::uint32_t style = layout.number(4);
     const std::size_t count = layout.number(2);
     layout.skip(4);
     const int width = layout.place();
     const int height = layout.place();
-    for (int name = 0; name < 3; ++name) layout.name();
-    if (hasFont) {
+    const std::u16string menu = layout.name();
+    layout.name();
+    const std::u16string caption = layout.name();
+    if ((style & 0x40) != 0) {
         layout.skip(6);
         layout.name();
     }
     if (read) {
         Require(!layout.isCutShort && read->width == width && read->height == height);
+        Require(read->style == style && read->exStyle == exStyle);
+        Require(read->menu == menu && read->caption == caption);
         Require(read->items.size() == count);
-        RequireFrame(layout, *read);
     }
     for (std::size_t index = 0; index < count && !layout.isCutShort; ++index)
         RequireItem(layout, read, index);

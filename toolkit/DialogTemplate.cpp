@@ -11,7 +11,6 @@ constexpr std::uint16_t isOrdinal = 0xFFFF;
 constexpr std::uint16_t firstSystemClass = 0x80;
 constexpr std::array<const char16_t*, 6> systemClasses = {u"Button",  u"Edit",      u"Static",
                                                           u"ListBox", u"ScrollBar", u"ComboBox"};
-constexpr std::size_t itemCountOffset = 16;  // of the header's count of controls
 
 class TemplateReader {
 public:
@@ -35,7 +34,6 @@ public:
 
     void skip(std::size_t count) { take(count); }
     void align() { skip((4 - at % 4) % 4); }
-    std::size_t position() const { return at; }
 
 private:
     std::span<const std::byte> take(std::size_t count) {
@@ -75,27 +73,22 @@ TemplateItem ReadItem(TemplateReader& reader) {
     return item;
 }
 
-std::vector<std::uint32_t> WithoutItems(std::span<const std::byte> header) {
-    std::vector<std::uint32_t> frame(header.size() / 4 + 1);
-    std::memcpy(frame.data(), header.data(), header.size());
-    std::memset(reinterpret_cast<std::byte*>(frame.data()) + itemCountOffset, 0, sizeof(std::uint16_t));
-    return frame;
-}
-
 }  // namespace
 
 DialogTemplate ParseDialogTemplate(std::span<const std::byte> bytes) {
     TemplateReader reader(bytes);
     DialogTemplate result;
-    reader.skip(12);  // version, signature, help id, extended style
-    const auto style = reader.read<std::uint32_t>();
+    reader.skip(8);  // version, signature, help id
+    result.exStyle = reader.read<std::uint32_t>();
+    result.style = reader.read<std::uint32_t>();
     const auto itemCount = reader.read<std::uint16_t>();
     reader.skip(4);  // position
     result.width = reader.read<std::int16_t>();
     result.height = reader.read<std::int16_t>();
-    for (int name = 0; name < 3; ++name) reader.readName();  // menu, window class, caption
-    if (style & usesFont) SkipFont(reader);
-    result.frame = WithoutItems(bytes.first(reader.position()));
+    result.menu = reader.readName();
+    reader.readName();  // window class
+    result.caption = reader.readName();
+    if (result.style & usesFont) SkipFont(reader);
     for (int i = 0; i < itemCount; ++i) result.items.push_back(ReadItem(reader));
     return result;
 }

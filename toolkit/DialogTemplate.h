@@ -21,8 +21,10 @@ struct TemplateItem {
 };
 
 struct DialogTemplate {
-    /// The window itself as a template without controls, aligned as the platform wants it.
-    std::vector<std::uint32_t> frame;
+    std::uint32_t style = 0;
+    std::uint32_t exStyle = 0;
+    std::u16string menu;  ///< its resource's name, "" for none
+    std::u16string caption;
     int width = 0;
     int height = 0;
     std::vector<TemplateItem> items;

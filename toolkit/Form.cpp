@@ -32,15 +32,20 @@ void Form::load() {
 void Form::createFrame(const DialogTemplate& dialog) {
     state = State::loading;
     formBeingCreated = this;
-    CreateFormWindow(name, dialog, owner, &Form::proc);
+    layout.begin(dialog, static_cast<int>(owner ? ::GetDpiForWindow(owner) : ::GetDpiForSystem()));
+    const Area place = firstPlace(layout.frameSize());
+    CreateFormWindow(name, dialog, place, owner, &Form::proc);
     if (!window) throw std::runtime_error("the platform refused a window");
     loadedForms.push_back(this);
     modalHold.join(window);
-    layout.begin(window, dialog);
-    PlaceAt(window, firstPlace(layout.frameSize()));
+    layout.attach(window);
+    const SIZE frame = layout.frameSize();
+    // Its monitor has another scaling, or the platform has cut off a window that is larger than the screen.
+    if (PlaceOf(window) != Area{place.left, place.top, place.left + frame.cx, place.top + frame.cy})
+        PlaceAt(window, firstPlace(frame));
 }
 
-Area Form::firstPlace(const SIZE& frame) { return CenteredPlace(window, frame); }
+Area Form::firstPlace(const SIZE& frame) { return CenteredPlace(owner, frame); }
 
 void Form::createControl(const TemplateItem& item) {
     Control* control = controls.withId(static_cast<int>(item.id));

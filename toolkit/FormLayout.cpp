@@ -1,18 +1,22 @@
 #include "toolkit/FormLayout.h"
 
-#include "toolkit/FormWindow.h"
 #include "toolkit/WindowPlace.h"
 
-void FormLayout::begin(HWND form, const DialogTemplate& layout) {
-    window = form;
-    scaling = static_cast<int>(::GetDpiForWindow(form));
+void FormLayout::begin(const DialogTemplate& layout, int dpi) {
+    style = {layout.style, layout.exStyle, !layout.menu.empty()};
+    scaling = dpi;
     width = layout.width;
     height = layout.height;
     controls.clear();
 }
 
+void FormLayout::attach(HWND form) {
+    window = form;
+    scaling = static_cast<int>(::GetDpiForWindow(form));
+}
+
 SIZE FormLayout::frameSize(int dpi) const {
-    return FrameSize(window, fromUnits(width, dpi), fromUnits(height, dpi), dpi);
+    return FrameSize(style, fromUnits(width, dpi), fromUnits(height, dpi), dpi);
 }
 
 HWND FormLayout::create(HWND parent, const TemplateItem& item) {

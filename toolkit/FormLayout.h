@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "toolkit/DialogTemplate.h"
+#include "toolkit/FormWindow.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Twips.h"
 
@@ -13,8 +14,10 @@ class FormLayout {
 public:
     explicit FormLayout(int twipsPerUnit) : twipsPerUnit(twipsPerUnit) {}
 
-    /// A new window of that template, at the scaling of its monitor; nothing is moved yet.
-    void begin(HWND form, const DialogTemplate& layout);
+    /// A window of that template will be created on a monitor of that scaling.
+    void begin(const DialogTemplate& layout, int dpi);
+    /// The window has been created. Takes the scaling of its monitor.
+    void attach(HWND form);
 
     int dpi() const { return scaling; }
     /// The size of the window with its frame.
@@ -41,6 +44,7 @@ private:
     RECT placeOf(const Area& units, HWND parent) const;
 
     int twipsPerUnit;
+    FrameStyle style;
     int scaling = USER_DEFAULT_SCREEN_DPI;
     HWND window = nullptr;
     int width = 0;

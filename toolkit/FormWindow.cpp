@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <map>
 #include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "toolkit/WindowPlace.h"
@@ -14,6 +16,8 @@ namespace {
 constexpr int programIcon = 1;  // the lowest number, which the platform takes for the program's picture too
 
 HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
+
+const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
 
 void RegisterFormClass(const char* name, WNDPROC proc) {
     WNDCLASSEXA windowClass{};
@@ -28,10 +32,6 @@ void RegisterFormClass(const char* name, WNDPROC proc) {
     windowClass.lpszClassName = name;
     ::RegisterClassExA(&windowClass);
 }
-
-/// The dialog manager counts a dialog as one only with a procedure; the form's own procedure does all the
-/// work.
-INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
 bool IsFace(HDC context, std::string_view face) {
     std::array<char, LF_FACESIZE> selected{};
@@ -73,24 +73,27 @@ DialogTemplate LoadDialogTemplate(const char* name) {
     return ParseDialogTemplate({bytes, ::SizeofResource(Instance(), found)});
 }
 
-HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc) {
+// Not by the dialog manager, which would create it of another size, at another place.
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
+                      WNDPROC proc) {
     RegisterFormClass(name, proc);
-    return ::CreateDialogIndirectParamA(Instance(), reinterpret_cast<LPCDLGTEMPLATEA>(layout.frame.data()),
-                                        owner, NoDialogProc, 0);
+    const std::wstring className(name, name + std::strlen(name));
+    const HMENU menu = layout.menu.empty() ? nullptr : ::LoadMenuW(Instance(), Wide(layout.menu));
+    return ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style,
+                             place.left, place.top, place.width(), place.height(), owner, menu, Instance(),
+                             nullptr);
 }
 
-SIZE FrameSize(HWND window, int clientWidth, int clientHeight, int dpi) {
+SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int dpi) {
     RECT area = {0, 0, clientWidth, clientHeight};
-    ::AdjustWindowRectExForDpi(&area, ::GetWindowLongA(window, GWL_STYLE), ::GetMenu(window) != nullptr,
-                               ::GetWindowLongA(window, GWL_EXSTYLE), dpi);
+    ::AdjustWindowRectExForDpi(&area, frame.style, frame.hasMenu, frame.exStyle, dpi);
     return {area.right - area.left, area.bottom - area.top};
 }
 
-Area CenteredPlace(HWND window, const SIZE& frame) {
+Area CenteredPlace(HWND owner, const SIZE& frame) {
     const int width = frame.cx;
     const int height = frame.cy;
-    const HWND owner = ::GetWindow(window, GW_OWNER);
-    const Area work = WorkAreaAt(owner ? owner : window);
+    const Area work = WorkAreaAt(owner);
     const Area middle = owner ? PlaceOf(owner) : work;
     const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
     const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
@@ -100,11 +103,8 @@ Area CenteredPlace(HWND window, const SIZE& frame) {
 }
 
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
-    const auto wide = [](const std::u16string& text) {
-        return reinterpret_cast<const wchar_t*>(text.c_str());
-    };
     const HWND control = ::CreateWindowExW(
-        item.exStyle | WS_EX_NOPARENTNOTIFY, wide(item.className), wide(item.text), item.style | WS_CHILD,
+        item.exStyle | WS_EX_NOPARENTNOTIFY, Wide(item.className), Wide(item.text), item.style | WS_CHILD,
         place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.id)), Instance(), nullptr);
     ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);

@@ -12,13 +12,21 @@ DialogTemplate LoadDialogTemplate(const char* name);
 /// Creates the form's own window, hidden and without controls, of the window class name with that procedure,
 /// owned by owner if that is not nullptr. The procedure gets its first message before this returns. Returns
 /// nullptr when the platform refuses.
-HWND CreateFormWindow(const char* name, const DialogTemplate& layout, HWND owner, WNDPROC proc);
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
+                      WNDPROC proc);
 
-/// The size of the window with its frame that has a client area of that size, in pixels.
-SIZE FrameSize(HWND window, int clientWidth, int clientHeight, int dpi);
+/// What a window's frame consists of.
+struct FrameStyle {
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    bool hasMenu = false;
+};
 
-/// In the middle of the window's owner, but on its monitor; without an owner, of the work area.
-Area CenteredPlace(HWND window, const SIZE& frame);
+/// The size of a window with its frame that has a client area of that size, in pixels.
+SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int dpi);
+
+/// In the middle of the owner, but on its monitor; without an owner, of the work area.
+Area CenteredPlace(HWND owner, const SIZE& frame);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);

@@ -29,7 +29,8 @@ void MoveTo(HWND window, const Area& place) {
 Area WorkAreaAt(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoA(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    const DWORD otherwise = window ? MONITOR_DEFAULTTONEAREST : MONITOR_DEFAULTTOPRIMARY;
+    ::GetMonitorInfoA(::MonitorFromWindow(window, otherwise), &monitor);
     return AreaOf(monitor.rcWork);
 }
 

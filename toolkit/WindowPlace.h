@@ -13,7 +13,8 @@ void PlaceAt(HWND window, const Area& place);
 /// Moves the window to the left and top of place; its size stays.
 void MoveTo(HWND window, const Area& place);
 
-/// What the monitor that the window is on, or is nearest to, has free for windows.
+/// What the monitor that the window is on, or is nearest to, has free for windows; without a window, the
+/// first one.
 Area WorkAreaAt(HWND window);
 
 /// Whether a window at place has its caption, by which the user moves it, on a monitor.

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <stdexcept>
 #include <string_view>
 #include <vector>
@@ -26,7 +25,7 @@ public:
 
     TemplateBytes& header(std::uint32_t style, int items) {
         word(1).word(0xFFFF).dword(0).dword(0x10000).dword(style).word(items);
-        return word(5).word(6).word(758).word(503).text(u"").text(u"frmTest").text(u"Caption");
+        return word(5).word(6).word(758).word(503).text(u"mnuTest").text(u"frmTest").text(u"Caption");
     }
     TemplateBytes& item(std::uint32_t id, int x, int y, int width, int height) {
         align().dword(0).dword(0x200).dword(0x50010000).word(x).word(y).word(width).word(height);
@@ -87,17 +86,14 @@ TEST(DialogTemplate, AFontIsSkipped) {
     EXPECT_EQ(read.items[0].text, u"label");
 }
 
-TEST(DialogTemplate, TheFrameIsTheHeaderWithoutItems) {
+TEST(DialogTemplate, TheWindowHasItsStylesMenuAndCaption) {
     TemplateBytes source;
-    source.header(0x80C80000, 1);
-    const std::size_t headerSize = source.bytes.size();
-    source.item(7, 0, 0, 0, 0).ordinal(0x82).text(u"").word(0);
+    source.header(0x80C80000, 0);
     const DialogTemplate read = ParseDialogTemplate(source.bytes);
-    std::vector<std::byte> expected(source.bytes.begin(),
-                                    source.bytes.begin() + static_cast<std::ptrdiff_t>(headerSize));
-    expected[16] = expected[17] = {};
-    ASSERT_GE(read.frame.size() * 4, headerSize);
-    EXPECT_EQ(std::memcmp(read.frame.data(), expected.data(), headerSize), 0);
+    EXPECT_EQ(read.style, 0x80C80000U);
+    EXPECT_EQ(read.exStyle, 0x10000U);
+    EXPECT_EQ(read.menu, u"mnuTest");
+    EXPECT_EQ(read.caption, u"Caption");
 }
 
 TEST(DialogTemplate, EveryCutIsRefused) {
