@@ -36,6 +36,8 @@ target_link_libraries(Planted PRIVATE huevox_flags)
 add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
+# Far longer than the tests themselves.
+target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
 
 # What acts on the running program from another process, by real keys and mouse.
 add_library(ui_driver STATIC
@@ -101,6 +103,7 @@ add_executable(ui_tests
     ui/VanishingFilesTest.cpp
     ui/WaitingValuesTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
+target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox)
 
@@ -135,7 +138,7 @@ add_test(NAME packages.are_the_same_bytes_when_built_again_elsewhere
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/reproducible
         ${CMAKE_COMMAND} ${CMAKE_CPACK_COMMAND} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
 set_tests_properties(packages.are_the_same_bytes_when_built_again_elsewhere PROPERTIES
-    FIXTURES_REQUIRED packages TIMEOUT 600)
+    FIXTURES_REQUIRED packages TIMEOUT 600 COST 500)
 add_test(NAME ui.on_a_display_of_16_bits
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --depth 16
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LowColorDepth.*

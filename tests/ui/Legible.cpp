@@ -62,9 +62,18 @@ RECT Inside(HWND window, int border) {
     return area;
 }
 
-void ExpectToBe(double least, const RECT& area, const std::string& what) {
-    EXPECT_TRUE(Eventually([&] { return LookAt(area).contrast >= least; }))
-        << what << ": " << LookAt(area).contrast;
+/// An area of the control, which may still move with its window.
+void ExpectToBe(double least, HWND control, RECT area, const std::string& what) {
+    Look look = {};
+    RECT before = Inside(control, 0);
+    EXPECT_TRUE(Eventually([&] {
+        const RECT now = Inside(control, 0);
+        ::OffsetRect(&area, now.left - before.left, now.top - before.top);
+        before = now;
+        look = LookAt(area);
+        return look.contrast >= least;
+    })) << what
+        << ": " << look.contrast;
 }
 
 void ExpectButton(HWND button, double least) {
@@ -78,11 +87,11 @@ void ExpectButton(HWND button, double least) {
     } else if (kind != BS_PUSHBUTTON && kind != BS_DEFPUSHBUTTON) {
         RECT circle = Inside(button, 0);
         circle.right = std::min(circle.right, circle.left + circleWidth);
-        ExpectToBe(visible, circle, TextOf(button) + ", its circle");
+        ExpectToBe(visible, button, circle, TextOf(button) + ", its circle");
         area.left = circle.right;
         if (area.left >= area.right) return;
     }
-    ExpectToBe(least, area, TextOf(button));
+    ExpectToBe(least, button, area, TextOf(button));
 }
 
 void ExpectRows(HWND list, double least) {
@@ -91,7 +100,7 @@ void ExpectRows(HWND list, double least) {
     const auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
     for (int index = 0; index < count && row.top + height < Inside(list, 0).bottom; ++index) {
         row.bottom = row.top + height - 2;
-        ExpectToBe(least, row, "row " + std::to_string(index));
+        ExpectToBe(least, list, row, "row " + std::to_string(index));
         row.top += height;
     }
 }
@@ -105,9 +114,9 @@ BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
     } else if (kind == "ListBox") {
         ExpectRows(control, least);
     } else if (kind == "ScrollBar") {
-        ExpectToBe(visible, Inside(control, 0), "a slider");
+        ExpectToBe(visible, control, Inside(control, 0), "a slider");
     } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !TextOf(control).empty()) {
-        ExpectToBe(least, Inside(control, kind == "Edit" ? 3 : 0), TextOf(control));
+        ExpectToBe(least, control, Inside(control, kind == "Edit" ? 3 : 0), TextOf(control));
     }
     return TRUE;
 }

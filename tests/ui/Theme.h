@@ -1,6 +1,7 @@
 // How does a test give all programs the colours of another theme?
 #pragma once
 
+#include <ostream>
 #include <vector>
 
 #include "core/Color.h"
@@ -15,6 +16,9 @@ struct Theme {
     Color selectedText;
     Color link;
 };
+
+/// In the name of a test.
+inline void PrintTo(const Theme& theme, std::ostream* stream) { *stream << theme.name; }
 
 extern const Theme blackTheme;
 extern const Theme whiteTheme;
