@@ -65,13 +65,16 @@ Shape ShapeOf(HWND window) {
 }
 
 double TimeOfPicker(HWND form, const Picker& picker, Shape& shape) {
+    const HWND button = ::GetDlgItem(form, picker.button);
     const double before = NowInMilliseconds();
     // From the button's click on: how the platform paints a button that is pressed is no part of the window.
-    ::SendMessageA(form, WM_COMMAND, MAKEWPARAM(picker.button, BN_CLICKED),
-                   reinterpret_cast<LPARAM>(::GetDlgItem(form, picker.button)));
+    ::SendMessageA(form, WM_COMMAND, MAKEWPARAM(picker.button, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    double time = NowInMilliseconds() - before;
+    // Nor is looking for it.
     const HWND window = ::FindWindowA(picker.window, nullptr);
+    const double found = NowInMilliseconds();
     ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    const double time = NowInMilliseconds() - before;
+    time += NowInMilliseconds() - found;
     shape = ShapeOf(window);
     PumpAll();
     ::SendMessageA(window, WM_CLOSE, 0, 0);
