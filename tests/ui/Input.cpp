@@ -61,13 +61,17 @@ void WaitForReports(HWND window) {
 /// report between press and release takes it off what was pressed.
 void RestPointer(POINT screen) {
     constexpr int mostLooks = 100;
-    int looks = 0;
-    POINT pointer{};
-    do {
-        SendMouse(screen);
+    constexpr int enough = 3;
+    int steady = 0;
+    SendMouse(screen);
+    for (int look = 0; look < mostLooks && steady < enough; ++look) {
         WaitForReports(::WindowFromPoint(screen));
+        POINT pointer{};
         ::GetCursorPos(&pointer);
-    } while ((pointer.x != screen.x || pointer.y != screen.y) && ++looks < mostLooks);
+        const bool isThere = pointer.x == screen.x && pointer.y == screen.y;
+        steady = isThere ? steady + 1 : 0;
+        if (!isThere) SendMouse(screen);
+    }
 }
 
 }  // namespace
@@ -135,7 +139,20 @@ void Click(POINT screen) {
     ReleaseButton(screen);
 }
 
-void Click(HWND window) { Click(CenterOf(window)); }
+// A new window may still move while the pointer comes to rest.
+void Click(HWND window) {
+    constexpr int mostLooks = 10;
+    POINT place = CenterOf(window);
+    RestPointer(place);
+    for (int look = 0; look < mostLooks; ++look) {
+        const POINT now = CenterOf(window);
+        if (now.x == place.x && now.y == place.y) break;
+        place = now;
+        RestPointer(place);
+    }
+    PressButton(place);
+    ReleaseButton(place);
+}
 
 void DoubleClick(HWND window) {
     Click(window);
