@@ -36,7 +36,7 @@ target_link_libraries(Planted PRIVATE huevox_flags)
 add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
-# Far longer than the tests themselves.
+# To read the framework takes longer than to compile a test.
 target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
 
 # What acts on the running program from another process, by real keys and mouse.

@@ -78,10 +78,13 @@ HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area
                       WNDPROC proc) {
     RegisterFormClass(name, proc);
     const std::wstring className(name, name + std::strlen(name));
-    const HMENU menu = layout.menu.empty() ? nullptr : ::LoadMenuW(Instance(), Wide(layout.menu));
-    return ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style,
-                             place.left, place.top, place.width(), place.height(), owner, menu, Instance(),
-                             nullptr);
+    Owned<HMENU, &::DestroyMenu> menu(layout.menu.empty() ? nullptr
+                                                          : ::LoadMenuW(Instance(), Wide(layout.menu)));
+    const HWND window =
+        ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style, place.left,
+                          place.top, place.width(), place.height(), owner, menu.get(), Instance(), nullptr);
+    if (window) menu.release();  // it is the window's own from now on
+    return window;
 }
 
 SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int dpi) {
