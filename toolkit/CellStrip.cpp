@@ -11,6 +11,7 @@
 #include "toolkit/Keys.h"
 #include "toolkit/Mouse.h"
 #include "toolkit/Painting.h"
+#include "toolkit/PixelPicture.h"
 #include "toolkit/ToolTips.h"
 
 namespace {
@@ -34,13 +35,24 @@ std::optional<CellStep> StepOf(WPARAM key) {
 void CellStrip::setColors(std::span<const PackedColor> cellColors) {
     if (std::ranges::equal(colors, cellColors)) return;
     colors.assign(cellColors.begin(), cellColors.end());
-    if (hasFocus()) tellCell();
-    if (!isHeld) ::InvalidateRect(handle(), nullptr, FALSE);
+    if (isFocused) tellCell();
+    if (!isHeld) repaint();
 }
 
 void CellStrip::release() {
     isHeld = false;
-    ::InvalidateRect(handle(), nullptr, FALSE);
+    repaint();
+}
+
+/// All of a window that has never been painted is still to be.
+void CellStrip::repaint() const {
+    if (isPainted) ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void CellStrip::focus(bool isHere) {
+    isFocused = isHere;
+    if (isFocused) tellCell();
+    if (ShowsFocus(handle())) repaint();
 }
 
 void CellStrip::setTips(std::vector<std::string> cellTips) {
@@ -59,6 +71,8 @@ void CellStrip::attached() {
     colors.clear();
     tips.clear();
     framedCell = 0;
+    isPainted = false;
+    isFocused = false;
     receive();
 }
 
@@ -68,10 +82,10 @@ LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_PAINT: paint(); return 0;
         case WM_CAPTURECHANGED: pressedCell = -1; return 0;
         case WM_GETDLGCODE: return DLGC_WANTARROWS | (IsEnter(lParam) ? DLGC_WANTMESSAGE : 0);
-        case WM_SETFOCUS: tellCell(); [[fallthrough]];
-        case WM_KILLFOCUS: ::InvalidateRect(handle(), nullptr, FALSE); return 0;
+        case WM_SETFOCUS: focus(true); return 0;
+        case WM_KILLFOCUS: focus(false); return 0;
         case WM_KEYDOWN: return onKey(wParam, lParam);
-        case WM_UPDATEUISTATE: ::InvalidateRect(handle(), nullptr, FALSE); break;
+        case WM_UPDATEUISTATE: repaint(); break;
         default: break;
     }
     if (isUsable()) raiseMouse(message, lParam);
@@ -106,17 +120,24 @@ int CellStrip::cellAt(POINT point) const {
 
 void CellStrip::paint() {
     const Painting painting(handle());
-    if (colors.empty()) paintBackground(painting);
+    isPainted = true;
+    RECT area{};
+    ::GetClientRect(handle(), &area);
+    if (colors.empty()) {
+        paintBackground(painting);
+    } else {
+        paintCells(painting.context(), area);
+    }
+    if (isEdged) PaintEdge(painting.context(), area);
+    if (isFocused && !colors.empty()) paintFrame(painting.context());
+}
+
+void CellStrip::paintCells(HDC context, const RECT& area) const {
+    PixelPicture picture(static_cast<int>(area.right), static_cast<int>(area.bottom));
     const std::size_t count = std::min(places.size(), colors.size());
-    for (std::size_t cell = 0; cell < count; ++cell) {
-        FillWithColor(painting.context(), placeOf(cell), static_cast<COLORREF>(colors[cell]));
-    }
-    if (isEdged) {
-        RECT area{};
-        ::GetClientRect(handle(), &area);
-        PaintEdge(painting.context(), area);
-    }
-    if (hasFocus() && !colors.empty()) paintFrame(painting.context());
+    for (std::size_t cell = 0; cell < count; ++cell)
+        picture.fill(placeOf(cell), static_cast<COLORREF>(colors[cell]));
+    picture.show(context);
 }
 
 /// Wide enough to be seen around the narrowest cell.
@@ -128,15 +149,15 @@ void CellStrip::paintFrame(HDC context) const {
 }
 
 void CellStrip::setFirstCell(int cell) {
-    if (!hasFocus()) framedCell = cell;
+    if (!isFocused) framedCell = cell;
 }
 
 void CellStrip::moveFrame(int cell) {
     if (framedCell == cell) return;
     framedCell = cell;
-    if (!hasFocus()) return;
+    if (!isFocused) return;
     tellCell();
-    ::InvalidateRect(handle(), nullptr, FALSE);
+    repaint();
 }
 
 LRESULT CellStrip::onKey(WPARAM key, LPARAM lParam) {

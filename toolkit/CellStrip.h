@@ -28,7 +28,8 @@ public:
     /// has neither colours nor tips.
     void setColors(std::span<const PackedColor> cellColors);
 
-    /// Places in twips from the left and top of the strip; a later cell lies over an earlier one.
+    /// Places in twips from the left and top of the strip, which they cover; a later cell lies over an
+    /// earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
     /// Its outermost pixels are an edge, for strips that do not fill their window.
@@ -56,10 +57,13 @@ private:
     void attached() override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
+    void paintCells(HDC context, const RECT& area) const;
     /// As the form's, while there are no colours.
     void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
     void release();
+    void repaint() const;
+    void focus(bool isHere);
     LRESULT onKey(WPARAM key, LPARAM lParam);
     void moveFrame(int cell);
     void paintFrame(HDC context) const;
@@ -78,4 +82,6 @@ private:
     int framedCell = 0;
     bool isHeld = false;
     bool isEdged = false;
+    bool isPainted = false;
+    bool isFocused = false;  ///< as the platform says; asking it each time takes it longer than to paint
 };

@@ -24,10 +24,14 @@ inline void PaintEdge(HDC context, const RECT& area) {
     ::FrameRect(context, &area, ::GetSysColorBrush(COLOR_3DSHADOW));
 }
 
-/// Where the focus is, unless the window hides that until the keyboard is used. Black around white, so that
-/// it is seen on any colour; each line has that width.
+/// A window may hide where the focus is until the keyboard is used.
+inline bool ShowsFocus(HWND window) {
+    return !(::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
+}
+
+/// Where the focus is. Black around white, so that it is seen on any colour; each line has that width.
 inline void PaintFocusFrame(HWND window, HDC context, RECT frame, int width) {
-    if (::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) return;
+    if (!ShowsFocus(window)) return;
     for (const int color : {BLACK_BRUSH, WHITE_BRUSH}) {
         for (int line = 0; line < width; ++line) {
             ::FrameRect(context, &frame, static_cast<HBRUSH>(::GetStockObject(color)));
