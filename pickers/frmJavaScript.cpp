@@ -30,15 +30,16 @@ frmJavaScript::frmJavaScript(const Settings& settings, ChannelEditors& channels)
 }
 
 void frmJavaScript::Form_Load() {
-    tbrSortTools.fill(sortTools);
-    // Any other index fills nothing and presses no button.
-    if (settings.sortIndex == 0) {
-        FillAlphabetically();
-        tbrSortTools.press(IDM_Alphabetically);
-    }
-    if (settings.sortIndex == 1) {
-        FillDotNetOrder();
-        tbrSortTools.press(IDM_DotNet);
+    switch (settings.sortIndex) {
+        case 0:
+            FillAlphabetically();
+            tbrSortTools.fill(sortTools, IDM_Alphabetically);
+            break;
+        case 1:
+            FillDotNetOrder();
+            tbrSortTools.fill(sortTools, IDM_DotNet);
+            break;
+        default: tbrSortTools.fill(sortTools); break;  // no swatches, no button pressed
     }
 }
 

@@ -20,12 +20,13 @@ BYTE StyleOf(const ToolButton& button) {
 
 }  // namespace
 
-void ToolBar::fill(std::span<const ToolButton> buttons) {
+void ToolBar::fill(std::span<const ToolButton> buttons, int pressed) {
     std::vector<TBBUTTON> records;
     std::vector<int> wanted;
     for (const ToolButton& button : buttons) {
         TBBUTTON record{};
-        record.fsState = TBSTATE_ENABLED;
+        const bool isPressed = button.isChoice && button.command == pressed;
+        record.fsState = isPressed ? TBSTATE_ENABLED | TBSTATE_CHECKED : TBSTATE_ENABLED;
         record.fsStyle = StyleOf(button);
         record.idCommand = button.command;
         record.iBitmap = button.command == 0 ? 0 : static_cast<int>(wanted.size());
@@ -71,7 +72,7 @@ void ToolBar::pressHot() {
     TBBUTTON button{};
     if (!send(TB_GETBUTTON, send(TB_GETHOTITEM), reinterpret_cast<LPARAM>(&button))) return;
     if (!(button.fsState & TBSTATE_ENABLED) || button.idCommand == 0) return;
-    if (button.fsStyle & BTNS_CHECK) press(button.idCommand);
+    if (button.fsStyle & BTNS_CHECK) send(TB_CHECKBUTTON, button.idCommand, TRUE);
     onCommand(button.idCommand, 0);
 }
 

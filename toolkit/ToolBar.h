@@ -24,13 +24,11 @@ class ToolBar : public Control {
 public:
     using Control::Control;
 
-    /// Puts the buttons on the bar, all of them enabled.
-    void fill(std::span<const ToolButton> buttons);
+    /// Puts the buttons on the bar, all of them enabled, the choice of that command pressed.
+    void fill(std::span<const ToolButton> buttons, int pressed = 0);
 
     void setButtonEnabled(int command, bool isEnabled) { send(TB_ENABLEBUTTON, command, isEnabled); }
     bool isPressed(int command) const { return send(TB_ISBUTTONCHECKED, command) != 0; }
-    /// Presses a choice and releases its neighbours; raises nothing.
-    void press(int command) { send(TB_CHECKBUTTON, command, TRUE); }
     void setButtonTip(int command, std::string_view tip);
 
 private:

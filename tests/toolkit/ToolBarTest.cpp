@@ -24,7 +24,6 @@ protected:
         PrepareControls();
         form.Command.bind([&](int command) { chosen.push_back(command); });
         form.load();
-        form.tbrTest.fill(choices);
     }
     void TearDown() override { form.unload(); }
 
@@ -46,14 +45,13 @@ protected:
 }  // namespace
 
 TEST_F(ToolBarChoices, NoneIsPressedAtFirst) {
+    form.tbrTest.fill(choices);
     EXPECT_FALSE(isFirst());
     EXPECT_FALSE(isSecond());
 }
 
-TEST_F(ToolBarChoices, PressingOneReleasesTheOtherAndRaisesNothing) {
-    form.tbrTest.press(IDM_firstChoice);
-    EXPECT_TRUE(isFirst());
-    form.tbrTest.press(IDM_secondChoice);
+TEST_F(ToolBarChoices, IsFilledWithOneOfThemPressedAndRaisesNothing) {
+    form.tbrTest.fill(choices, IDM_secondChoice);
     EXPECT_FALSE(isFirst());
     EXPECT_TRUE(isSecond());
     EXPECT_TRUE(chosen.empty());
@@ -62,12 +60,13 @@ TEST_F(ToolBarChoices, PressingOneReleasesTheOtherAndRaisesNothing) {
 TEST_F(ToolBarChoices, AClickPressesBeforeItRaises) {
     bool wasPressed = false;
     form.Command.bind([&](int) { wasPressed = isFirst() && !isSecond(); });
-    form.tbrTest.press(IDM_secondChoice);
+    form.tbrTest.fill(choices, IDM_secondChoice);
     click(IDM_firstChoice);
     EXPECT_TRUE(wasPressed);
 }
 
 TEST_F(ToolBarChoices, AClickOnThePressedOneLeavesItPressed) {
+    form.tbrTest.fill(choices);
     click(IDM_secondChoice);
     click(IDM_secondChoice);
     EXPECT_TRUE(isSecond());
@@ -75,7 +74,7 @@ TEST_F(ToolBarChoices, AClickOnThePressedOneLeavesItPressed) {
 }
 
 TEST_F(ToolBarChoices, ANewWindowHasNonePressed) {
-    form.tbrTest.press(IDM_firstChoice);
+    form.tbrTest.fill(choices, IDM_firstChoice);
     form.unload();
     EXPECT_FALSE(isFirst());
     form.load();
