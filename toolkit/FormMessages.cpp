@@ -56,13 +56,10 @@ bool Form::preTranslate(MSG& message) {
 }
 
 LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* form = reinterpret_cast<Form*>(::GetWindowLongPtrA(window, DLGWINDOWEXTRA));
-    if (!form) {
-        form = formBeingCreated;
-        form->window = window;
-        ::SetWindowLongPtrA(window, DLGWINDOWEXTRA, reinterpret_cast<LONG_PTR>(form));
-    }
-    return Receiver(*form).onMessage(message, wParam, lParam);
+    const auto found = std::ranges::find(loadedForms, window, &Form::window);
+    Form& form = found == loadedForms.end() ? *formBeingCreated : **found;
+    form.window = window;
+    return Receiver(form).onMessage(message, wParam, lParam);
 }
 
 LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -19,14 +19,16 @@ HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
 
 const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
 
-void RegisterFormClass(const char* name, WNDPROC proc) {
+void RegisterFormClass(const char* name, DWORD exStyle, WNDPROC proc) {
     WNDCLASSEXA windowClass{};
     windowClass.cbSize = sizeof windowClass;
     if (::GetClassInfoExA(Instance(), name, &windowClass)) return;  // the form has been loaded before
     windowClass.lpfnWndProc = proc;
-    windowClass.cbWndExtra = DLGWINDOWEXTRA + sizeof(void*);
+    windowClass.cbWndExtra = DLGWINDOWEXTRA;
     windowClass.hInstance = Instance();
-    windowClass.hIcon = ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon));
+    // A tool window shows its picture nowhere.
+    const bool hasPicture = !(exStyle & WS_EX_TOOLWINDOW);
+    windowClass.hIcon = hasPicture ? ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon)) : nullptr;
     windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     windowClass.lpszClassName = name;
@@ -76,7 +78,7 @@ DialogTemplate LoadDialogTemplate(const char* name) {
 // Not by the dialog manager, which would create it of another size, at another place.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
                       WNDPROC proc) {
-    RegisterFormClass(name, proc);
+    RegisterFormClass(name, layout.exStyle, proc);
     const std::wstring className(name, name + std::strlen(name));
     Owned<HMENU, &::DestroyMenu> menu(layout.menu.empty() ? nullptr
                                                           : ::LoadMenuW(Instance(), Wide(layout.menu)));
