@@ -56,6 +56,18 @@ HWND Eyes::focus() const { return ThreadInfo(form).hwndFocus; }
 HWND Eyes::capture() const { return ThreadInfo(form).hwndCapture; }
 bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) != 0; }
 
+std::string Eyes::situation() const {
+    constexpr int firstKey = VK_BACK;  // before it stand the mouse's buttons
+    constexpr int lastKey = 0xFE;
+    std::string held;
+    for (int key = firstKey; key <= lastKey; ++key) {
+        if (::GetAsyncKeyState(key) < 0) held += ' ' + std::to_string(key);
+    }
+    const auto idOf = [](HWND window) { return window ? std::to_string(::GetDlgCtrlID(window)) : "none"; };
+    return "in front " + ClassOf(::GetForegroundWindow()) + ", focus " + idOf(focus()) + ", capture " +
+           idOf(capture()) + (isInMenu() ? ", in a menu" : "") + ", keys held:" + held;
+}
+
 HWND Eyes::box() const {
     HWND box = nullptr;
     for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {

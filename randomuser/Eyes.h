@@ -28,6 +28,8 @@ public:
     /// The window that has captured the mouse, or nullptr.
     HWND capture() const;
     bool isInMenu() const;
+    /// For whoever reads of a difference: where keys and clicks go to at the moment.
+    std::string situation() const;
     /// The box or dialog that is open, or nullptr.
     HWND box() const;
     /// The field for a file's name in a dialog, or nullptr.

@@ -107,12 +107,14 @@ bool Session::isLost(const Action& action, const Look& earlier) {
 }
 
 std::string Session::repeat(const Action& action, const Model& before, const std::string& found) {
-    std::printf("    step %d, %s: %s; done once more\n", steps, LineOf(action).c_str(), found.c_str());
+    std::printf("    step %d, %s: %s; done once more (%s)\n", steps, LineOf(action).c_str(), found.c_str(),
+                program->eyes->situation().c_str());
     ++figures.repeats;
     program->hands->leaveMenu();
     if (found.starts_with("window in front")) program->hands->bring(model.look().front);
     program->hands->play(action, before);
-    return agree(before.look(), Extent::everything);
+    const std::string again = agree(before.look(), Extent::everything);
+    return again.empty() ? again : again + " (" + program->eyes->situation() + ')';
 }
 
 void Session::start(int variant) {
