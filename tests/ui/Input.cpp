@@ -45,16 +45,34 @@ void SendMouse(POINT screen, DWORD button = 0) {
     ::SendInput(1, &input, sizeof input);
 }
 
+bool IsHeld(WORD key) { return ::GetAsyncKeyState(key) < 0; }
+
+/// Until the window's program has done what it was at.
+void WaitForAnswer(HWND window) {
+    constexpr UINT longEnough = 500;
+    ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, longEnough, nullptr);
+}
+
+/// Again and again until it is so: a program that hears of the display's keys while another key is down
+/// writes the states of all keys back as it has read them a moment ago.
+void SetHeld(WORD modifier, bool isHeld) {
+    constexpr int mostTimes = 20;
+    for (int time = 0; time < mostTimes; ++time) {
+        SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
+        WaitForAnswer(::GetForegroundWindow());
+        if (IsHeld(modifier) == isHeld) return;
+    }
+}
+
 /// Until the display has done what it was asked to do and the window's program has taken in what it tells of
 /// it.
 void WaitForReports(HWND window) {
-    constexpr UINT longEnough = 500;
     const HDC screen = ::GetDC(nullptr);
     // The display answers in the order of its callers: the second time all earlier wishes have been heard.
     ::GetPixel(screen, 0, 0);
     ::GetPixel(screen, 0, 0);
     ::ReleaseDC(nullptr, screen);
-    ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, longEnough, nullptr);
+    WaitForAnswer(window);
 }
 
 /// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
@@ -80,10 +98,10 @@ void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
-    for (const WORD modifier : modifiers) KeyDown(modifier);
+    for (const WORD modifier : modifiers) SetHeld(modifier, true);
     KeyDown(key);
     KeyUp(key);
-    for (const WORD modifier : modifiers) KeyUp(modifier);
+    for (const WORD modifier : modifiers) SetHeld(modifier, false);
 }
 
 void Type(std::string_view text) {
