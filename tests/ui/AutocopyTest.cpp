@@ -121,6 +121,7 @@ TEST_F(Autocopy, AClipboardHeldOpenIsLeftAloneUntilTheNextChange) {
         Press(VK_RIGHT);
         // The letters are refreshed by the tick that would copy.
         ASSERT_BECOMES(huevox.text(Property(0)), "");
+        ::SendMessageA(huevox.window(), WM_NULL, 0, 0);  // answered when the tick is over
     }
     EXPECT_TRUE(Throughout(1000, [] { return ClipboardText() == "theirs"; }));
     EXPECT_TRUE(huevox.isRunning());

@@ -7,5 +7,5 @@
 
 /// The text of a message box.
 std::string MessageOf(HWND dialog);
-/// Presses a button of a message box, such as IDOK, and waits until the box is gone.
+/// Presses a button of a message box, such as IDOK, and waits until the box is gone and its owner is back.
 void Answer(HWND dialog, int button);
