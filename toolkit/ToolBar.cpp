@@ -25,8 +25,8 @@ void ToolBar::fill(std::span<const ToolButton> buttons, int pressed) {
     std::vector<int> wanted;
     for (const ToolButton& button : buttons) {
         TBBUTTON record{};
-        const bool isPressed = button.isChoice && button.command == pressed;
-        record.fsState = isPressed ? TBSTATE_ENABLED | TBSTATE_CHECKED : TBSTATE_ENABLED;
+        const bool isChosen = button.isChoice && button.command == pressed;
+        record.fsState = isChosen ? TBSTATE_ENABLED | TBSTATE_CHECKED : TBSTATE_ENABLED;
         record.fsStyle = StyleOf(button);
         record.idCommand = button.command;
         record.iBitmap = button.command == 0 ? 0 : static_cast<int>(wanted.size());
