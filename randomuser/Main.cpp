@@ -1,5 +1,5 @@
-// A random user on the real program: soak [--seed N] [--steps N] [--minutes N] [--replay FILE]. Ends with 0
-// when the window has agreed with the model at every step.
+// A random user on the real program: soak [--seed N] [--steps N] [--minutes N] [--share-of-tests USERS]
+// [--replay FILE]. Ends with 0 when the window has agreed with the model at every step.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -41,21 +41,22 @@ ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULO
 
 double SecondsSince(ULONGLONG begin) { return static_cast<double>(::GetTickCount64() - begin) / 1000; }
 
-double ShareOfTests() {
+/// Minutes, of so many users each.
+double ShareOfTests(int users) {
     constexpr double usual = 3;
     const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
-    return minutes ? std::atof(minutes) : usual;
+    return (minutes ? std::atof(minutes) : usual) / users;
 }
 
 Options Read(int count, char** arguments) {
     Options options;
-    if (count == 2 && std::string_view(arguments[1]) == "--share-of-tests") options.minutes = ShareOfTests();
     for (int index = 1; index + 1 < count; index += 2) {
         const std::string_view name = arguments[index];
         const char* value = arguments[index + 1];
         if (name == "--seed") options.seed = static_cast<unsigned>(std::strtoul(value, nullptr, 10));
         if (name == "--steps") options.steps = std::atoi(value);
         if (name == "--minutes") options.minutes = std::atof(value);
+        if (name == "--share-of-tests") options.minutes = ShareOfTests(std::max(1, std::atoi(value)));
         if (name == "--replay") options.replay = value;
     }
     return options;

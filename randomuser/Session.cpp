@@ -81,7 +81,8 @@ std::string Session::play(const Action& action) {
     const Extent extent = isAll ? Extent::everything : Extent::changes;
     std::string found = action.kind == Kind::settle ? settleSoon() : "";
     if (found.empty()) found = agree(earlier, extent);
-    if (!found.empty() && isLost(action, earlier)) found = repeat(action, before, found);
+    if (!found.empty() && !found.starts_with("hang") && isLost(action, earlier))
+        found = repeat(action, before, found);
     if (found.empty()) found = filesDifference(before.files());
     if (found.empty()) found = clipboardDifference(before);
     if (!model.look().isRunning) {
