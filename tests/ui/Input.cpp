@@ -1,5 +1,7 @@
 #include "tests/ui/Input.h"
 
+#include <algorithm>
+
 #include "tests/ui/Wait.h"
 
 namespace {
@@ -64,6 +66,14 @@ void SetHeld(WORD modifier, bool isHeld) {
     }
 }
 
+/// Any program may bring a modifier key back, not only the one in front.
+void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
+    for (const WORD modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) {
+        if (IsHeld(modifier) && std::ranges::find(modifiers, modifier) == modifiers.end())
+            SetHeld(modifier, false);
+    }
+}
+
 /// Until the display has done what it was asked to do and the window's program has taken in what it tells of
 /// it.
 void WaitForReports(HWND window) {
@@ -98,6 +108,7 @@ void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
+    LetGoOfOthers(modifiers);
     for (const WORD modifier : modifiers) SetHeld(modifier, true);
     KeyDown(key);
     KeyUp(key);
