@@ -11,7 +11,6 @@
 #include "toolkit/Keys.h"
 #include "toolkit/Mouse.h"
 #include "toolkit/Painting.h"
-#include "toolkit/PixelPicture.h"
 #include "toolkit/ToolTips.h"
 
 namespace {
@@ -126,18 +125,16 @@ void CellStrip::paint() {
     if (colors.empty()) {
         paintBackground(painting);
     } else {
-        paintCells(painting.context(), area);
+        paintCells(painting.context());
     }
     if (isEdged) PaintEdge(painting.context(), area);
     if (isFocused && !colors.empty()) paintFrame(painting.context());
 }
 
-void CellStrip::paintCells(HDC context, const RECT& area) const {
-    PixelPicture picture(static_cast<int>(area.right), static_cast<int>(area.bottom));
+void CellStrip::paintCells(HDC context) const {
     const std::size_t count = std::min(places.size(), colors.size());
     for (std::size_t cell = 0; cell < count; ++cell)
-        picture.fill(placeOf(cell), static_cast<COLORREF>(colors[cell]));
-    picture.show(context);
+        FillWithColor(context, placeOf(cell), static_cast<COLORREF>(colors[cell]));
 }
 
 /// Wide enough to be seen around the narrowest cell.

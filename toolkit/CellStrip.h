@@ -57,7 +57,7 @@ private:
     void attached() override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
-    void paintCells(HDC context, const RECT& area) const;
+    void paintCells(HDC context) const;
     /// As the form's, while there are no colours.
     void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
