@@ -90,7 +90,7 @@ TEST_F(ScreenPicking, AReleaseOfTheRightButtonAppliesBlackAndLaterTheLastPick) {
     RightClick(Sample(huevox, 0));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
     Hold(huevox, Sample(huevox, 0));
-    MoveMouse(Sample(huevox, 4));
+    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
     ReleaseButton(Sample(huevox, 4));
     ASSERT_BECOMES(huevox.sliders(), ColorOf(0, 0, 255));
     huevox.selectMark(1);
