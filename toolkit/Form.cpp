@@ -35,6 +35,7 @@ void Form::createFrame(const DialogTemplate& dialog) {
     layout.begin(dialog, static_cast<int>(owner ? ::GetDpiForWindow(owner) : ::GetDpiForSystem()));
     const Area place = firstPlace(layout.frameSize());
     CreateFormWindow(name, dialog, place, owner, &Form::proc);
+    formBeingCreated = nullptr;
     if (!window) throw std::runtime_error("the platform refused a window");
     loadedForms.push_back(this);
     modalHold.join(window);

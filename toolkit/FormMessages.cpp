@@ -57,9 +57,10 @@ bool Form::preTranslate(MSG& message) {
 
 LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto found = std::ranges::find(loadedForms, window, &Form::window);
-    Form& form = found == loadedForms.end() ? *formBeingCreated : **found;
-    form.window = window;
-    return Receiver(form).onMessage(message, wParam, lParam);
+    if (found != loadedForms.end()) return Receiver(**found).onMessage(message, wParam, lParam);
+    if (!formBeingCreated) return ::DefDlgProcA(window, message, wParam, lParam);
+    formBeingCreated->window = window;
+    return Receiver(*formBeingCreated).onMessage(message, wParam, lParam);
 }
 
 LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -187,9 +188,9 @@ bool Form::Receiver::onMouse() {
 
 void Form::Receiver::onDestroyed() {
     form.controls.detachAll();
-    std::erase(loadedForms, &form);
     modalHold.leave(form.window);
     form.toolTips.reset();
+    std::erase(loadedForms, &form);
     form.window = nullptr;
     form.owner = nullptr;
     form.state = State::unloaded;

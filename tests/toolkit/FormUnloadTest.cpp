@@ -71,3 +71,16 @@ TEST_F(FormTest, TheLastOneEndsTheMessageLoop) {
     second.unload();
     EXPECT_EQ(RunMessageLoop(), 0);
 }
+
+TEST_F(FormTest, AMessageForAWindowThatHasGoneReachesNoOther) {
+    TestForm second;
+    form.load();
+    second.load();
+    const HWND gone = form.handle();
+    const HWND other = second.handle();
+    const auto proc = reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(gone, GWLP_WNDPROC));
+    form.unload();
+    ::CallWindowProcA(proc, gone, WM_NULL, 0, 0);
+    EXPECT_EQ(second.handle(), other);
+    second.unload();
+}
