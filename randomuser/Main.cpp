@@ -157,8 +157,8 @@ void PrintShares(const Figures& figures) {
 
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
     const auto& [first, last, steps, movements] = figures.growth;
-    std::printf("seed %u, %d steps in %.0f s, %d starts of the program\n", options.seed, outcome.steps,
-                outcome.seconds, figures.starts);
+    std::printf("seed %u, %d steps in %.0f s, %d starts of the program of %d bits\n", options.seed,
+                outcome.steps, outcome.seconds, figures.starts, figures.bits);
     std::printf("%.1f ms a step, %d actions done once more\n",
                 1000 * outcome.seconds / std::max(1, outcome.steps), figures.repeats);
     std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,

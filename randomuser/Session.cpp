@@ -130,6 +130,7 @@ void Session::start(int variant) {
     program->process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
     program->eyes = std::make_unique<Eyes>(window, program->process);
     program->hands = std::make_unique<Hands>(program->huevox, *program->eyes, other);
+    figures.bits = BitsOf(program->process);
     ++figures.starts;
 }
 

@@ -14,6 +14,7 @@
 
 /// What all sessions of a run have come to.
 struct Figures {
+    int bits = 0;  ///< of the program
     int starts = 0;
     int repeats = 0;           ///< of actions whose input had been lost
     double slowestAnswer = 0;  ///< milliseconds

@@ -97,6 +97,13 @@ Usage UsageOf(HANDLE process, HWND window) {
     return usage;
 }
 
+int BitsOf(HANDLE process) {
+    // Windows of 64 bits runs programs of 32 apart from its own.
+    BOOL runsApart = FALSE;
+    ::IsWow64Process(process, &runsApart);
+    return runsApart ? 32 : 64;
+}
+
 std::string Grown(const Growth& growth) {
     constexpr long long bytesAllowed = 2 << 20;
     constexpr int allowed = 50;

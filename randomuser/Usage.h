@@ -14,6 +14,9 @@ struct Usage {
 
 Usage UsageOf(HANDLE process, HWND window);
 
+/// The word length of a program.
+int BitsOf(HANDLE process);
+
 /// The first and the last figures of one program.
 struct Growth {
     Usage first = {};

@@ -101,17 +101,14 @@ add_executable(ui_tests
     ui/SuddenEndTest.cpp
     ui/TypedValuesTest.cpp
     ui/VanishingFilesTest.cpp
-    ui/WaitingValuesTest.cpp)
+    ui/WaitingValuesTest.cpp
+    ui/WordLengthTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
 target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox)
 
-add_executable(StandIn WIN32 ui/StandIn.cpp)
-target_link_libraries(StandIn PRIVATE huevox_flags)
-add_library(StandInViewer MODULE ui/StandInViewer.cpp)
-set_target_properties(StandInViewer PROPERTIES PREFIX "" OUTPUT_NAME hhctrl SUFFIX .ocx)
-target_link_libraries(StandInViewer PRIVATE huevox_flags)
+include(stand-ins.cmake)
 add_dependencies(ui_tests StandIn StandInViewer)
 
 # The packages: installed, started, upgraded and removed.
@@ -127,7 +124,7 @@ add_dependencies(installer_tests Huevox)
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
 set(alone RESOURCE_GROUPS "desktops:1" TIMEOUT 300)
 gtest_discover_tests(program_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${alone})
-gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*:LeftMonitor.*"
+gtest_discover_tests(ui_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_FILTER "-LowColorDepth.*:FullDisk.*:LeftMonitor.*:WordLength.Is32"
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone})
 gtest_discover_tests(installer_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} PROPERTIES ${alone} FIXTURES_REQUIRED packages)
@@ -171,15 +168,23 @@ foreach(dpi 120 144 192)
 endforeach()
 set_tests_properties(program.with_few_fonts ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors PROPERTIES TIMEOUT 120)
 # A share of the random users' time, each on a desktop of its own: together so many minutes as HUEVOX_SOAK_MINUTES says.
-set(users 2)
-foreach(user RANGE 1 ${users})
-    add_test(NAME ui.random_user_${user}
+function(add_random_user name seed folder)
+    add_test(NAME ${name}
         COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop
-            ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --seed ${user} --share-of-tests ${users}
-        WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+            ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --seed ${seed} --share-of-tests 2
+        WORKING_DIRECTORY ${folder})
     # They take longest and are started first.
-    set_tests_properties(ui.random_user_${user} PROPERTIES TIMEOUT 1800 COST 1000)
-endforeach()
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1800 COST 1000)
+endfunction()
+add_random_user(ui.random_user_1 1 ${PROJECT_BINARY_DIR})
+
+# What Wine can run of the 32-bit build needs a package more.
+execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/wine32 RESULT_VARIABLE without_32_bits)
+if(without_32_bits EQUAL 0)
+    include(windows-x86.cmake)
+else()
+    add_random_user(ui.random_user_2 2 ${PROJECT_BINARY_DIR})
+endif()
 
 add_test(NAME product.size_imports_and_hardening
     COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)

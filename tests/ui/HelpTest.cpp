@@ -20,7 +20,13 @@ protected:
 };
 
 constexpr const char* builtHelp = "huevox.chm";
-constexpr const char* systemViewer = R"(C:\windows\system32\hhctrl.ocx)";
+
+/// Where Windows keeps its libraries for programs of as many bits as the program has.
+std::string SystemFolder() {
+    DWORD kind = 0;
+    EXPECT_TRUE(::GetBinaryTypeA(HUEVOX_EXE, &kind));
+    return kind == SCS_32BIT_BINARY ? R"(C:\windows\syswow64\)" : R"(C:\windows\system32\)";
+}
 
 /// Wine takes a file for what it says it is, and its own viewer only where there is none, for as long as the
 /// value lives.
@@ -43,19 +49,20 @@ private:
 /// The platform's help viewer is another, or none, for as long as the value lives.
 class WithoutViewer {
 public:
-    WithoutViewer() { EXPECT_TRUE(::MoveFileA(systemViewer, aside)); }
+    WithoutViewer() { EXPECT_TRUE(::MoveFileA(viewer.c_str(), aside.c_str())); }
     explicit WithoutViewer(const char* standIn) : WithoutViewer() {
-        EXPECT_TRUE(::CopyFileA(standIn, systemViewer, FALSE));
+        EXPECT_TRUE(::CopyFileA(standIn, viewer.c_str(), FALSE));
     }
     WithoutViewer(const WithoutViewer&) = delete;
     WithoutViewer& operator=(const WithoutViewer&) = delete;
     ~WithoutViewer() {
-        Eventually([] { return ::DeleteFileA(systemViewer) != FALSE || !Exists(systemViewer); });
-        EXPECT_TRUE(::MoveFileA(aside, systemViewer));
+        Eventually([&] { return ::DeleteFileA(viewer.c_str()) != FALSE || !Exists(viewer); });
+        EXPECT_TRUE(::MoveFileA(aside.c_str(), viewer.c_str()));
     }
 
 private:
-    static constexpr const char* aside = R"(C:\windows\system32\hhctrl aside.ocx)";
+    const std::string viewer = SystemFolder() + "hhctrl.ocx";
+    const std::string aside = SystemFolder() + "hhctrl aside.ocx";
     FilesFirst filesFirst;
 };
 
