@@ -1,6 +1,7 @@
 # The 32-bit program, by the tests with windows: they act on whatever program stands in the folder that they start in.
 set(folder_32_bits ${PROJECT_SOURCE_DIR}/build/windows-x86)
 add_random_user(x86.random_user_2 2 ${folder_32_bits})
+set_tests_properties(x86.random_user_2 PROPERTIES FAIL_REGULAR_EXPRESSION "program of 64 bits")
 
 # Start, mixing, copying, saving, opening, picking, settings and dialogs; what tries every place or every key is left to
 # the other word length. Each is one process, because to start one takes longer than many a test.

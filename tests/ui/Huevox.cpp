@@ -1,5 +1,7 @@
 #include "tests/ui/Huevox.h"
 
+#include <filesystem>
+
 #include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Input.h"
@@ -67,7 +69,8 @@ void Huevox::start(const std::string& program, WORD showCommand) {
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
-    std::string command = '"' + program + '"';
+    // The program of the current folder: Windows would look for one beside the tests first.
+    std::string command = '"' + std::filesystem::absolute(program).string() + '"';
     // Now and then the platform refuses a process with an internal error and creates it the next time.
     const bool hasStarted = Eventually([&] {
         return ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
