@@ -50,6 +50,8 @@ add_library(ui_driver STATIC
     ui/Theme.cpp
     ui/UiTest.cpp)
 target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)
+# Where the system scales what less aware programs see, whoever drives the program has to see the places that it sees.
+target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
     HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
     HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
