@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "tests/ui/FormatDialog.h"
+#include "tests/ui/Tips.h"
 
 namespace {
 
@@ -26,16 +27,6 @@ const std::vector<Placeholder> placeholders = {
     {IDC_cmdDB, "DB", "%DB%", "Insert the code for Blue in Decimal"},
     {IDC_cmdLD, "LD", "%LD%", "Insert the code for Long Decimal"},
 };
-
-/// Moves the mouse away and then onto a button, and expects its tool tip.
-void ExpectTip(const Huevox& huevox, HWND button, const char* tip) {
-    MoveMouse({1, 1});
-    ASSERT_BECOMES(huevox.toolTip(), "");
-    const POINT middle = CenterOf(button);
-    MoveMouse({middle.x - 1, middle.y});
-    MoveMouse(middle);
-    EXPECT_BECOMES(huevox.toolTip(), tip);
-}
 
 }  // namespace
 

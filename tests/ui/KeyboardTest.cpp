@@ -3,6 +3,7 @@
 #include <string>
 
 #include "tests/ui/PickerWindow.h"
+#include "tests/ui/Scaled.h"
 #include "tests/ui/UiTest.h"
 
 namespace {
@@ -120,7 +121,7 @@ TEST_F(Keyboard, AFrameIsSeenAroundTheSwatchThatHasTheFocus) {
     EXPECT_BECOMES(Pixel(OnScreen(swatches, {area.right - 10, 10})), ColorOf(255, 255, 255));
     Press(VK_HOME);
     EXPECT_BECOMES(Pixel(OnScreen(swatches, {area.right - 1, 5})), ColorOf(255, 255, 255));
-    EXPECT_BECOMES(Pixel(OnScreen(swatches, {1, 5})), ColorOf(255, 255, 255));
+    EXPECT_BECOMES(Pixel(OnScreen(swatches, {Scaled(swatches, 1), 5})), ColorOf(255, 255, 255));
     EXPECT_BECOMES(Pixel(OnScreen(swatches, {5, 10})), ColorOf(0, 0, 0));
 }
 
@@ -132,17 +133,19 @@ TEST_F(Keyboard, AFrameIsSeenInTheSampleOfTheMarkWhoseButtonHasTheFocus) {
     };
     constexpr Color red = ColorOf(255, 0, 0);
     constexpr Color black = ColorOf(0, 0, 0);
-    EXPECT_BECOMES(line(0, 3), red);
+    const int frame = Scaled(huevox.window(), 3);
+    const int width = Scaled(huevox.window(), 1);
+    EXPECT_BECOMES(line(0, frame), red);
     TabTo(huevox, Option(0));
-    EXPECT_BECOMES(line(0, 3), black);
-    EXPECT_EQ(line(0, 2), red);
-    EXPECT_EQ(line(0, 4), white);
-    EXPECT_EQ(line(0, 5), red);
+    EXPECT_BECOMES(line(0, frame), black);
+    EXPECT_EQ(line(0, frame - 1), red);
+    EXPECT_EQ(line(0, frame + width), white);
+    EXPECT_EQ(line(0, frame + 2 * width), red);
     Press(VK_RIGHT);
-    EXPECT_BECOMES(line(1, 3), black);
-    EXPECT_BECOMES(line(0, 3), red);
+    EXPECT_BECOMES(line(1, frame), black);
+    EXPECT_BECOMES(line(0, frame), red);
     Press(VK_TAB);
-    EXPECT_BECOMES(line(1, 3), huevox.sample(1));
+    EXPECT_BECOMES(line(1, frame), huevox.sample(1));
 }
 
 TEST_F(Keyboard, TheOrderOfTheJavaScriptColorsIsSwitched) {

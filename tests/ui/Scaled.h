@@ -1,0 +1,9 @@
+// How does a test reckon with the display's scaling?
+#pragma once
+
+#include "toolkit/Platform.h"
+
+/// Pixels at 96 DPI in pixels of the window.
+inline int Scaled(HWND window, int pixels) {
+    return ::MulDiv(pixels, static_cast<int>(::GetDpiForWindow(window)), USER_DEFAULT_SCREEN_DPI);
+}

@@ -1,0 +1,14 @@
+// How does a test see the tool tip of a control?
+#pragma once
+
+#include "tests/ui/UiTest.h"
+
+/// Moves the mouse away and then onto a control, and expects its tool tip.
+inline void ExpectTip(const Huevox& huevox, HWND control, const char* tip) {
+    MoveMouse({1, 1});
+    ASSERT_BECOMES(huevox.toolTip(), "");
+    const POINT middle = CenterOf(control);
+    MoveMouse({middle.x - 1, middle.y});
+    MoveMouse(middle);
+    EXPECT_BECOMES(huevox.toolTip(), tip);
+}

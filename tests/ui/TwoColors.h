@@ -1,0 +1,16 @@
+// What does the program that knows nothing of scaling show? In the pixels that it believes to have.
+#pragma once
+
+#include "toolkit/Platform.h"
+
+namespace two_colors {
+
+inline constexpr const char* program = "tests/TwoColors.exe";
+inline constexpr const char* className = "TwoColors";
+inline constexpr int place = 20;  // from the left and from the top of the screen
+inline constexpr int width = 120;
+inline constexpr int height = 81;
+inline constexpr COLORREF left = RGB(0x12, 0x34, 0x56);
+inline constexpr COLORREF right = RGB(0xFE, 0x01, 0x80);
+
+}  // namespace two_colors
