@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr DWORD limit = 30'000;
-
 struct Search {
     DWORD process;
     std::string className;
@@ -83,7 +81,7 @@ Process::Process(std::string commandLine) {
 Process Process::FromStartMenu() {
     ::ShellExecuteA(nullptr, nullptr, Shortcut().string().c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     HWND window = nullptr;
-    EXPECT_TRUE(Eventually([&] { return (window = ::FindWindowA("frmMain", nullptr)) != nullptr; }, limit));
+    EXPECT_TRUE(Eventually([&] { return (window = ::FindWindowA("frmMain", nullptr)) != nullptr; }));
     DWORD id = 0;
     ::GetWindowThreadProcessId(window, &id);
     Process started;
@@ -96,21 +94,22 @@ Process::Process(Process&& other) noexcept : process(std::exchange(other.process
 Process::~Process() {
     if (!process) return;
     ::TerminateProcess(process, 1);
-    ::WaitForSingleObject(process, limit);
+    ::WaitForSingleObject(process, INFINITE);
     ::CloseHandle(process);
 }
 
 std::optional<int> Process::waitForEnd() const {
     DWORD exitCode = 0;
-    if (::WaitForSingleObject(process, limit) != WAIT_OBJECT_0) return std::nullopt;
+    if (!Eventually([&] { return ::WaitForSingleObject(process, 0) == WAIT_OBJECT_0; })) return std::nullopt;
     ::GetExitCodeProcess(process, &exitCode);
     return static_cast<int>(exitCode);
 }
 
 HWND Process::waitForWindow(const char* className) const {
     Search search{::GetProcessId(process), className, nullptr};
-    Eventually([&] { return ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search)), search.found; },
-               limit);
+    EXPECT_TRUE(Eventually([&] {
+        return ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search)), search.found != nullptr;
+    })) << className;
     return search.found;
 }
 
@@ -141,7 +140,7 @@ std::filesystem::path ShortcutTarget() {
 bool Remove(const std::filesystem::path& folder, const std::string& extra) {
     const std::filesystem::path uninstaller = folder / "uninstall.exe";
     EXPECT_EQ(RunToEnd("\"" + uninstaller.string() + "\" /S" + extra), 0);
-    return Eventually([&] { return !HasKey(uninstallKey) && !std::filesystem::exists(uninstaller); }, limit);
+    return Eventually([&] { return !HasKey(uninstallKey) && !std::filesystem::exists(uninstaller); });
 }
 
 std::string Value(const char* key, const char* name) {
@@ -161,7 +160,22 @@ bool HasKey(const char* key) {
     return true;
 }
 
+bool MakeKey(const char* key) {
+    HKEY made = nullptr;
+    if (::RegCreateKeyA(HKEY_CURRENT_USER, key, &made) != ERROR_SUCCESS) return false;
+    ::RegCloseKey(made);
+    return true;
+}
+
 void StoreSetting() { ::RegSetKeyValueA(HKEY_CURRENT_USER, settingsKey, "SortIndex", REG_SZ, "1", 2); }
+
+std::string ChangeOfTraces(const std::set<std::string>& before) {
+    std::string change;
+    const std::set<std::string> now = Traces();
+    for (const std::string& trace : now) change += before.contains(trace) ? "" : "+ " + trace + '\n';
+    for (const std::string& trace : before) change += now.contains(trace) ? "" : "- " + trace + '\n';
+    return change;
+}
 
 std::set<std::string> Traces() {
     std::set<std::string> traces;

@@ -12,6 +12,8 @@
 inline const std::filesystem::path setup{"packages-tested/Huevox-" HUEVOX_VERSION "-setup.exe"};
 inline const std::filesystem::path newerSetup{"packages-tested/Huevox-" HUEVOX_NEWER_VERSION "-setup.exe"};
 
+/// The system's list of programs. It is all programs': the first that is entered makes it, and none removes it.
+inline constexpr const char* programsKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall)";
 inline constexpr const char* uninstallKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox)";
 inline constexpr const char* settingsKey = R"(Software\Quorvane\Huevox 2004)";
 
@@ -51,7 +53,10 @@ bool Remove(const std::filesystem::path& folder, const std::string& extra = "");
 /// A value of a key of the user; "" when there is none. Numbers in decimal.
 std::string Value(const char* key, const char* name);
 bool HasKey(const char* key);
+bool MakeKey(const char* key);
 void StoreSetting();
 
 /// Every file in the folders where programs and their menu entries are, and every key of the user's software.
 std::set<std::string> Traces();
+/// What has come to the traces since ("+") and what has gone ("-"), a line each.
+std::string ChangeOfTraces(const std::set<std::string>& before);
