@@ -31,10 +31,10 @@ std::string UseFolderPicker(int button) {
     constexpr int tree = 14145;
     constexpr int titleLine = 14146;
     HWND picker = nullptr;
-    Eventually([&] {
+    EXPECT_TRUE(Eventually([&] {
         picker = ::FindWindowA("#32770", "Browse for Folder");
         return picker && ::SendMessageA(::GetDlgItem(picker, tree), TVM_GETCOUNT, 0, 0) > 0;
-    });
+    }));
     std::string title = TextOf(::GetDlgItem(picker, titleLine));
     ::PostMessageA(picker, WM_COMMAND, button, reinterpret_cast<LPARAM>(::GetDlgItem(picker, button)));
     return title;

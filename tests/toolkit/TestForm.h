@@ -20,6 +20,7 @@
 
 #ifndef RC_INVOKED
 
+#include "tests/ui/Wait.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/CellStrip.h"
 #include "toolkit/ControlArray.h"
@@ -63,12 +64,12 @@ inline void ForgetQuit() {
     while (::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
 }
 
-/// Dispatches messages until condition is true. False when it still is not after five seconds.
+/// Dispatches messages until condition is true. False when it does not become true.
 template <class Condition>
 bool PumpUntil(Condition condition) {
-    const ULONGLONG end = ::GetTickCount64() + 5000;
+    const Patience patience;
     while (!condition()) {
-        if (::GetTickCount64() >= end) return false;
+        if (patience.isOver()) return false;
         MSG message;
         while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
             if (Form::preTranslate(message)) continue;

@@ -12,15 +12,18 @@ inline std::string ClassOf(HWND window) {
     return name.data();
 }
 
+/// What a window of any process answers; 0 when it has gone. So far away is the limit that only a program
+/// that hangs reaches it.
+inline LRESULT AnswerOf(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    constexpr UINT limit = 300'000;
+    DWORD_PTR result = 0;
+    ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, limit, &result);
+    return static_cast<LRESULT>(result);
+}
+
 /// The text of any window, of another process as well.
 inline std::string TextOf(HWND window) {
-    constexpr UINT limit = 10'000;
-    DWORD_PTR length = 0;
-    ::SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, limit, &length);
-    std::string text(length + 1, '\0');
-    DWORD_PTR copied = 0;
-    ::SendMessageTimeoutA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
-                          SMTO_ABORTIFHUNG, limit, &copied);
-    text.resize(copied);
+    std::string text(AnswerOf(window, WM_GETTEXTLENGTH) + 1, '\0');
+    text.resize(AnswerOf(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
     return text;
 }

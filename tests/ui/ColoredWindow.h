@@ -11,10 +11,10 @@ public:
         window = ::CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, "Static", "",
                                    WS_POPUP, place.x, place.y, 40, 40, nullptr, nullptr, nullptr, nullptr);
         ::ShowWindow(window, SW_SHOWNOACTIVATE);
-        Eventually([&] {
+        EXPECT_TRUE(Eventually([&] {
             paint(color);
             return Pixel(place) == Unpack(static_cast<PackedColor>(color));
-        });
+        }));
     }
     ColoredWindow(const ColoredWindow&) = delete;
     ColoredWindow& operator=(const ColoredWindow&) = delete;

@@ -61,7 +61,6 @@ private:
     void waitUntilReady() const {
         EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); }));
         EXPECT_BECOMES(focus(), IDC_txtFormat);
-        WaitUntilAtRest(window());
     }
 
     const Huevox& huevox;

@@ -56,7 +56,7 @@ public:
     WithoutViewer(const WithoutViewer&) = delete;
     WithoutViewer& operator=(const WithoutViewer&) = delete;
     ~WithoutViewer() {
-        Eventually([&] { return ::DeleteFileA(viewer.c_str()) != FALSE || !Exists(viewer); });
+        EXPECT_TRUE(Eventually([&] { return ::DeleteFileA(viewer.c_str()) != FALSE || !Exists(viewer); }));
         EXPECT_TRUE(::MoveFileA(aside.c_str(), viewer.c_str()));
     }
 
@@ -83,7 +83,7 @@ private:
 HWND HelpWindow(const Huevox& huevox) { return huevox.form("HH Parent"); }
 
 void ExpectHelp(const Huevox& huevox) {
-    ASSERT_TRUE(Eventually([&] { return HelpWindow(huevox) != nullptr; }, 20'000));
+    ASSERT_TRUE(Eventually([&] { return HelpWindow(huevox) != nullptr; }));
     EXPECT_BECOMES(TextOf(HelpWindow(huevox)), "Huevox Help");
     EXPECT_EQ(huevox.dialog(), nullptr);
 }

@@ -49,7 +49,6 @@ Color GroundOf(HWND control, int border = 3) { return LookAt(AreaOf(control, bor
 
 HWND WaitForForm(const Huevox& huevox, const char* name) {
     EXPECT_TRUE(Eventually([&] { return huevox.form(name) == ::GetForegroundWindow(); })) << name;
-    WaitUntilAtRest(huevox.form(name));
     return huevox.form(name);
 }
 

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr DWORD limit = 10'000;
-
 struct Search {
     DWORD process;
     const char* className;
@@ -51,6 +49,18 @@ BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
     return FALSE;
 }
 
+BOOL CALLBACK FindUnpainted(HWND window, LPARAM parameter) {
+    if (!::IsWindowVisible(window) || !::GetUpdateRect(window, nullptr, FALSE)) return TRUE;
+    *reinterpret_cast<bool*>(parameter) = false;
+    return FALSE;
+}
+
+bool IsPainted(HWND window) {
+    bool isPainted = !::GetUpdateRect(window, nullptr, FALSE);
+    if (isPainted) ::EnumChildWindows(window, FindUnpainted, reinterpret_cast<LPARAM>(&isPainted));
+    return isPainted;
+}
+
 }  // namespace
 
 Huevox::Huevox(WORD showCommand) { startInSight(HUEVOX_EXE, showCommand); }
@@ -82,8 +92,8 @@ void Huevox::start(const std::string& program, WORD showCommand) {
 Huevox::~Huevox() {
     if (isRunning()) {
         ::PostMessageA(main, WM_CLOSE, 0, 0);
-        Eventually([&] { return !isRunning() || dialog() != nullptr; }, 500);
-        // It may ask whether to save what the test has changed.
+        // It may ask whether to save what the test has changed, or be held by a dialog.
+        EXPECT_TRUE(Eventually([&] { return !isRunning() || dialog() || !::IsWindowEnabled(main); }));
         kill();
     }
     ::CloseHandle(process.hThread);
@@ -91,10 +101,10 @@ Huevox::~Huevox() {
 }
 
 bool Huevox::waitForWindow() {
-    const bool isThere =
-        Eventually([&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr; }, limit);
-    ::WaitForInputIdle(process.hProcess, limit);
-    return isThere;
+    const bool isThere = Eventually(
+        [&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr || !isRunning(); });
+    ::WaitForInputIdle(process.hProcess, INFINITE);
+    return isThere && main != nullptr;
 }
 
 HWND Huevox::control(int id) const {
@@ -114,11 +124,11 @@ bool Huevox::isRunning() const { return ::WaitForSingleObject(process.hProcess, 
 
 void Huevox::kill() const {
     ::TerminateProcess(process.hProcess, 9);
-    ::WaitForSingleObject(process.hProcess, limit);
+    ::WaitForSingleObject(process.hProcess, INFINITE);
 }
 
 int Huevox::waitForEnd() const {
-    return ::WaitForSingleObject(process.hProcess, limit) == WAIT_OBJECT_0 ? exitCode() : -1;
+    return Eventually([&] { return !isRunning(); }) ? exitCode() : -1;
 }
 
 int Huevox::exitCode() const {
@@ -134,16 +144,15 @@ int Huevox::formCount(const char* name) const { return Find(process.dwProcessId,
 HWND Huevox::dialog() const { return Find(process.dwProcessId, "#32770").found; }
 
 HWND Huevox::waitForDialog() const {
-    Eventually([&] { return dialog() != nullptr; });
-    return dialog();
+    HWND found = nullptr;
+    EXPECT_TRUE(Eventually([&] { return (found = dialog()) != nullptr; }));
+    return found;
 }
 
 int Huevox::dialogCount() const { return Find(process.dwProcessId, "#32770").count; }
 
 LRESULT Huevox::send(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
-    DWORD_PTR result = 0;
-    ::SendMessageTimeoutA(control(id), message, wParam, lParam, SMTO_ABORTIFHUNG, limit, &result);
-    return static_cast<LRESULT>(result);
+    return AnswerOf(control(id), message, wParam, lParam);
 }
 
 std::string Huevox::text(int id) const { return TextOf(control(id)); }
@@ -157,7 +166,7 @@ Color Huevox::sliders() const {
     return ColorOf(value(IDC_hsbRed), value(IDC_hsbGreen), value(IDC_hsbBlue));
 }
 
-Color Huevox::sample(int mark) const { return Pixel(CenterOf(control(IDC_picSample + mark))); }
+Color Huevox::sample(int mark) const { return PaintedPixel(main, CenterOf(control(IDC_picSample + mark))); }
 
 POINT Huevox::barStepPlace(int step) const {
     // Under a neighbour or the bar's edge may lie a step's outermost pixels, but never its second.
@@ -166,12 +175,12 @@ POINT Huevox::barStepPlace(int step) const {
     return OnScreen(control(IDC_lblColorBar), {left, 10});
 }
 
-Color Huevox::barStep(int step) const { return Pixel(barStepPlace(step)); }
+Color Huevox::barStep(int step) const { return PaintedPixel(main, barStepPlace(step)); }
 
 Color Huevox::backColor(int id) const {
     RECT area{};
     ::GetClientRect(control(id), &area);
-    return Pixel(OnScreen(control(id), {area.right - 3, 2}));
+    return PaintedPixel(main, OnScreen(control(id), {area.right - 3, 2}));
 }
 
 bool Huevox::isToolButtonEnabled(int command) const {
@@ -195,7 +204,7 @@ std::string Huevox::toolTip() const {
 
 void Huevox::focusByClick(int id) const {
     Click(control(id));
-    Eventually([&] { return focus() == control(id); });
+    EXPECT_TRUE(Eventually([&] { return focus() == control(id); })) << id;
 }
 
 void Huevox::retype(int id, std::string_view text) const {
@@ -203,9 +212,9 @@ void Huevox::retype(int id, std::string_view text) const {
     Press(VK_END);
     Press(VK_HOME, {VK_SHIFT});
     Press(VK_DELETE);
-    Eventually([&] { return this->text(id).empty(); });
+    EXPECT_BECOMES(this->text(id), "");
     Type(text);
-    Eventually([&] { return this->text(id).size() == text.size(); });
+    EXPECT_BECOMES(this->text(id).size(), text.size());
 }
 
 std::pair<int, int> Huevox::selection(int id) const {
@@ -224,18 +233,27 @@ POINT Huevox::thumb(int slider, int value) const {
 
 void Huevox::focusSlider(int id) const {
     Click(thumb(id, static_cast<int>(send(id, SBM_GETPOS))));
-    Eventually([&] { return focus() == control(id); });
+    EXPECT_TRUE(Eventually([&] { return focus() == control(id); })) << id;
 }
 
 void Huevox::selectMark(int mark) const {
     Click(control(IDC_optColor + mark));
-    Eventually([&] { return isEnabled(IDC_picSample + mark); });
+    EXPECT_BECOMES(isEnabled(IDC_picSample + mark), true);
 }
 
 void Huevox::chooseNotation(int index) const {
     const int rowHeight = static_cast<int>(send(IDC_lstAutocopy, LB_GETITEMHEIGHT));
     Click(OnScreen(control(IDC_lstAutocopy), {20, index * rowHeight + rowHeight / 2}));
-    Eventually([&] { return listIndex() == index; });
+    EXPECT_BECOMES(listIndex(), index);
+}
+
+Color PaintedPixel(HWND window, POINT screen) {
+    EXPECT_TRUE(Eventually([window] { return IsPainted(window); }));
+    // Twice, because the window may have been at its painting: what it has painted is on the screen when its
+    // program waits for messages again.
+    AnswerOf(window, WM_NULL);
+    AnswerOf(window, WM_NULL);
+    return Pixel(screen);
 }
 
 Color Pixel(POINT screen) {

@@ -52,8 +52,8 @@ public:
     bool isChecked(int id) const { return send(id, BM_GETCHECK) == BST_CHECKED; }
     int listIndex() const;
     Color sliders() const;
+    /// Colours on the screen, once everything has been painted.
     Color sample(int mark) const;
-    /// The colour that is on the screen in the middle of the bar's step.
     Color barStep(int step) const;
     /// The left edge of the bar's step on the screen.
     POINT barStepPlace(int step) const;
@@ -92,3 +92,5 @@ private:
 
 /// The colour of a pixel of the screen.
 Color Pixel(POINT screen);
+/// The same once the window and all that is in it have been painted.
+Color PaintedPixel(HWND window, POINT screen);

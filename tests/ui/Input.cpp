@@ -1,7 +1,9 @@
 #include "tests/ui/Input.h"
 
 #include <algorithm>
+#include <array>
 
+#include "tests/toolkit/WindowText.h"
 #include "tests/ui/Wait.h"
 
 namespace {
@@ -38,32 +40,40 @@ LONG Absolute(LONG pixel, int start, int extent) {
 }
 
 /// Buttons bring their place with them: a display reports earlier moves late, and they take the pointer back.
-void SendMouse(POINT screen, DWORD button = 0) {
+INPUT MouseInput(POINT screen, DWORD button) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dx = Absolute(screen.x, SM_XVIRTUALSCREEN, SM_CXVIRTUALSCREEN);
     input.mi.dy = Absolute(screen.y, SM_YVIRTUALSCREEN, SM_CYVIRTUALSCREEN);
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK | button;
+    return input;
+}
+
+void SendMouse(POINT screen, DWORD button = 0) {
+    INPUT input = MouseInput(screen, button);
     ::SendInput(1, &input, sizeof input);
 }
 
 bool IsHeld(WORD key) { return ::GetAsyncKeyState(key) < 0; }
 
 /// Until the window's program has done what it was at.
-void WaitForAnswer(HWND window) {
-    constexpr UINT longEnough = 500;
-    ::SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, longEnough, nullptr);
+void WaitForAnswer(HWND window) { AnswerOf(window, WM_NULL); }
+
+/// Keys that come while no window takes them, or none yet, go nowhere.
+void WaitForKeys() {
+    EXPECT_TRUE(Eventually([] {
+        return TakesKeys(::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr));
+    })) << "no window takes keys";
 }
 
 /// Again and again until it is so: a program that hears of the display's keys while another key is down
 /// writes the states of all keys back as it has read them a moment ago.
 void SetHeld(WORD modifier, bool isHeld) {
-    constexpr int mostTimes = 20;
-    for (int time = 0; time < mostTimes; ++time) {
+    EXPECT_TRUE(Eventually([&] {
         SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
         WaitForAnswer(::GetForegroundWindow());
-        if (IsHeld(modifier) == isHeld) return;
-    }
+        return IsHeld(modifier) == isHeld;
+    })) << modifier;
 }
 
 /// Any program may bring a modifier key back, not only the one in front.
@@ -85,29 +95,46 @@ void WaitForReports(HWND window) {
     WaitForAnswer(window);
 }
 
+bool IsPointerAt(POINT screen) {
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    return pointer.x == screen.x && pointer.y == screen.y;
+}
+
+bool RestsAt(POINT screen) {
+    constexpr int looks = 3;
+    for (int look = 0; look < looks; ++look) {
+        WaitForReports(::WindowFromPoint(screen));
+        if (!IsPointerAt(screen)) return false;
+    }
+    return true;
+}
+
 /// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
 /// report between press and release takes it off what was pressed.
 void RestPointer(POINT screen) {
-    constexpr int mostLooks = 100;
-    constexpr int enough = 3;
-    int steady = 0;
-    SendMouse(screen);
-    for (int look = 0; look < mostLooks && steady < enough; ++look) {
-        WaitForReports(::WindowFromPoint(screen));
-        POINT pointer{};
-        ::GetCursorPos(&pointer);
-        const bool isThere = pointer.x == screen.x && pointer.y == screen.y;
-        steady = isThere ? steady + 1 : 0;
-        if (!isThere) SendMouse(screen);
-    }
+    EXPECT_TRUE(Eventually([screen] {
+        SendMouse(screen);
+        return RestsAt(screen);
+    })) << screen.x
+        << ' ' << screen.y;
 }
 
 }  // namespace
+
+bool TakesKeys(DWORD thread) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    const HWND front = ::GetForegroundWindow();
+    return ::GetWindowThreadProcessId(front, nullptr) == thread && ::GetGUIThreadInfo(thread, &info) &&
+           info.hwndFocus != nullptr;
+}
 
 void KeyDown(WORD key) { SendKey(key, 0); }
 void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
+    WaitForKeys();
     LetGoOfOthers(modifiers);
     for (const WORD modifier : modifiers) SetHeld(modifier, true);
     KeyDown(key);
@@ -138,17 +165,6 @@ POINT CenterOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
-void WaitUntilAtRest(HWND window) {
-    const auto corner = [window] { return OnScreen(window, {0, 0}); };
-    EXPECT_TRUE(Eventually([&] {
-        const POINT before = corner();
-        return Throughout(200, [&] {
-            const POINT now = corner();
-            return now.x == before.x && now.y == before.y;
-        });
-    }));
-}
-
 void MoveMouse(POINT screen) { SendMouse(screen); }
 void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
 void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
@@ -168,22 +184,14 @@ void Click(POINT screen) {
     ReleaseButton(screen);
 }
 
-// A new window may still move while the pointer comes to rest.
-void Click(HWND window) {
-    constexpr int mostLooks = 10;
-    POINT place = CenterOf(window);
-    RestPointer(place);
-    for (int look = 0; look < mostLooks; ++look) {
-        const POINT now = CenterOf(window);
-        if (now.x == place.x && now.y == place.y) break;
-        place = now;
-        RestPointer(place);
-    }
-    PressButton(place);
-    ReleaseButton(place);
-}
+void Click(HWND window) { Click(CenterOf(window)); }
 
+// All at once, because the time between the clicks makes them one.
 void DoubleClick(HWND window) {
-    Click(window);
-    Click(window);
+    const POINT place = CenterOf(window);
+    RestPointer(place);
+    const INPUT press = MouseInput(place, MOUSEEVENTF_LEFTDOWN);
+    const INPUT release = MouseInput(place, MOUSEEVENTF_LEFTUP);
+    std::array inputs = {press, release, press, release};
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }

@@ -5,8 +5,10 @@
 
 #include "toolkit/Platform.h"
 
-/// Presses and releases a key, with the modifier keys held meanwhile.
+/// Presses and releases a key, with the modifier keys held meanwhile, once a window takes keys.
 void Press(WORD key, std::initializer_list<WORD> modifiers = {});
+/// Whether keys go to a window of that thread.
+bool TakesKeys(DWORD thread);
 void KeyDown(WORD key);
 void KeyUp(WORD key);
 
@@ -16,9 +18,6 @@ void Type(std::string_view text);
 /// A point on the screen, from the left and top of the window's client area.
 POINT OnScreen(HWND window, POINT point);
 POINT CenterOf(HWND window);
-
-/// Waits until a window stays where it is: a slow window manager may move a new one once more.
-void WaitUntilAtRest(HWND window);
 
 void MoveMouse(POINT screen);
 void PressButton(POINT screen);

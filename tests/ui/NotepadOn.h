@@ -10,17 +10,17 @@
 class NotepadOn {
 public:
     explicit NotepadOn(const std::string& name) {
-        Eventually([&] {
+        EXPECT_TRUE(Eventually([&] {
             window = ::FindWindowA("Notepad", nullptr);
             return window && TextOf(window).find(name) != std::string::npos;
-        });
+        })) << name;
         if (window) title = TextOf(window);
     }
     NotepadOn(const NotepadOn&) = delete;
     NotepadOn& operator=(const NotepadOn&) = delete;
     ~NotepadOn() {
         ::PostMessageA(window, WM_CLOSE, 0, 0);
-        Eventually([&] { return !::IsWindow(window); });
+        EXPECT_TRUE(Eventually([&] { return !::IsWindow(window); }));
     }
 
     std::string title;

@@ -16,7 +16,7 @@ public:
     WithoutNotepad(const WithoutNotepad&) = delete;
     WithoutNotepad& operator=(const WithoutNotepad&) = delete;
     ~WithoutNotepad() {
-        Eventually([] { return ::DeleteFileA(notepad) != FALSE || !Exists(notepad); });
+        EXPECT_TRUE(Eventually([] { return ::DeleteFileA(notepad) != FALSE || !Exists(notepad); }));
         ::MoveFileA(aside, notepad);
     }
 

@@ -16,7 +16,6 @@ void OptionsDialog::waitUntilUsable() const {
         return window() && ::GetForegroundWindow() == window() && focused() == IDC_lstStandardFormat &&
                format() >= 0;
     }));
-    WaitUntilAtRest(window());
 }
 
 int OptionsDialog::format() const {

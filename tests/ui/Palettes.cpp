@@ -24,10 +24,10 @@ HWND NameField(HWND dialog) {
 
 /// After a box or dialog: keys that come before the window is in front again go nowhere.
 void WaitForReturn(const Huevox& huevox) {
-    Eventually([&] {
+    EXPECT_TRUE(Eventually([&] {
         const bool isBack = ::GetForegroundWindow() == huevox.window() && huevox.focus() != nullptr;
         return isBack || huevox.dialog() || !huevox.isRunning();
-    });
+    }));
 }
 
 }  // namespace

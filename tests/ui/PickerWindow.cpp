@@ -51,9 +51,7 @@ void PickerWindow::hover(const Swatch& swatch) const {
     MoveMouse(point);
 }
 
-/// Where the window manager still frames the window, it would move it once more.
 void PickerWindow::moveTo(int left, int top) const {
-    WaitUntilAtRest(window());
     ::SetWindowPos(window(), nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -31,7 +31,7 @@ public:
 
     /// The middle of a swatch on the screen.
     POINT middle(const Swatch& swatch) const;
-    Color colorAt(const Swatch& swatch) const { return Pixel(middle(swatch)); }
+    Color colorAt(const Swatch& swatch) const { return PaintedPixel(window(), middle(swatch)); }
     /// Presses and releases the left button on a swatch.
     void click(const Swatch& swatch) const;
     /// Moves the mouse away and then onto a swatch.

@@ -142,7 +142,7 @@ TEST_F(EndWhileRepairing, LeavesSettingsThatTheNextStartCanUse) {
         repaired += StoredText("StandardFolder") != "C:\\" ? 1 : 0;
         Huevox next(Huevox::DoNotWait{});
         const auto isThere = [&] { return next.dialog() != nullptr || next.form("frmMain") != nullptr; };
-        ASSERT_TRUE(Eventually(isThere, 10'000)) << "kill " << kill;
+        ASSERT_TRUE(Eventually(isThere)) << "kill " << kill;
         if (const HWND message = next.dialog()) Answer(message, IDOK);
         ASSERT_TRUE(next.waitForWindow()) << "kill " << kill;
         EXPECT_EQ(next.dialogCount(), 0);

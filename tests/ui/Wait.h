@@ -5,21 +5,81 @@
 
 #include "toolkit/Platform.h"
 
-/// Looks again and again until condition is true. False when it still is not after the limit.
+/// Milliseconds since the system's start in which a processor, of all on average, had nothing to do.
+inline ULONGLONG IdleMilliseconds() {
+    static const DWORD processors = [] {
+        SYSTEM_INFO system{};
+        ::GetSystemInfo(&system);
+        return system.dwNumberOfProcessors;
+    }();
+    constexpr ULONGLONG ticksInMillisecond = 10'000;
+    FILETIME idle{};
+    FILETIME kernel{};
+    FILETIME user{};
+    ::GetSystemTimes(&idle, &kernel, &user);
+    const ULONGLONG ticks = static_cast<ULONGLONG>(idle.dwHighDateTime) << 32 | idle.dwLowDateTime;
+    return ticks / ticksInMillisecond / processors;
+}
+
+/// How long something is waited for. It ends when the processors have been idle for so long that whoever has
+/// something to do could have done it: a busy machine only takes longer. Where a neighbour never rests, a
+/// limit ends it that only a hang reaches.
+class Patience {
+public:
+    bool isOver() const {
+        return IdleMilliseconds() - idleBegin >= enough || ::GetTickCount64() - begin >= hang;
+    }
+
+private:
+    static constexpr ULONGLONG enough = 8'000;
+    static constexpr ULONGLONG hang = 300'000;
+    ULONGLONG idleBegin = IdleMilliseconds();
+    ULONGLONG begin = ::GetTickCount64();
+};
+
+/// How long this process has waited in all.
+inline ULONGLONG& WaitedMilliseconds() {
+    static ULONGLONG waited = 0;
+    return waited;
+}
+
+/// Adds the time of its life to that. One wait may contain others.
+class Waiting {
+public:
+    Waiting() = default;
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+    ~Waiting() { WaitedMilliseconds() = before + (::GetTickCount64() - begin); }
+
+private:
+    ULONGLONG before = WaitedMilliseconds();
+    ULONGLONG begin = ::GetTickCount64();
+};
+
+/// Looks again and again until condition is true. False when it does not become true.
 template <class Condition>
-bool Eventually(Condition condition, DWORD milliseconds = 15'000) {
-    const ULONGLONG end = ::GetTickCount64() + milliseconds;
+[[nodiscard]] bool Eventually(Condition condition) {
+    constexpr DWORD betweenLooks = 5;
+    const Waiting waiting;
+    const Patience patience;
     while (!condition()) {
-        if (::GetTickCount64() >= end) return false;
-        ::Sleep(5);
+        if (patience.isOver()) return false;
+        ::Sleep(betweenLooks);
     }
     return true;
 }
 
 /// Looks again and again for as long as milliseconds, for something that must not happen. False when it does.
 template <class Condition>
-bool Throughout(DWORD milliseconds, Condition condition) {
-    return !Eventually([&] { return !condition(); }, milliseconds);
+[[nodiscard]] bool Throughout(DWORD milliseconds, Condition condition) {
+    constexpr DWORD betweenLooks = 5;
+    const Waiting waiting;
+    const ULONGLONG end = ::GetTickCount64() + milliseconds;
+    while (::GetTickCount64() < end) {
+        if (!condition()) return false;
+        ::Sleep(betweenLooks);
+    }
+    return true;
 }
 
 /// Reads a value again and again until it is the expected one.
