@@ -73,7 +73,7 @@ function(tidy_sources)
     get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
     # What the tests with windows leave of the processors is enough for it.
     add_test(NAME lint.tidy.${preset} COMMAND nice ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target tidy)
-    set_tests_properties(lint.tidy.${preset} PROPERTIES TIMEOUT 1200 COST 800)
+    set_tests_properties(lint.tidy.${preset} PROPERTIES TIMEOUT 3000 COST 800)
 endfunction()
 
 # style_tests(): the layout of all sources, and a second opinion on all of the program's.

@@ -75,12 +75,14 @@ protected:
     int unloads = 0;
 };
 
+class ErrorBeforeTheTrapIsArmed : public FatalError {};
+
 void Fail() { throw std::runtime_error("unexpected"); }
 
 }  // namespace
 
-// In a process of its own, as the test runner gives one to each test: once armed, the trap stays armed.
-TEST_F(FatalError, BeforeTheTrapIsArmedSaysAndDoesNothing) {
+// A suite of its own, because each has its own process: once armed, the trap stays armed.
+TEST_F(ErrorBeforeTheTrapIsArmed, SaysAndDoesNothing) {
     Answering answering;
     form.cmdTest.Click.bind(Fail);
     ::SendMessageA(form.handle(), WM_COMMAND, MAKEWPARAM(IDC_cmdTest, BN_CLICKED),
