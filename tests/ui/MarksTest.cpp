@@ -20,6 +20,9 @@ void MoveSlider(const Huevox& huevox, int slider = IDC_hsbRed) {
     ASSERT_BECOMES(huevox.send(slider, SBM_GETPOS), before - 1);
 }
 
+/// So far from the middle that Windows does not take this click and one there for a double click.
+void ClickAside(const Huevox& huevox, int box) { Click(OnScreen(huevox.control(box), {10, 8})); }
+
 }  // namespace
 
 TEST_F(SelectingMarks, ShowsTheMarksColorEverywhere) {
@@ -84,8 +87,7 @@ TEST_F(NameBoxes, TheFirstClickSelectsTheWholeNameAndFurtherClicksPlaceTheCaret)
     const Huevox huevox;
     huevox.focusByClick(Name(2));
     EXPECT_BECOMES(huevox.selection(Name(2)), wholePlaceholder);
-    ::Sleep(::GetDoubleClickTime());  // or the platform takes the next click for the second of a double click
-    Click(huevox.control(Name(2)));
+    ClickAside(huevox, Name(2));
     EXPECT_BECOMES(huevox.selection(Name(2)).first, huevox.selection(Name(2)).second);
 }
 
@@ -100,7 +102,7 @@ TEST_F(NameBoxes, AClickAfterTheFocusWasElsewhereSelectsAgain) {
 TEST_F(NameBoxes, ADoubleClickSelectsTheWholeName) {
     const Huevox huevox;
     huevox.retype(Name(0), "light sea green");
-    ::Sleep(::GetDoubleClickTime());
+    ClickAside(huevox, Name(0));
     DoubleClick(huevox.control(Name(0)));
     EXPECT_BECOMES(huevox.selection(Name(0)), (std::pair<int, int>{0, 15}));
 }
