@@ -26,6 +26,7 @@ void DeleteSettings() { ::RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\Quorvane"
 }  // namespace
 
 void UiTest::SetUp() {
+    waitedBefore = WaitedMilliseconds();
     DeleteSettings();
     ASSERT_TRUE(OpenClipboardSoon());
     ::EmptyClipboard();
@@ -33,7 +34,10 @@ void UiTest::SetUp() {
     MoveMouse({1, 1});
 }
 
-void UiTest::TearDown() { DeleteSettings(); }
+void UiTest::TearDown() {
+    DeleteSettings();
+    RecordProperty("waited", std::to_string(WaitedMilliseconds() - waitedBefore));
+}
 
 std::string ClipboardText() {
     // Read only when it has changed: a test that looks again and again would hold the clipboard open just

@@ -17,6 +17,9 @@ class UiTest : public testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
+
+private:
+    ULONGLONG waitedBefore = 0;
 };
 
 /// The text on the system clipboard, "" when there is none.
