@@ -154,7 +154,6 @@ TEST_F(Scaling, TheAboutBoxFollows) {
     Press('A');
     const auto about = [&] { return huevox.form("frmAbout"); };
     ASSERT_TRUE(Eventually([&] { return about() && ::GetForegroundWindow() == about(); }));
-    WaitUntilAtRest(about());
     ExpectWhole(about(), 11);
     ExpectSize(::GetDlgItem(about(), IDC_cmdOK), 80, 25);
     Click(::GetDlgItem(about(), IDC_cmdOK));
