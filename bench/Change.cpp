@@ -119,7 +119,7 @@ void BenchChange(const Effort& effort) {
     const RunningProgram running;
     const HWND window = running.form();
     Measure(window, batch, batch);
-    const int objects = running.usage().gdi;
+    const Usage before = running.usage();
 
     Compared all;
     for (int thousand = 1; thousand <= 10; ++thousand) {
@@ -135,7 +135,7 @@ void BenchChange(const Effort& effort) {
     TellCosts("change.program", all.program);
     TellCosts("change.platform", all.platform);
     TellCosts("change.own", all.own);
-    Tell("change.gdi", running.usage().gdi - objects);
+    Tell("change.gdi", running.usage().gdi - before.gdi);
 
     ChangeUnseen(window, 89 * measured);
     const Compared last = Measure(window, measured, batch);

@@ -1,6 +1,6 @@
 # Style and static checks as tests. A source is checked again when it or a header has changed.
-find_program(CLANG_TIDY NAMES clang-tidy-14 clang-tidy REQUIRED)
-find_program(CLANG_FORMAT NAMES clang-format-14 clang-format REQUIRED)
+find_program(CLANG_TIDY clang-tidy REQUIRED)
+find_program(CLANG_FORMAT clang-format REQUIRED)
 find_program(CPPCHECK cppcheck REQUIRED)
 
 set(rooms core help mainwindow palette pickers settings support toolkit resources tests bench fuzz randomuser)

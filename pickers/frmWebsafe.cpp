@@ -19,6 +19,7 @@ frmWebsafe::frmWebsafe(ChannelEditors& channels)
 
 void frmWebsafe::Form_Load() {
     std::vector<std::string> tips;
+    tips.reserve(colorTables.websafeChannels.size());
     for (const Color& color : colorTables.websafeChannels) tips.push_back(HexText(color));
     lblWebsafeColor.setColors(colorTables.websafeColor);
     lblWebsafeColor.setTips(std::move(tips));

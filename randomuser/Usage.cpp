@@ -35,7 +35,7 @@ int GdiObjects(HANDLE process) {
                                                       sizeof information, nullptr);
     const auto* block = reinterpret_cast<const char*>(information.PebBaseAddress);
     const void* table = nullptr;
-    ::ReadProcessMemory(process, block + tableOffset, &table, sizeof table, nullptr);
+    ::ReadProcessMemory(process, block + tableOffset, static_cast<void*>(&table), sizeof table, nullptr);
     std::vector<GdiEntry> entries(tableEntries);
     if (!::ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(GdiEntry), nullptr))
         return 0;

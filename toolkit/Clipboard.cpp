@@ -31,9 +31,10 @@ void PutBytes(UINT format, const void* bytes, std::size_t size) {
 }
 
 std::wstring Widened(std::string_view text) {
+    const char* const first = text.data();
     const int size = static_cast<int>(text.size());
-    std::wstring wide(::MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0), L'\0');
-    ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()));
+    std::wstring wide(::MultiByteToWideChar(CP_ACP, 0, first, size, nullptr, 0), L'\0');
+    ::MultiByteToWideChar(CP_ACP, 0, first, size, wide.data(), static_cast<int>(wide.size()));
     return wide;
 }
 

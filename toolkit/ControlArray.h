@@ -24,9 +24,12 @@ public:
     auto begin() { return controls.begin(); }
     auto end() { return controls.end(); }
 
+    template <class... Args>
+    using EventOf = Event<Args...> Kind::*;
+
     /// Binds the event of every control to one handler, which is given the control's index first.
     template <class Target, class... Args>
-    void bind(Event<Args...> Kind::*event, Target* target, void (Target::*handler)(int, Args...)) {
+    void bind(EventOf<Args...> event, Target* target, void (Target::*handler)(int, Args...)) {
         for (int index = 0; index < count; ++index) {
             (controls[index].*event).bind([=](Args... args) { (target->*handler)(index, args...); });
         }

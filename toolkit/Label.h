@@ -11,7 +11,7 @@ class Label : public Control {
 public:
     using Control::Control;
 
-    std::string text() const { return shown; }
+    const std::string& text() const { return shown; }
     void setText(std::string_view text);
 
     /// Shows the text in a font of its own, of that height in pixels at 96 DPI. While the form is loaded.

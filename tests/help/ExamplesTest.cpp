@@ -52,7 +52,7 @@ std::vector<Cells> RowsOf(const char* page, std::size_t cellCount) {
     std::vector<Cells> rows;
     for (const std::string& row : Between(PageText(page), "<tr>", "</tr>")) {
         Cells cells = Between(row, "<td>", "</td>");
-        std::transform(cells.begin(), cells.end(), cells.begin(), Shown);
+        std::ranges::transform(cells, cells.begin(), Shown);
         if (cells.size() == cellCount) rows.push_back(std::move(cells));
     }
     return rows;

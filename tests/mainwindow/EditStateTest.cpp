@@ -16,7 +16,10 @@ TEST(Cleared, FlagIsFalseForAScopeAndTrueAfterIt) {
 TEST(Cleared, AnInnerScopeDoesNotEndTheOuterOne) {
     bool flag = true;
     const Cleared outer(flag);
-    { const Cleared inner(flag); }
+    {
+        const Cleared inner(flag);
+        EXPECT_FALSE(flag);
+    }
     EXPECT_FALSE(flag);
 }
 
@@ -24,8 +27,9 @@ TEST(Cleared, AnErrorPutsTheFlagBack) {
     bool flag = true;
     try {
         const Cleared guard(flag);
-        throw std::runtime_error("");
-    } catch (const std::runtime_error&) {
+        throw std::runtime_error("unexpected");
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "unexpected");
     }
     EXPECT_TRUE(flag);
 }
@@ -42,7 +46,10 @@ TEST(Raised, FlagIsTrueForAScopeAndFalseAfterIt) {
 TEST(Raised, AnInnerScopeDoesNotEndTheOuterOne) {
     bool flag = false;
     const Raised outer(flag);
-    { const Raised inner(flag); }
+    {
+        const Raised inner(flag);
+        EXPECT_TRUE(flag);
+    }
     EXPECT_TRUE(flag);
 }
 
@@ -50,8 +57,9 @@ TEST(Raised, AnErrorPutsTheFlagBack) {
     bool flag = false;
     try {
         const Raised guard(flag);
-        throw std::runtime_error("");
-    } catch (const std::runtime_error&) {
+        throw std::runtime_error("unexpected");
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "unexpected");
     }
     EXPECT_FALSE(flag);
 }

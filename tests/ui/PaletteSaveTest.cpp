@@ -63,7 +63,10 @@ TEST_F(SavingPalettes, SaveGoesToTheFolderOfTheLastDialog) {
     WriteContent(OtherPathOf("read me.txt"), "hello");
     Press('I', {VK_CONTROL});
     ChoosePath(huevox, notepadTitle, OtherPathOf("read me.txt"));
-    { const NotepadOn notepad("read me"); }
+    {
+        const NotepadOn notepad("read me");
+        EXPECT_NE(notepad.title, "");
+    }
     ChangeColor(huevox);
     Press('S', {VK_CONTROL});
     EXPECT_TRUE(Eventually([] { return Exists(OtherPathOf("Reds.txt")); }));

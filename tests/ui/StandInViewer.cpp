@@ -11,13 +11,13 @@ std::ofstream Calls() {
 
 }  // namespace
 
+// NOLINTNEXTLINE(misc-use-internal-linkage): Windows calls it.
 BOOL WINAPI DllMain(HINSTANCE /*library*/, DWORD reason, LPVOID /*reserved*/) {
     if (reason == DLL_PROCESS_ATTACH) Calls() << "loaded\n";
     return TRUE;
 }
 
-extern "C" __declspec(dllexport) HWND WINAPI
-    HtmlHelpA(HWND owner, LPCSTR file, UINT command, DWORD_PTR data) {
-    Calls() << owner << '|' << file << '|' << command << '|' << reinterpret_cast<LPCSTR>(data) << '\n';
+extern "C" __declspec(dllexport) HWND WINAPI HtmlHelpA(HWND owner, LPCSTR file, UINT call, DWORD_PTR data) {
+    Calls() << owner << '|' << file << '|' << call << '|' << reinterpret_cast<LPCSTR>(data) << '\n';
     return nullptr;
 }
