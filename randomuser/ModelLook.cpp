@@ -51,7 +51,7 @@ bool Model::isPossible(const Action& action) const {
     switch (action.kind) {
         case Kind::start: return !isRunning;
         case Kind::otherHolds: return isRunning && !clip.isHeld;
-        case Kind::otherLetsGo: return clip.isHeld;
+        case Kind::otherLetsGo: return isRunning && clip.isHeld;
         case Kind::answer: return isRunning && isButton(action.value);
         case Kind::choosePath:
             // Notepad would ask whether to make a file that is missing.

@@ -119,6 +119,8 @@ std::string Session::repeat(const Action& action, const Model& before, const std
 }
 
 void Session::start(int variant) {
+    // The program before may have ended while the clipboard was held.
+    other.letGo();
     StoreSettings(SettingsOf(variant));
     MakeFiles();
     program = std::make_unique<Program>();

@@ -91,6 +91,14 @@ TEST_F(SoakModel, LeavesOutWhatIsNotPossible) {
               (Actions{start, mark}));
 }
 
+TEST_F(SoakModel, NothingButAStartIsPossibleWhileNoProgramRuns) {
+    play({Kind::otherHolds});
+    play({Kind::close});
+    ASSERT_FALSE(model.look().isRunning);
+    for (auto kind = Kind::start; kind <= Kind::help; kind = static_cast<Kind>(static_cast<int>(kind) + 1))
+        EXPECT_EQ(model.isPossible({kind}), kind == Kind::start) << LineOf({kind});
+}
+
 TEST_F(SoakModel, TakesTheSwatchToTheRight) {
     EXPECT_EQ(WebsafeColor(SwatchRightOf(0, 0)), ColorOf(51, 0, 0));
     EXPECT_EQ(WebsafeColor(SwatchRightOf(0, 5 * 36)), ColorOf(0, 51, 0));
