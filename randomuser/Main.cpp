@@ -7,11 +7,11 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "randomuser/Chooser.h"
+#include "randomuser/Options.h"
 #include "randomuser/Session.h"
 #include "randomuser/Shorten.h"
 #include "tests/core/NamedColors.h"
@@ -21,13 +21,6 @@ namespace {
 /// Milliseconds; the shorter while many sequences are tried that all end in a difference.
 constexpr unsigned usualPatience = 5000;
 constexpr unsigned shortPatience = 1500;
-
-struct Options {
-    unsigned seed = 1;
-    int steps = 100'000;
-    double minutes = 30;  ///< at most
-    std::string replay = {};
-};
 
 /// What has become of a sequence: how many steps, and what differs at the last.
 struct Outcome {
@@ -41,25 +34,10 @@ ULONGLONG EndAfter(double minutes) { return ::GetTickCount64() + static_cast<ULO
 
 double SecondsSince(ULONGLONG begin) { return static_cast<double>(::GetTickCount64() - begin) / 1000; }
 
-/// Minutes, of so many users each.
-double ShareOfTests(int users) {
-    constexpr double usual = 3;
-    const char* minutes = std::getenv("HUEVOX_SOAK_MINUTES");
-    return (minutes ? std::atof(minutes) : usual) / users;
-}
-
-Options Read(int count, char** arguments) {
-    Options options;
-    for (int index = 1; index + 1 < count; index += 2) {
-        const std::string_view name = arguments[index];
-        const char* value = arguments[index + 1];
-        if (name == "--seed") options.seed = static_cast<unsigned>(std::strtoul(value, nullptr, 10));
-        if (name == "--steps") options.steps = std::atoi(value);
-        if (name == "--minutes") options.minutes = std::atof(value);
-        if (name == "--share-of-tests") options.minutes = ShareOfTests(std::max(1, std::atoi(value)));
-        if (name == "--replay") options.replay = value;
-    }
-    return options;
+/// Of this program and of the share of the tests' time that it is given.
+Options OptionsOf(int count, char** arguments) {
+    const char* minutesOfTests = std::getenv("HUEVOX_SOAK_MINUTES");
+    return ReadOptions({arguments + 1, arguments + count}, minutesOfTests ? minutesOfTests : "3");
 }
 
 Outcome PlayAtRandom(const Facts& facts, Figures& figures, const Options& options) {
@@ -130,15 +108,6 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
     Save(*shortest, name + "-shortest.txt");
 }
 
-Actions ReadActions(const std::string& path) {
-    Actions actions;
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);) {
-        if (const auto action = ParseLine(line)) actions.push_back(*action);
-    }
-    return actions;
-}
-
 void PrintGrowth(const char* what, long long first, long long last, int steps) {
     const double each = steps > 0 ? 10'000.0 * static_cast<double>(last - first) / steps : 0;
     std::printf("    %s: %lld at first, %lld at last, %+.1f in 10,000 steps\n", what, first, last, each);
@@ -171,16 +140,10 @@ void Summarise(const Options& options, const Outcome& outcome, const Figures& fi
     PrintGrowth("handles", first.handles, last.handles, steps);
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
-    std::setvbuf(stdout, nullptr, _IONBF, 0);
-    const Options options = Read(count, arguments);
-    const Facts facts(ReadJavaScriptColors());
+bool IsAsItMust(const Facts& facts, const Options& options, const Actions& replayed) {
     Figures figures;
-    const Outcome outcome = options.replay.empty()
-                                ? PlayAtRandom(facts, figures, options)
-                                : Play(facts, figures, ReadActions(options.replay), usualPatience);
+    const Outcome outcome = replayed.empty() ? PlayAtRandom(facts, figures, options)
+                                             : Play(facts, figures, replayed, usualPatience);
     Summarise(options, outcome, figures);
     const std::string grown = Grown(figures.growth);
     if (!grown.empty()) std::puts(grown.c_str());
@@ -189,5 +152,20 @@ int main(int count, char** arguments) {
     } else if (grown.empty()) {
         std::puts("No difference.");
     }
-    return outcome.difference.empty() && grown.empty() ? 0 : 1;
+    return outcome.difference.empty() && grown.empty();
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    const Options options = OptionsOf(count, arguments);
+    const Replay replay = options.replay.empty() ? Replay() : ReadReplay(options.replay);
+    for (const std::string& problem : {options.problem, replay.problem}) {
+        if (problem.empty()) continue;
+        std::fprintf(stderr, "%s\n", problem.c_str());
+        return 2;
+    }
+    const Facts facts(ReadJavaScriptColors());
+    return IsAsItMust(facts, options, replay.actions) ? 0 : 1;
 }
