@@ -69,16 +69,18 @@ std::string Eyes::situation() const {
 }
 
 HWND Eyes::box() const {
-    HWND box = nullptr;
+    // One that has another over it is disabled; which of them comes first in the order of the windows is the
+    // window manager's affair.
+    const auto isOpen = [](HWND window) { return ::IsWindowVisible(window) && ::IsWindowEnabled(window); };
     for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
-        box = ::FindWindowA(dialog, nullptr);
-        if (box && ::IsWindowVisible(box)) return box;
+        const HWND box = ::FindWindowA(dialog, nullptr);
+        if (box && isOpen(box)) return box;
     }
-    box = nullptr;
+    HWND box = nullptr;
     while ((box = ::FindWindowExA(nullptr, box, "#32770", nullptr)) != nullptr) {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(box, &owner);
-        if (owner == ::GetProcessId(process) && ::IsWindowVisible(box)) return box;
+        if (owner == ::GetProcessId(process) && isOpen(box)) return box;
     }
     return nullptr;
 }
