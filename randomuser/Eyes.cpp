@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Milliseconds without an answer.
-constexpr UINT hang = 1000;
+/// Milliseconds without an answer: so many that the busiest machine gives the program time for one.
+constexpr UINT hang = 60'000;
 
 constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
 
@@ -34,6 +34,7 @@ Eyes::Eyes(HWND main, HANDLE process) : form(main), process(process) {
 }
 
 LRESULT Eyes::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!hasAnswered) return 0;
     const double before = NowInMilliseconds();
     DWORD_PTR result = 0;
     const LRESULT isAnswered =

@@ -14,7 +14,7 @@ enum class Extent { changes, everything };
 
 class Comparison;
 
-/// Looks at the program from another process. Each question must be answered within five seconds.
+/// Looks at the program from another process. Each question must be answered within a minute.
 class Eyes {
 public:
     Eyes(HWND main, HANDLE process);

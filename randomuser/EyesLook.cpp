@@ -74,7 +74,7 @@ std::string Eyes::difference(const Look& expected, const Look& earlier, Extent e
     lookAtCommands(compare, expected, earlier);
     // A box may lie over the window.
     if (compare.isLookingAtAll() && !expected.box.isOpen()) lookAtPixels(compare, expected);
-    return hasAnswered ? compare.found : "hang: no answer for a second";
+    return hasAnswered ? compare.found : "hang: no answer for a minute";
 }
 
 void Eyes::lookAtFrame(Comparison& compare, const Look& expected, const Look& earlier) {
