@@ -57,6 +57,12 @@ HWND Eyes::focus() const { return ThreadInfo(form).hwndFocus; }
 HWND Eyes::capture() const { return ThreadInfo(form).hwndCapture; }
 bool Eyes::isInMenu() const { return (ThreadInfo(form).flags & GUI_INMENUMODE) != 0; }
 
+bool Eyes::hasKeys(HWND window) {
+    const GUITHREADINFO info = ThreadInfo(window);
+    const bool hasFocus = window && (info.hwndFocus == window || ::IsChild(window, info.hwndFocus));
+    return hasFocus && ::GetForegroundWindow() == window && (info.flags & GUI_INMENUMODE) == 0;
+}
+
 std::string Eyes::situation() const {
     constexpr int firstKey = VK_BACK;  // before it stand the mouse's buttons
     constexpr int lastKey = 0xFE;

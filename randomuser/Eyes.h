@@ -28,9 +28,11 @@ public:
     /// The window that has captured the mouse, or nullptr.
     HWND capture() const;
     bool isInMenu() const;
+    /// Whether keys go to the window, and to no menu.
+    static bool hasKeys(HWND window);
     /// For whoever reads of a difference: where keys and clicks go to at the moment.
     std::string situation() const;
-    /// The box or dialog that is open, or nullptr.
+    /// The box or dialog that is open and takes input, or nullptr.
     HWND box() const;
     /// The field for a file's name in a dialog, or nullptr.
     static HWND nameField(HWND dialog);

@@ -21,42 +21,45 @@ void PressSteps(WORD forward, WORD back, int steps) {
     PressOften(steps > 0 ? forward : back, std::abs(steps));
 }
 
-void BringWindow(HWND window) {
-    constexpr DWORD usual = 200;
-    const auto isInFront = [window] { return ::GetForegroundWindow() == window; };
-    if (!window || isInFront()) return;
-    Soon([&] {
-        if (Soon(isInFront, usual)) return true;
-        ::SetForegroundWindow(window);
-        return Soon(isInFront, usual);
+}  // namespace
+
+std::string Hands::play(const Action& action, const Model& before) {
+    missing.clear();
+    const Look look = before.look();
+    // Keys and clicks that come before their window takes them go elsewhere.
+    look.box.isOpen() ? bringBox() : bring(look.front);
+    if (missing.empty()) {
+        playSliders(action);
+        playBoxes(action);
+        playPicks(action, before);
+        playKeys(action, before);
+        playCommand(action);
+        playDialogs(action);
+        playWindows(action, before);
+        playOutside(action, before);
+    }
+    return missing.empty() ? "" : missing + ": has not come (" + eyes.situation() + ')';
+}
+
+/// The window manager may hand the focus over late, and then once more: what has not come by itself after a
+/// while is brought.
+void Hands::bringWindow(const std::function<HWND()>& windowOf) {
+    constexpr ULONGLONG aWhile = 200;
+    ULONGLONG next = ::GetTickCount64() + aWhile;
+    await("a window in front that takes keys", [&] {
+        const HWND window = windowOf();
+        if (Eyes::hasKeys(window)) return true;
+        if (window && ::GetTickCount64() > next && ::GetForegroundWindow() != window) {
+            ::SetForegroundWindow(window);
+            next = ::GetTickCount64() + aWhile;
+        }
+        return false;
     });
 }
 
-}  // namespace
-
-void Hands::play(const Action& action, const Model& before) {
-    waitForFront(before.look());
-    playSliders(action);
-    playBoxes(action);
-    playPicks(action, before);
-    playKeys(action, before);
-    playCommand(action);
-    playDialogs(action);
-    playWindows(action, before);
-    playOutside(action, before);
-}
-
-/// The window manager may hand the focus over late, and then once more.
-void Hands::waitForFront(const Look& before) const {
-    if (before.box.isOpen()) return BringWindow(eyes.box());
-    bring(before.front);
-}
-
-void Hands::bring(Front front) const { BringWindow(eyes.windowOf(front)); }
-
-void Hands::leaveMenu() const {
-    if (eyes.isInMenu()) Press(VK_ESCAPE);
-    if (!Soon([&] { return !eyes.isInMenu(); }, 200)) Press(VK_ESCAPE);
+void Hands::clickAt(POINT place) {
+    uncover(Front::main, place);
+    Click(place);
 }
 
 /// Never twice at one place: a double click does not bring the focus to a box that has lost it meanwhile.
@@ -65,18 +68,23 @@ void Hands::clickOn(int id) {
     constexpr LONG aside = 3;
     const POINT middle = CenterOf(eyes.control(id));
     const POINT place = {middle.x + (isClickedLeft ? -aside : aside), middle.y};
-    uncover(Front::main, place);
-    Click(place);
+    clickAt(place);
 }
 
-/// Clicks until the focus has come. Keys go to the program that is in front when they are pressed.
+/// Keys go to the program that is in front when they are pressed.
 void Hands::focusOn(int id) {
-    constexpr DWORD longEnough = 1000;
-    Soon([&] {
-        clickOn(id);
-        return Soon([&] { return eyes.focus() == eyes.control(id); }, longEnough);
-    });
+    clickOn(id);
+    awaitFocus(eyes.control(id));
     bring(Front::main);
+}
+
+void Hands::focusByKey(WORD letter, int id) {
+    Press(letter, {VK_MENU});
+    awaitFocus(eyes.control(id));
+}
+
+void Hands::awaitFocus(HWND window) {
+    await("the focus", [&] { return eyes.focus() == window; });
 }
 
 void Hands::retype(int id, const std::string& text) {
@@ -87,16 +95,15 @@ void Hands::retype(int id, const std::string& text) {
     Type(text);
 }
 
-void Hands::waitForInput() const {
+void Hands::waitForInput() {
     const bool isOnRed = eyes.focus() == eyes.control(IDC_hsbRed);
-    Press(isOnRed ? 'G' : 'R', {VK_MENU});
-    Soon([&] { return eyes.focus() == eyes.control(isOnRed ? IDC_hsbGreen : IDC_hsbRed); });
+    isOnRed ? focusByKey('G', IDC_hsbGreen) : focusByKey('R', IDC_hsbRed);
 }
 
 void Hands::playSliders(const Action& action) {
     switch (action.kind) {
         case Kind::sliderKeys:
-            Press(sliderLetters.at(action.which), {VK_MENU});
+            focusByKey(sliderLetters.at(action.which), IDC_hsbRed + action.which);
             PressOften(sliderKeys.at(action.value % 8), action.value / 8);
             break;
         case Kind::sliderArrow: {
@@ -105,7 +112,7 @@ void Hands::playSliders(const Action& action) {
             ::GetClientRect(bar, &area);
             constexpr int inArrow = 6;
             const int left = action.value > 0 ? static_cast<int>(area.right) - inArrow : inArrow;
-            Click(OnScreen(bar, {left, area.bottom / 2}));
+            clickAt(OnScreen(bar, {left, area.bottom / 2}));
             break;
         }
         case Kind::sliderDrag: {
@@ -113,28 +120,29 @@ void Hands::playSliders(const Action& action) {
             dragSlider(action.which, static_cast<int>(from), action.value);
             break;
         }
-        case Kind::barClick: Click(eyes.barStep(action.value)); break;
+        case Kind::barClick: clickAt(eyes.barStep(action.value)); break;
         default: break;
     }
 }
 
 /// Over the end, and to and fro until the thumb has come there: late reports of the pointer take it back.
-void Hands::dragSlider(int slider, int from, int to) const {
+void Hands::dragSlider(int slider, int from, int to) {
     const HWND bar = eyes.control(IDC_hsbRed + slider);
     const POINT start = huevox.thumb(IDC_hsbRed + slider, from);
     const LONG beyond = to > 0 ? 20 : -20;
     const LONG end = huevox.thumb(IDC_hsbRed + slider, to).x + beyond;
+    uncover(Front::main, start);
     PressButton(start);
-    Soon([&] { return eyes.capture() == bar; });
+    await("the grip on a slider", [&] { return eyes.capture() == bar; });
     LONG aside = 0;
-    Soon([&] {
+    await("a slider's end", [&] {
         aside = 1 - aside;
         MoveMouse({end + aside, start.y});
         constexpr DWORD usual = 20;
         return Soon([&] { return eyes.ask(bar, SBM_GETPOS) == to; }, usual);
     });
     ReleaseButton({end + aside, start.y});
-    Soon([&] { return eyes.capture() == nullptr; });
+    await("the end of a drag", [&] { return eyes.capture() == nullptr; });
 }
 
 void Hands::playBoxes(const Action& action) {
@@ -157,11 +165,11 @@ void Hands::playBoxes(const Action& action) {
         case Kind::notation: {
             const HWND list = eyes.control(IDC_lstAutocopy);
             const auto height = static_cast<LONG>(eyes.ask(list, LB_GETITEMHEIGHT));
-            Click(OnScreen(list, {20, action.value * height + height / 2}));
+            clickAt(OnScreen(list, {20, action.value * height + height / 2}));
             break;
         }
         case Kind::notationKeys:
-            Press('N', {VK_MENU});
+            focusByKey('N', IDC_lstAutocopy);
             PressSteps(VK_DOWN, VK_UP, action.value);
             break;
         default: break;
@@ -177,7 +185,12 @@ void Hands::playPicks(const Action& action, const Model& before) {
             PressSteps(VK_RIGHT, VK_LEFT, action.value);
             break;
         case Kind::pickDrag: pick(action, before); break;
-        case Kind::pickRight: RightClick(CenterOf(eyes.control(IDC_picSample + selected))); break;
+        case Kind::pickRight: {
+            const POINT place = CenterOf(eyes.control(IDC_picSample + selected));
+            uncover(Front::main, place);
+            RightClick(place);
+            break;
+        }
         default: break;
     }
 }
@@ -187,11 +200,12 @@ void Hands::playKeys(const Action& action, const Model& before) {
         case Kind::barKeys:
             focusOn(IDC_optColor + before.look().selected);
             Press(VK_TAB);
+            awaitFocus(eyes.control(IDC_lblColorBar));
             Press(action.which == 0 ? VK_HOME : VK_END);
             PressOften(action.which == 0 ? VK_RIGHT : VK_LEFT, action.value);
             Press(VK_SPACE);
             // The frame of the focus would lie over the colours.
-            Press('R', {VK_MENU});
+            focusByKey('R', IDC_hsbRed);
             break;
         case Kind::swatchKeys:
             clickSwatch(action);
@@ -199,7 +213,7 @@ void Hands::playKeys(const Action& action, const Model& before) {
             Press(VK_SPACE);
             break;
         case Kind::tabs:
-            Press('R', {VK_MENU});
+            focusByKey('R', IDC_hsbRed);
             PressOften(VK_TAB, action.value);
             break;
         default: break;
@@ -211,14 +225,16 @@ void Hands::pick(const Action& action, const Model& before) {
     const HWND preview = eyes.control(IDC_picPick);
     const POINT place =
         action.which < 6 ? CenterOf(eyes.control(IDC_picSample + action.which)) : eyes.barStep(action.value);
-    PressButton(CenterOf(eyes.control(IDC_picSample + before.look().selected)));
-    Soon([&] { return ::IsWindowVisible(preview) != FALSE; });
+    const POINT sample = CenterOf(eyes.control(IDC_picSample + before.look().selected));
+    uncover(Front::main, sample);
+    PressButton(sample);
+    await("a preview of the pick", [&] { return ::IsWindowVisible(preview) != FALSE; });
     // To and fro: where the button was pressed there is no movement.
-    Soon([&] {
+    await("the pick's colour", [&] {
         ++movements;
         MoveMouse({place.x, place.y + movements % 2});
         return Pixel(CenterOf(preview)) == before.pickTarget(action);
     });
     ReleaseButton(place);
-    Soon([&] { return ::IsWindowVisible(preview) == FALSE; });
+    await("the end of a pick", [&] { return ::IsWindowVisible(preview) == FALSE; });
 }

@@ -1,43 +1,42 @@
 #include <array>
 
 #include "randomuser/Hands.h"
-#include "randomuser/Soon.h"
 #include "resources/resource.h"
 #include "tests/ui/Input.h"
 
-void Hands::choosePath(const std::string& path, bool isForNotepad) const {
-    const HWND dialog = eyes.box();
-    const HWND field = Eyes::nameField(dialog);
+void Hands::choosePath(const std::string& path, bool isForNotepad) {
+    const HWND field = Eyes::nameField(eyes.box());
     eyes.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
     Press(VK_RETURN);
-    if (!isForNotepad) return;
+    if (isForNotepad) closeNotepad();
+}
+
+void Hands::closeNotepad() {
     HWND notepad = nullptr;
-    constexpr DWORD longEnough = 20'000;
-    Soon([&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; }, longEnough);
+    await("Notepad", [&] { return (notepad = ::FindWindowA("Notepad", nullptr)) != nullptr; });
     ::PostMessageA(notepad, WM_CLOSE, 0, 0);
-    Soon([&] { return !::IsWindow(notepad); });
+    await("the end of Notepad", [&] { return !::IsWindow(notepad); });
     bring(Front::main);
 }
 
-/// By its key, or by a click on the button; a click that the box has moved away from is made up for.
-void Hands::answer(const Action& action) const {
+/// By its key, or by a click on the button.
+void Hands::answer(const Action& action) {
+    constexpr int ok = 1;
+    constexpr int cancel = 2;
+    constexpr int yes = 6;
     const HWND box = eyes.box();
     const HWND button = ::GetDlgItem(box, action.value);
-    constexpr DWORD usual = 1000;
-    const auto isGone = [&] { return !::IsWindow(box); };
     if (action.which == 2) {
-        Click(steadyCenter(button));
+        steadyCenter(button);
+        Click(button);
+    } else if (action.value == ok) {
+        Press(VK_RETURN);
+    } else if (action.value == cancel) {
+        Press(VK_ESCAPE);
     } else {
-        constexpr int ok = 1;
-        constexpr int cancel = 2;
-        constexpr int yes = 6;
-        if (action.value == ok) Press(VK_RETURN);
-        if (action.value == cancel) Press(VK_ESCAPE);
-        if (action.value > cancel) Press(action.value == yes ? 'Y' : 'N', {VK_MENU});
+        Press(action.value == yes ? 'Y' : 'N', {VK_MENU});
     }
-    if (Soon(isGone, usual)) return;
-    ::PostMessageA(button, BM_CLICK, 0, 0);
-    Soon(isGone);
+    await("the end of a box", [&] { return !::IsWindow(box); });
 }
 
 /// Once the window has been at its place for a while: a new one may move under the pointer.
@@ -67,12 +66,14 @@ void Hands::playDialogs(const Action& action) {
     switch (action.kind) {
         case Kind::chooseRow:
             Press('S', {VK_MENU});
+            awaitFocus(::GetDlgItem(eyes.box(), IDC_lstStandardFormat));
             Press(VK_HOME);
             for (int row = 0; row < action.value; ++row) Press(VK_DOWN);
             break;
         case Kind::chooseOption: Press(optionKeys.at(action.value), {VK_MENU}); break;
         case Kind::typeFormat:
             Press('T', {VK_MENU});
+            awaitFocus(::GetDlgItem(eyes.box(), IDC_txtFormat));
             Press(VK_HOME);
             Press(VK_END, {VK_SHIFT});
             Press(VK_DELETE);
@@ -96,18 +97,20 @@ void Hands::vainClick(int mark) const {
     if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) == eyes.main()) Click(place);
 }
 
-void Hands::closeHelp() const {
-    constexpr DWORD longEnough = 20'000;
+void Hands::closeHelp() {
     HWND help = nullptr;
-    Soon([&] { return (help = ::FindWindowA("HH Parent", nullptr)) != nullptr && ::IsWindowVisible(help); },
-         longEnough);
+    await("the help", [&] {
+        help = ::FindWindowA("HH Parent", nullptr);
+        return help && ::IsWindowVisible(help);
+    });
     ::PostMessageA(help, WM_CLOSE, 0, 0);
-    Soon([&] { return !::IsWindow(help) || !::IsWindowVisible(help); }, longEnough);
+    await("the end of the help", [&] { return !::IsWindow(help) || !::IsWindowVisible(help); });
     bring(Front::main);
 }
 
 /// The letter of an item counts when its menu is open. Elsewhere it would choose a notation, or be typed.
-void Hands::chooseFromMenu(int menu, int item) const {
+void Hands::chooseFromMenu(int menu, int item) {
     Press(static_cast<WORD>(menu), {VK_MENU});
-    if (Soon([&] { return eyes.isInMenu(); })) Press(static_cast<WORD>(item));
+    await("a menu", [&] { return eyes.isInMenu(); });
+    if (missing.empty()) Press(static_cast<WORD>(item));
 }

@@ -1,7 +1,6 @@
 #include <optional>
 
 #include "randomuser/Hands.h"
-#include "randomuser/Soon.h"
 #include "resources/resource.h"
 #include "tests/ui/Input.h"
 #include "tests/ui/PickerWindow.h"
@@ -51,7 +50,7 @@ void Hands::playCommand(const Action& action) {
     const std::optional command = CommandOf(action.kind);
     if (!command) return;
     if (action.which == 1) {
-        Click(toolButton(command->button));
+        clickAt(toolButton(command->button));
     } else if (action.which == 2) {
         chooseFromMenu(command->menu, command->item);
     } else if (command->isWithControl) {
@@ -85,7 +84,7 @@ void Hands::playWindows(const Action& action, const Model& before) {
             if (before.look().front == Front::main) waitForInput();
             closePicker(action.which);
             break;
-        case Kind::comeBack: Click(eyes.emptyPlace()); break;
+        case Kind::comeBack: clickAt(eyes.emptyPlace()); break;
         case Kind::close: close(action.which); break;
         case Kind::answer: answer(action); break;
         case Kind::choosePath:
@@ -103,26 +102,24 @@ void Hands::openPicker(int index) {
     constexpr std::array<POINT, 3> places = {{{0, 620}, {0, 850}, {900, 100}}};
     const bool isNew = eyes.picker(index) == nullptr;
     clickOn(grids.at(index).button);
-    if (isNew && Soon([&] { return eyes.picker(index) != nullptr; }))
-        moveTo(eyes.picker(index), places.at(index));
+    if (!isNew) return;
+    await("a palette window", [&] { return eyes.picker(index) != nullptr; });
+    if (missing.empty()) moveTo(eyes.picker(index), places.at(index));
 }
 
 /// Another window may lie over the place; the one in front need not be the one on top.
-void Hands::uncover(Front front, POINT place) const {
-    constexpr DWORD longEnough = 1000;
+void Hands::uncover(Front front, POINT place) {
     const HWND window = eyes.windowOf(front);
     const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };
     if (isOnTop()) return;
     bring(front);
-    Soon(
-        [&] {
-            ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-            return isOnTop();
-        },
-        longEnough);
+    await("a place that nothing lies over", [&] {
+        ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        return isOnTop();
+    });
 }
 
-void Hands::clickSwatch(const Action& action) const {
+void Hands::clickSwatch(const Action& action) {
     const PickerWindow::Grid& grid = grids.at(action.which);
     const HWND swatches = ::GetDlgItem(eyes.picker(action.which), grid.swatches);
     const Swatch swatch = PlaceOf(action.which, action.value);
@@ -134,13 +131,13 @@ void Hands::clickSwatch(const Action& action) const {
     action.kind == Kind::rightSwatch ? RightClick(place) : Click(place);
 }
 
-void Hands::closePicker(int index) const {
+void Hands::closePicker(int index) {
     ::PostMessageA(eyes.picker(index), WM_CLOSE, 0, 0);
-    Soon([&] { return eyes.picker(index) == nullptr; });
+    await("the end of a palette window", [&] { return eyes.picker(index) == nullptr; });
     bring(Front::main);
 }
 
-void Hands::close(int way) const {
+void Hands::close(int way) {
     waitForInput();
     if (way == 0) Press(VK_F4, {VK_MENU});
     if (way == 1) ::PostMessageA(eyes.main(), WM_SYSCOMMAND, SC_CLOSE, 0);

@@ -18,8 +18,9 @@
 
 namespace {
 
-/// Milliseconds; the shorter while many sequences are tried that all end in a difference.
-constexpr unsigned usualPatience = 5000;
+/// Milliseconds: so many that only what never comes takes as long; fewer while many sequences are tried that
+/// all end in a difference.
+constexpr unsigned usualPatience = 60'000;
 constexpr unsigned shortPatience = 1500;
 
 /// What has become of a sequence: how many steps, and what differs at the last.
@@ -89,13 +90,15 @@ void Report(const Facts& facts, const Options& options, const Outcome& outcome) 
                 LineOf(outcome.played.back()).c_str(), outcome.difference.c_str());
     Figures ignored;
     const ULONGLONG end = EndAfter(minutesToShorten);
-    const auto fails = [&](const Actions& actions) {
-        return Field(Play(facts, ignored, actions, shortPatience).difference) == Field(outcome.difference);
+    const auto differs = [&](const Actions& actions, unsigned patience) {
+        return Field(Play(facts, ignored, actions, patience).difference) == Field(outcome.difference);
     };
+    const auto fails = [&](const Actions& actions) { return differs(actions, shortPatience); };
     const auto mayGoOn = [end] { return ::GetTickCount64() < end; };
     std::optional<Actions> shortest = ShortEnd(outcome.played, fails, mayGoOn);
-    if (shortest) {
-        shortest = Possible(Shortened(*shortest, fails, mayGoOn), facts);
+    if (shortest) shortest = Possible(Shortened(*shortest, fails, mayGoOn), facts);
+    // What was slow only has counted as a difference so far.
+    if (shortest && differs(*shortest, usualPatience)) {
         std::puts("The shortest sequence found:");
     } else {
         std::puts("It did not happen again. The last actions were:");
@@ -128,9 +131,8 @@ void Summarise(const Options& options, const Outcome& outcome, const Figures& fi
     const auto& [first, last, steps, movements] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program of %d bits\n", options.seed,
                 outcome.steps, outcome.seconds, figures.starts, figures.bits);
-    std::printf("%.1f ms a step, %d actions done once more\n",
-                1000 * outcome.seconds / std::max(1, outcome.steps), figures.repeats);
-    std::printf("slowest answer %.0f ms, slowest step %.0f ms (%s)\n", figures.slowestAnswer,
+    std::printf("%.1f ms a step, slowest answer %.0f ms, slowest step %.0f ms (%s)\n",
+                1000 * outcome.seconds / std::max(1, outcome.steps), figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
     PrintShares(figures);
     std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);

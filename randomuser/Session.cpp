@@ -29,32 +29,6 @@ void StoreSettings(const StoredSettings& settings) {
     StoreText("StandardFolder", filesFolder);
 }
 
-bool IsSameTwice(Kind kind) {
-    switch (kind) {
-        case Kind::sliderDrag:
-        case Kind::barClick:
-        case Kind::barKeys:
-        case Kind::selectMark:
-        case Kind::typeValue:
-        case Kind::typeName:
-        case Kind::setMode:
-        case Kind::copyColor:
-        case Kind::findNames:
-        case Kind::notation:
-        case Kind::openPicker:
-        case Kind::swatch:
-        case Kind::swatchKeys:
-        case Kind::sortOrder:
-        case Kind::comeBack:
-        case Kind::otherInFront:
-        case Kind::tabs:
-        case Kind::chooseRow:
-        case Kind::chooseOption:
-        case Kind::typeFormat: return true;
-        default: return false;
-    }
-}
-
 }  // namespace
 
 Session::Session(const Facts& facts, Figures& figures, unsigned patience)
@@ -72,17 +46,16 @@ std::string Session::play(const Action& action) {
     const Look earlier = before.look();
     model.play(action);
     const double begin = NowInMilliseconds();
+    const bool isAll = ++steps % stepsToEverything == 0 || action.kind == Kind::start;
+    const Extent extent = isAll ? Extent::everything : Extent::changes;
+    std::string found;
     if (action.kind == Kind::start) {
         start(action.value);
     } else {
-        program->hands->play(action, before);
+        found = program->hands->play(action, before);
     }
-    const bool isAll = ++steps % stepsToEverything == 0 || action.kind == Kind::start;
-    const Extent extent = isAll ? Extent::everything : Extent::changes;
-    std::string found = action.kind == Kind::settle ? settleSoon() : "";
+    if (found.empty() && action.kind == Kind::settle) found = settle();
     if (found.empty()) found = agree(earlier, extent);
-    if (!found.empty() && !found.starts_with("hang") && isLost(action, earlier))
-        found = repeat(action, before, found);
     if (found.empty()) found = filesDifference(before.files());
     if (found.empty()) found = clipboardDifference(before);
     if (!model.look().isRunning) {
@@ -91,31 +64,6 @@ std::string Session::play(const Action& action) {
         measure(action, NowInMilliseconds() - begin);
     }
     return found;
-}
-
-/// Whether the input of an action has not reached the program, or may safely come again: nothing that is
-/// seen has changed, or doing it twice is as good as once.
-bool Session::isLost(const Action& action, const Look& earlier) {
-    if (action.kind == Kind::start || action.kind == Kind::settle || !program->eyes->isRunning())
-        return false;
-    if (IsSameTwice(action.kind)) return true;
-    Look inFront = earlier;
-    inFront.front = Front::main;
-    const auto isSeen = [&](const Look& look) {
-        return program->eyes->difference(look, look, Extent::everything).empty();
-    };
-    return isSeen(earlier) || isSeen(inFront);
-}
-
-std::string Session::repeat(const Action& action, const Model& before, const std::string& found) {
-    std::printf("    step %d, %s: %s; done once more (%s)\n", steps, LineOf(action).c_str(), found.c_str(),
-                program->eyes->situation().c_str());
-    ++figures.repeats;
-    program->hands->leaveMenu();
-    if (found.starts_with("window in front")) program->hands->bring(model.look().front);
-    program->hands->play(action, before);
-    const std::string again = agree(before.look(), Extent::everything);
-    return again.empty() ? again : again + " (" + program->eyes->situation() + ')';
 }
 
 void Session::start(int variant) {
@@ -131,7 +79,7 @@ void Session::start(int variant) {
     ::GetWindowThreadProcessId(window, &id);
     program->process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
     program->eyes = std::make_unique<Eyes>(window, program->process);
-    program->hands = std::make_unique<Hands>(program->huevox, *program->eyes, other);
+    program->hands = std::make_unique<Hands>(program->huevox, *program->eyes, other, patience);
     figures.bits = BitsOf(program->process);
     ++figures.starts;
 }
@@ -151,7 +99,8 @@ std::string Session::agree(const Look& earlier, Extent extent) {
         },
         patience);
     figures.slowestAnswer = std::max(figures.slowestAnswer, program->eyes->slowestAnswer());
-    if (!found.empty() || expected.isRunning) return found;
+    if (!found.empty()) return found + " (" + program->eyes->situation() + ')';
+    if (expected.isRunning) return "";
     const int exitCode = program->huevox.waitForEnd();
     if (exitCode == expected.exitCode) return "";
     return "exit code: expected " + std::to_string(expected.exitCode) + ", seen " + std::to_string(exitCode);

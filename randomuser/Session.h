@@ -16,7 +16,6 @@
 struct Figures {
     int bits = 0;  ///< of the program
     int starts = 0;
-    int repeats = 0;           ///< of actions whose input had been lost
     double slowestAnswer = 0;  ///< milliseconds
     double slowestStep = 0;    ///< from the input until the window shows what it must
     std::string slowestAction = {};
@@ -66,12 +65,10 @@ private:
 
     void start(int variant);
     std::string agree(const Look& earlier, Extent extent);
-    bool isLost(const Action& action, const Look& earlier);
-    std::string repeat(const Action& action, const Model& before, const std::string& found);
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);
     std::string settle();
-    std::string settleSoon();
+    std::string copiedText() const;
     void measure(const Action& action, double milliseconds);
 
     Figures& figures;
