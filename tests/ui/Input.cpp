@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "tests/toolkit/WindowText.h"
 #include "tests/ui/Wait.h"
@@ -66,12 +67,26 @@ void WaitForKeys() {
     })) << "no window takes keys";
 }
 
-/// Again and again until it is so: a program that hears of the display's keys while another key is down
-/// writes the states of all keys back as it has read them a moment ago.
+BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
+    auto& threads = *reinterpret_cast<std::set<DWORD>*>(parameter);
+    const bool isOther =
+        ::IsWindowVisible(window) && threads.insert(::GetWindowThreadProcessId(window, nullptr)).second;
+    if (isOther) WaitForAnswer(window);
+    return TRUE;
+}
+
+/// Until everybody with a window in sight has done what he was at. Who hears of the display's keys while a
+/// key is down writes the states of all keys back, as he has read them a moment ago: modifier keys too.
+void WaitForEverybody() {
+    std::set<DWORD> threads = {::GetCurrentThreadId()};
+    ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
+}
+
+/// Again and again until it stays so.
 void SetHeld(WORD modifier, bool isHeld) {
     EXPECT_TRUE(Eventually([&] {
         SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
-        WaitForAnswer(::GetForegroundWindow());
+        WaitForEverybody();
         return IsHeld(modifier) == isHeld;
     })) << modifier;
 }
@@ -135,6 +150,8 @@ void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
     WaitForKeys();
+    // Somebody may still write back what was held during the key before.
+    if (modifiers.size() > 0) WaitForEverybody();
     LetGoOfOthers(modifiers);
     for (const WORD modifier : modifiers) SetHeld(modifier, true);
     KeyDown(key);
