@@ -68,7 +68,6 @@ private:
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);
     std::string settle();
-    std::string copiedText() const;
     void measure(const Action& action, double milliseconds);
 
     Figures& figures;

@@ -41,29 +41,23 @@ std::optional<std::string> TextWhenFree() {
     return narrow;
 }
 
-}  // namespace
-
-/// The program does not copy again when it finds the clipboard open elsewhere: it must not run while somebody
-/// looks.
-std::string Session::copiedText() const {
-    std::optional<std::string> text;
-    Soon(
-        [&] {
-            const Stopped stopped(program->eyes->main());
-            text = TextWhenFree();
-            return text.has_value();
-        },
-        patience);
-    return text.value_or("");
+/// The same while a copy may be due. The program does not copy again when it finds the clipboard open
+/// elsewhere, so it must not run while somebody looks. Windows asks the last one who has copied, and waits
+/// five seconds for that.
+std::optional<std::string> TextMeanwhile(HWND window) {
+    const Stopped stopped(window);
+    return TextWhenFree();
 }
+
+}  // namespace
 
 /// Until the preview has been copied and the letters have followed.
 std::string Session::settle() {
     constexpr DWORD longEnough = 1500;
-    constexpr DWORD betweenLooks = 250;
+    constexpr DWORD betweenLooks = 10'000;
     const std::string expected = model.look().preview;
     ULONGLONG nextLook = ::GetTickCount64() + longEnough;
-    std::string seen;
+    std::optional<std::string> seen;
     std::string others;
     MoveMouse({1, 1});
     const auto isCopied = [&] {
@@ -72,11 +66,13 @@ std::string Session::settle() {
         // A copy raises the number; it may have come before its step was over.
         const ULONGLONG now = ::GetTickCount64();
         const DWORD number = ::GetClipboardSequenceNumber();
-        if (number == clipboardNumber && now < nextLook) return false;
-        clipboardNumber = number;
+        const bool hasCopied = number != clipboardNumber;
+        if (!hasCopied && now < nextLook) return false;
         nextLook = now + betweenLooks;
-        seen = copiedText();
+        seen = hasCopied ? TextWhenFree() : TextMeanwhile(program->eyes->main());
+        if (seen) clipboardNumber = number;
         return seen == expected;
     };
-    return Soon(isCopied, patience) ? "" : "clipboard: expected " + expected + ", seen " + seen + others;
+    if (Soon(isCopied, patience)) return "";
+    return "clipboard: expected " + expected + ", seen " + seen.value_or("nothing") + others;
 }
