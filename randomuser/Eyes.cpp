@@ -80,14 +80,14 @@ HWND Eyes::box() const {
     // window manager's affair.
     const auto isOpen = [](HWND window) { return ::IsWindowVisible(window) && ::IsWindowEnabled(window); };
     for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
-        const HWND box = ::FindWindowA(dialog, nullptr);
-        if (box && isOpen(box)) return box;
+        const HWND window = ::FindWindowA(dialog, nullptr);
+        if (window && isOpen(window)) return window;
     }
-    HWND box = nullptr;
-    while ((box = ::FindWindowExA(nullptr, box, "#32770", nullptr)) != nullptr) {
+    HWND window = nullptr;
+    while ((window = ::FindWindowExA(nullptr, window, "#32770", nullptr)) != nullptr) {
         DWORD owner = 0;
-        ::GetWindowThreadProcessId(box, &owner);
-        if (owner == ::GetProcessId(process) && isOpen(box)) return box;
+        ::GetWindowThreadProcessId(window, &owner);
+        if (owner == ::GetProcessId(process) && isOpen(window)) return window;
     }
     return nullptr;
 }

@@ -53,6 +53,7 @@ private:
 
     void clickAt(POINT place);
     void clickOn(int id);
+    void clickInBox(HWND button);
     void focusOn(int id);
     void focusByKey(WORD letter, int id);
     void awaitFocus(HWND window);

@@ -27,8 +27,7 @@ void Hands::answer(const Action& action) {
     const HWND box = eyes.box();
     const HWND button = ::GetDlgItem(box, action.value);
     if (action.which == 2) {
-        steadyCenter(button);
-        Click(button);
+        clickInBox(button);
     } else if (action.value == ok) {
         Press(VK_RETURN);
     } else if (action.value == cancel) {
@@ -37,6 +36,26 @@ void Hands::answer(const Action& action) {
         Press(action.value == yes ? 'Y' : 'N', {VK_MENU});
     }
     await("the end of a box", [&] { return !::IsWindow(box); });
+}
+
+/// The window manager may move a new box after the button has been pressed, or just before: then the pointer
+/// is let go of elsewhere, which clicks nothing, and presses at the new place. It clicks where the button is
+/// by then.
+void Hands::clickInBox(HWND button) {
+    const auto isHeld = [&] { return eyes.capture() == button; };
+    steadyCenter(button);
+    await("the grip on a button", [&] {
+        const POINT place = CenterOf(button);
+        const auto hasMoved = [&] {
+            const POINT now = CenterOf(button);
+            return now.x != place.x || now.y != place.y;
+        };
+        PressButton(place);
+        if (!Soon([&] { return isHeld() || hasMoved(); }, patience) || isHeld()) return isHeld();
+        ReleaseButton({1, 1});
+        return false;
+    });
+    ReleaseButton(CenterOf(button));
 }
 
 /// Once the window has been at its place for a while: a new one may move under the pointer.
@@ -79,9 +98,7 @@ void Hands::playDialogs(const Action& action) {
             Press(VK_DELETE);
             Type(action.text);
             break;
-        case Kind::insertToken:
-            Click(steadyCenter(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value)));
-            break;
+        case Kind::insertToken: clickInBox(::GetDlgItem(eyes.box(), IDC_cmdUR + action.value)); break;
         case Kind::closeDialog:
             if (action.which == 0) Press(action.value == IDC_cmdOK ? VK_RETURN : VK_ESCAPE);
             if (action.which == 1) Press(action.value == IDC_cmdOK ? 'O' : 'C', {VK_MENU});

@@ -60,7 +60,11 @@ Replay ReadReplay(const std::string& path) {
     if (!file) return {{}, path + " cannot be read."};
     for (std::string line; std::getline(file, line);) {
         const auto action = ParseLine(line);
-        if (!action) return {{}, "A line of " + path + " is no action: " + line};
+        if (!action) {
+            replay.problem = "A line of " + path + " is no action: ";
+            replay.problem += line;
+            return replay;
+        }
         replay.actions.push_back(*action);
     }
     if (replay.actions.empty() || replay.actions.front().kind != Kind::start)
