@@ -71,8 +71,13 @@ std::string Eyes::situation() const {
         if (::GetAsyncKeyState(key) < 0) held += ' ' + std::to_string(key);
     }
     const auto idOf = [](HWND window) { return window ? std::to_string(::GetDlgCtrlID(window)) : "none"; };
-    return "in front " + ClassOf(::GetForegroundWindow()) + ", focus " + idOf(focus()) + ", capture " +
-           idOf(capture()) + (isInMenu() ? ", in a menu" : "") + ", keys held:" + held;
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    const HWND under = ::WindowFromPoint(pointer);
+    return "in front " + ClassOf(::GetForegroundWindow()) + ", pointer at " + std::to_string(pointer.x) +
+           ' ' + std::to_string(pointer.y) + " over " + ClassOf(under) + ' ' + idOf(under) + ", focus " +
+           idOf(focus()) + ", capture " + idOf(capture()) + (isInMenu() ? ", in a menu" : "") +
+           ", keys held:" + held;
 }
 
 HWND Eyes::box() const {
