@@ -58,7 +58,7 @@ void Hands::bringWindow(const std::function<HWND()>& windowOf) {
 }
 
 void Hands::clickAt(POINT place) {
-    uncover(Front::main, place);
+    uncover(eyes.main(), place);
     Click(place);
 }
 
@@ -131,7 +131,7 @@ void Hands::dragSlider(int slider, int from, int to) {
     const POINT start = huevox.thumb(IDC_hsbRed + slider, from);
     const LONG beyond = to > 0 ? 20 : -20;
     const LONG end = huevox.thumb(IDC_hsbRed + slider, to).x + beyond;
-    uncover(Front::main, start);
+    uncover(eyes.main(), start);
     PressButton(start);
     await("the grip on a slider", [&] { return eyes.capture() == bar; });
     LONG aside = 0;
@@ -187,7 +187,7 @@ void Hands::playPicks(const Action& action, const Model& before) {
         case Kind::pickDrag: pick(action, before); break;
         case Kind::pickRight: {
             const POINT place = CenterOf(eyes.control(IDC_picSample + selected));
-            uncover(Front::main, place);
+            uncover(eyes.main(), place);
             RightClick(place);
             break;
         }
@@ -226,7 +226,7 @@ void Hands::pick(const Action& action, const Model& before) {
     const POINT place =
         action.which < 6 ? CenterOf(eyes.control(IDC_picSample + action.which)) : eyes.barStep(action.value);
     const POINT sample = CenterOf(eyes.control(IDC_picSample + before.look().selected));
-    uncover(Front::main, sample);
+    uncover(eyes.main(), sample);
     PressButton(sample);
     await("a preview of the pick", [&] { return ::IsWindowVisible(preview) != FALSE; });
     // To and fro: where the button was pressed there is no movement.

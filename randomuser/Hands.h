@@ -62,7 +62,7 @@ private:
     void pick(const Action& action, const Model& before);
     void openPicker(int index);
     void clickSwatch(const Action& action);
-    void uncover(Front front, POINT place);
+    void uncover(HWND window, POINT place);
     static POINT steadyCenter(HWND window);
     void closeHelp();
     POINT toolButton(int command);

@@ -43,7 +43,7 @@ void Hands::answer(const Action& action) {
 /// by then.
 void Hands::clickInBox(HWND button) {
     const auto isHeld = [&] { return eyes.capture() == button; };
-    steadyCenter(button);
+    uncover(::GetAncestor(button, GA_ROOT), steadyCenter(button));
     await("the grip on a button", [&] {
         const POINT place = CenterOf(button);
         const auto hasMoved = [&] {

@@ -76,7 +76,7 @@ void Hands::playWindows(const Action& action, const Model& before) {
         case Kind::sortOrder: {
             const HWND bar = ::GetDlgItem(eyes.picker(2), IDC_tbrSortTools);
             const POINT place = huevox.toolButton(bar, action.value == 0 ? IDM_Alphabetically : IDM_DotNet);
-            uncover(Front::javaScript, place);
+            uncover(eyes.picker(2), place);
             Click(place);
             break;
         }
@@ -108,11 +108,10 @@ void Hands::openPicker(int index) {
 }
 
 /// Another window may lie over the place; the one in front need not be the one on top.
-void Hands::uncover(Front front, POINT place) {
-    const HWND window = eyes.windowOf(front);
+void Hands::uncover(HWND window, POINT place) {
     const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };
     if (isOnTop()) return;
-    bring(front);
+    bringWindow([window] { return window; });
     await("a place that nothing lies over", [&] {
         ::SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         return isOnTop();
@@ -127,7 +126,7 @@ void Hands::clickSwatch(const Action& action) {
     ::GetClientRect(swatches, &area);
     const POINT place = OnScreen(swatches, {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
                                             (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
-    uncover(static_cast<Front>(action.which), place);
+    uncover(eyes.picker(action.which), place);
     action.kind == Kind::rightSwatch ? RightClick(place) : Click(place);
 }
 
