@@ -38,20 +38,17 @@ void Hands::answer(const Action& action) {
     await("the end of a box", [&] { return !::IsWindow(box); });
 }
 
-/// The window manager may move a new box after the button has been pressed, or just before: then the pointer
-/// is let go of elsewhere, which clicks nothing, and presses at the new place. It clicks where the button is
-/// by then.
+/// The window manager may move a new box, or put another window over it, after the button has been pressed or
+/// just before: then the pointer lets go elsewhere, which clicks nothing, and presses anew. It clicks where
+/// the button is by then.
 void Hands::clickInBox(HWND button) {
     const auto isHeld = [&] { return eyes.capture() == button; };
-    uncover(::GetAncestor(button, GA_ROOT), steadyCenter(button));
     await("the grip on a button", [&] {
-        const POINT place = CenterOf(button);
-        const auto hasMoved = [&] {
-            const POINT now = CenterOf(button);
-            return now.x != place.x || now.y != place.y;
-        };
+        const POINT place = steadyCenter(button);
+        uncover(::GetAncestor(button, GA_ROOT), place);
         PressButton(place);
-        if (!Soon([&] { return isHeld() || hasMoved(); }, patience) || isHeld()) return isHeld();
+        Soon([&] { return isHeld() || ::WindowFromPoint(place) != button; }, patience);
+        if (isHeld()) return true;
         ReleaseButton({1, 1});
         return false;
     });
