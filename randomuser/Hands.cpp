@@ -62,13 +62,17 @@ void Hands::clickAt(POINT place) {
     Click(place);
 }
 
-/// Never twice at one place: a double click does not bring the focus to a box that has lost it meanwhile.
-void Hands::clickOn(int id) {
-    isClickedLeft = !isClickedLeft;
+/// Never twice at one place: a double click neither brings the focus to a box that has lost it meanwhile nor
+/// chooses a row that keys have left.
+LONG Hands::nextAside() {
     constexpr LONG aside = 3;
+    isClickedLeft = !isClickedLeft;
+    return isClickedLeft ? -aside : aside;
+}
+
+void Hands::clickOn(int id) {
     const POINT middle = CenterOf(eyes.control(id));
-    const POINT place = {middle.x + (isClickedLeft ? -aside : aside), middle.y};
-    clickAt(place);
+    clickAt({middle.x + nextAside(), middle.y});
 }
 
 /// Keys go to the program that is in front when they are pressed.
@@ -165,7 +169,7 @@ void Hands::playBoxes(const Action& action) {
         case Kind::notation: {
             const HWND list = eyes.control(IDC_lstAutocopy);
             const auto height = static_cast<LONG>(eyes.ask(list, LB_GETITEMHEIGHT));
-            clickAt(OnScreen(list, {20, action.value * height + height / 2}));
+            clickAt(OnScreen(list, {20 + nextAside(), action.value * height + height / 2}));
             break;
         }
         case Kind::notationKeys:

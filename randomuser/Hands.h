@@ -52,6 +52,7 @@ private:
     void bringWindow(const std::function<HWND()>& windowOf);
 
     void clickAt(POINT place);
+    LONG nextAside();
     void clickOn(int id);
     void clickInBox(HWND button);
     void focusOn(int id);
