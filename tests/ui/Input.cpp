@@ -69,16 +69,17 @@ void WaitForKeys() {
 
 BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
     auto& threads = *reinterpret_cast<std::set<DWORD>*>(parameter);
-    const bool isOther =
-        ::IsWindowVisible(window) && threads.insert(::GetWindowThreadProcessId(window, nullptr)).second;
-    if (isOther) WaitForAnswer(window);
+    DWORD process = 0;
+    const DWORD thread = ::GetWindowThreadProcessId(window, &process);
+    const bool isOther = process != ::GetCurrentProcessId() && ::IsWindowVisible(window);
+    if (isOther && threads.insert(thread).second) WaitForAnswer(window);
     return TRUE;
 }
 
 /// Until everybody with a window in sight has done what he was at. Who hears of the display's keys while a
 /// key is down writes the states of all keys back, as he has read them a moment ago: modifier keys too.
 void WaitForEverybody() {
-    std::set<DWORD> threads = {::GetCurrentThreadId()};
+    std::set<DWORD> threads;
     ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
 }
 
