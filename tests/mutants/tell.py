@@ -1,0 +1,93 @@
+"""Do the tests tell? Runs them until the first that fails."""
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import threading
+import time
+
+programs = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "tests/ui_tests.exe"}
+# Program tests look for files beside them.
+folders = {"pure": ".", "program": "tests", "ui": "."}
+longest = 240  # seconds; changed programs that take longer hang
+
+
+class Tests:
+    def __init__(self, project):
+        self.wine = project / "scripts/wine"
+        self.prefix = os.environ["WINEPREFIX"]
+
+    def tell(self, tests, folder, limit=longest):
+        """What tells the change, or None: a test that fails, or the sudden or missing end of all of them."""
+        for kind in ("pure", "program", "ui"):
+            if kind in tests:
+                told = self.run(kind, tests[kind], folder, limit)
+                if told:
+                    return told
+        return None
+
+    def run(self, kind, pattern, folder, limit):
+        command = [folder / programs[kind], f"--gtest_filter={pattern}", "--gtest_fail_fast"]
+        if kind != "pure":
+            command.insert(0, self.wine)
+        process = subprocess.Popen(command, cwd=folder / folders[kind], stdin=subprocess.DEVNULL, text=True,
+                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True,
+                                   errors="replace", env={**os.environ, "HUEVOX_TIMEOUT": str(limit)})
+        hanging = threading.Timer(limit, self.end, [process])
+        hanging.start()
+        begin = time.monotonic()
+        running, failed, lines = "the start", False, []
+        for line in process.stdout:
+            lines.append(line)
+            started = re.match(r"\[ RUN +\] (\S+)", line)
+            running = started.group(1) if started else running
+            if ": Failure" in line or "runtime error" in line:
+                failed = True
+                break
+        hanging.cancel()
+        self.last = "".join(lines)
+        if failed:
+            self.end(process)
+            return running
+        if process.wait() == 0:
+            return None if "[  PASSED  ] 0 tests" not in self.last else f"no test at all ({pattern})"
+        how = "hangs" if time.monotonic() - begin > limit - 1 else "ends suddenly"
+        self.end(process)
+        return f"{running}, which {how}"
+
+    def end(self, process):
+        """Ends the tests and what they have started, and removes what they would have removed."""
+        try:
+            os.killpg(process.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
+        while left := [number for number in self.processes() if self.kill(number)]:
+            time.sleep(0.02 * bool(left))
+        process.wait()
+        for path in pathlib.Path(self.prefix, "drive_c").glob("Huevox Palettes*"):
+            subprocess.run(["chmod", "-R", "u+rwX", path], check=False)
+            shutil.rmtree(path, ignore_errors=True)
+
+    @staticmethod
+    def kill(number):
+        try:
+            os.kill(number, signal.SIGKILL)
+        except ProcessLookupError:
+            return False
+        return True
+
+    def processes(self):
+        """The numbers of the desktop's processes that a test has started, or that run one."""
+        own = f"WINEPREFIX={self.prefix}".encode()
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                started = (folder / "cmdline").read_bytes().lower()
+                state = (folder / "stat").read_text().rpartition(")")[2].split()[0]
+                is_own = own in (folder / "environ").read_bytes().split(b"\0")
+            except (OSError, IndexError):
+                continue
+            names = (b"huevox.exe", b"ui_tests.exe", b"program_tests.exe", b"notepad.exe", b"standin.exe")
+            if is_own and state != "Z" and any(name in started for name in names):
+                yield int(folder.name)
