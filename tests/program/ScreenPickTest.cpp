@@ -50,6 +50,8 @@ protected:
     frmMain window{state};
 };
 
+class PickPointer : public LongPick {};
+
 }  // namespace
 
 TEST_F(LongPick, StillReadsRightAndPaintsAfter100000Movements) {
@@ -68,4 +70,23 @@ TEST_F(LongPick, StillReadsRightAndPaintsAfter100000Movements) {
     PumpAll();
     EXPECT_EQ(pixel(center(sample(0))), RGB(255, 255, 0));
     EXPECT_EQ(state.marks.markColor[0], ColorOf(255, 255, 0));
+}
+
+TEST_F(PickPointer, IsACrossFromThePressToTheRelease) {
+    const HCURSOR arrow = ::LoadCursorA(nullptr, IDC_ARROW);
+    const HCURSOR cross = ::LoadCursorA(nullptr, IDC_CROSS);
+    // What the platform asks at each movement.
+    const auto askForShape = [&] {
+        ::SendMessageA(sample(0), WM_SETCURSOR, reinterpret_cast<WPARAM>(sample(0)),
+                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return ::GetCursor();
+    };
+    ::SendMessageA(control(IDC_chkColorPick), BM_CLICK, 0, 0);
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    EXPECT_EQ(::GetCursor(), cross);
+    ::SetCursor(arrow);
+    EXPECT_EQ(askForShape(), cross);
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(::GetCursor(), arrow);
+    EXPECT_EQ(askForShape(), arrow);
 }

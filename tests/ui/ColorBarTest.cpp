@@ -56,6 +56,17 @@ TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
     EXPECT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
 }
 
+TEST_F(ColorBarClicks, AnEdgeTellsTheBarFromTheWindow) {
+    const Huevox huevox;
+    const HWND bar = huevox.control(IDC_lblColorBar);
+    RECT area{};
+    ::GetClientRect(bar, &area);
+    const Color edge = Unpack(static_cast<PackedColor>(::GetSysColor(COLOR_3DSHADOW)));
+    for (const POINT place :
+         {POINT{0, 10}, POINT{area.right - 1, 10}, POINT{100, 0}, POINT{100, area.bottom - 1}})
+        EXPECT_BECOMES(Pixel(OnScreen(bar, place)), edge) << place.x << ' ' << place.y;
+}
+
 TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
     const Huevox huevox;
     RightClick(huevox.barStepPlace(100));

@@ -137,6 +137,19 @@ TEST_F(ColorProperties, YesGivesTheNameWithTheCaretAtItsEndAndTakesTheHighlightA
     EXPECT_BECOMES(huevox.backColor(Name(0)), white);
 }
 
+TEST_F(ColorProperties, YesNamesTheMarkThatWasAskedAbout) {
+    const Huevox huevox;
+    Press(VK_F4);
+    const HWND box = huevox.waitForDialog();
+    ASSERT_TRUE(box);
+    // Another program may select a mark while no user can.
+    ::SendMessageA(huevox.control(Option(2)), BM_CLICK, 0, 0);
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(0, 255, 0));
+    Answer(box, IDYES);
+    EXPECT_BECOMES(huevox.text(Name(0)), "red");
+    EXPECT_EQ(huevox.text(Name(2)), "Type a colour name");
+}
+
 TEST_F(ColorProperties, NoLeavesTheNameAndItsHighlight) {
     const Huevox huevox;
     huevox.retype(Name(0), "snowy");

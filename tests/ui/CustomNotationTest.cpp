@@ -74,3 +74,19 @@ TEST_F(CustomNotation, InJavaScriptNamesModeTheNotationComesBackAfterwards) {
     CheckNames(huevox, false);
     EXPECT_BECOMES(huevox.listIndex(), 7);
 }
+
+TEST_F(CustomNotation, InJavaScriptNamesModeARepairBringsTheFirstNotationBack) {
+    const Huevox huevox;
+    huevox.chooseNotation(7);
+    CheckNames(huevox, true);
+    StoreText("PromptToSave", "True");
+    Press(VK_F8);
+    const HWND message = huevox.waitForDialog();
+    ASSERT_TRUE(message);
+    EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
+    Answer(message, IDOK);
+    const FormatDialog dialog(huevox, FormatDialog::IsOpening{});
+    dialog.click(IDC_cmdCancel);
+    CheckNames(huevox, false);
+    EXPECT_BECOMES(huevox.listIndex(), 0);
+}

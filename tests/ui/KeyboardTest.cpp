@@ -110,6 +110,26 @@ TEST_F(Keyboard, ASwatchIsReachedAndTakenAndTheWindowClosed) {
     EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
 }
 
+TEST_F(Keyboard, EscapeClosesEveryPaletteWindow) {
+    const Huevox huevox;
+    for (const PickerWindow::Grid& grid : {websafeGrid, failsafeGrid, javaScriptGrid}) {
+        const PickerWindow picker(huevox, grid);
+        Press(VK_ESCAPE);
+        EXPECT_BECOMES(picker.window(), nullptr) << grid.name;
+        EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
+    }
+}
+
+TEST_F(Keyboard, GoesOnFromTheSwatchThatWasClicked) {
+    const Huevox huevox;
+    const PickerWindow picker(huevox, websafeGrid);
+    picker.click({3, 2});
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(153, 0, 153));
+    Press(VK_RIGHT);
+    Press(VK_SPACE);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(204, 0, 153));
+}
+
 TEST_F(Keyboard, AFrameIsSeenAroundTheSwatchThatHasTheFocus) {
     const Huevox huevox;
     const HWND picker = OpenByKeyboard(huevox, failsafeGrid);

@@ -99,6 +99,17 @@ TEST_F(NameBoxes, AClickAfterTheFocusWasElsewhereSelectsAgain) {
     EXPECT_BECOMES(huevox.selection(Name(3)), wholePlaceholder);
 }
 
+TEST_F(NameBoxes, APressThatIsLetGoOfElsewhereSelectsNothing) {
+    const Huevox huevox;
+    const POINT pressed = CenterOf(huevox.control(Name(2)));
+    MoveMouse(pressed);
+    PressButton(pressed);
+    ReleaseButton({pressed.x, CenterOf(huevox.control(IDC_picSample + 2)).y});
+    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(2));
+    Type("x");
+    EXPECT_BECOMES(huevox.text(Name(2)).size(), std::string("Type a colour name").size() + 1);
+}
+
 TEST_F(NameBoxes, ADoubleClickSelectsTheWholeName) {
     const Huevox huevox;
     huevox.retype(Name(0), "light sea green");

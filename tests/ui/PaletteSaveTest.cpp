@@ -87,6 +87,15 @@ TEST_F(SavingPalettes, ACancelledDialogLeavesTheFolderOfSave) {
     EXPECT_FALSE(Exists(PathOf("Reds.txt")));
 }
 
+TEST_F(SavingPalettes, ACancelledDialogHoldsNoFolder) {
+    const Huevox huevox;
+    PressOpen();
+    CancelFileDialog(huevox, openTitle);
+    // The current folder of any program cannot be removed.
+    EXPECT_TRUE(::RemoveDirectoryA(otherFolder));
+    EXPECT_TRUE(::RemoveDirectoryA(paletteFolder));
+}
+
 TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderAndAddsTheExtension) {
     const Huevox huevox;
     Press('S', {VK_CONTROL});

@@ -108,6 +108,18 @@ TEST_F(ScreenPicking, APressAndReleaseWithoutMovingAppliesTheLastPick) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
 }
 
+TEST_F(ScreenPicking, ReadsThePressedPlaceWhenThePointerComesBack) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    const POINT pressed = Sample(huevox, 0);
+    Hold(huevox, pressed);
+    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
+    DragTo(huevox, pressed, ColorOf(255, 0, 0));
+    ReleaseButton(pressed);
+    EXPECT_BECOMES(IsShown(huevox, IDC_picPick), false);
+    EXPECT_EQ(huevox.sliders(), ColorOf(255, 0, 0));
+}
+
 TEST_F(ScreenPicking, OnlyTheLeftButtonStartsAPick) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
@@ -170,6 +182,23 @@ TEST_F(ScreenPicking, TheFocusIsWhereItWas) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
 }
 
+TEST_F(ScreenPicking, TheFocusOfAnEarlierPickDoesNotComeBack) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    huevox.focusSlider(IDC_hsbGreen);
+    Hold(huevox, Sample(huevox, 0));
+    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
+    ReleaseButton(Sample(huevox, 4));
+    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    huevox.focusByClick(Name(2));
+    Hold(huevox, Sample(huevox, 0));
+    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
+    ReleaseButton(Sample(huevox, 3));
+    ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
+    Type("x");
+    EXPECT_BECOMES(huevox.text(Name(2)), "x");
+}
+
 TEST_F(ScreenPicking, LocksOpeningWhileTheModeIsOn) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
@@ -179,10 +208,15 @@ TEST_F(ScreenPicking, LocksOpeningWhileTheModeIsOn) {
     Press('O', {VK_CONTROL});
     Press('I', {VK_CONTROL});
     Click(huevox.toolButton(IDM_mnuFileOpen));
+    ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuFileOpen, 0);
     huevox.focusByClick(Name(0));
     EXPECT_EQ(huevox.dialogCount(), 0);
-    MoveMouse(huevox.toolButton(IDM_mnuFileOpen));
-    EXPECT_BECOMES(huevox.toolTip(), "Uncheck the check box Colour Pick Mode to enable");
+    for (const int command : {IDM_mnuFileOpen, IDM_mnuFileOpenInNotepad}) {
+        MoveMouse({1, 1});
+        ASSERT_BECOMES(huevox.toolTip(), "");
+        MoveMouse(huevox.toolButton(command));
+        EXPECT_BECOMES(huevox.toolTip(), "Uncheck the check box Colour Pick Mode to enable");
+    }
     Click(huevox.control(IDC_chkColorPick));
     ASSERT_BECOMES(huevox.isEnabled(IDC_picSampleContainer), false);
     EXPECT_BECOMES(huevox.isToolButtonEnabled(IDM_mnuFileOpenInNotepad), true);

@@ -144,6 +144,18 @@ TEST_F(HexValues, AreShownUpperCaseWhenTyped) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 171, 0));
 }
 
+TEST_F(HexValues, AreAppliedByEnterWhichUnlocksTheMode) {
+    const Huevox huevox;
+    ChooseHex(huevox);
+    huevox.retype(IDC_txtSetGreen, "7F");
+    ASSERT_BECOMES(huevox.isEnabled(IDC_optSetDec), false);
+    Press(VK_RETURN);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 127, 0));
+    EXPECT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), false);
+    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetDec), true);
+    EXPECT_BECOMES(huevox.isEnabled(IDC_optSetHex), true);
+}
+
 TEST_F(HexValues, ArePastedAsTheyStand) {
     const Huevox huevox;
     ChooseHex(huevox);
