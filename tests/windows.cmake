@@ -7,6 +7,7 @@ add_executable(program_tests
     program/AutocopyTest.cpp
     program/ColorBarTest.cpp
     program/ColorMarksTest.cpp
+    program/ColorsOnTheWayTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
     program/LibrarySearchTest.cpp
@@ -92,6 +93,7 @@ add_executable(ui_tests
     ui/PaletteFaultTest.cpp
     ui/PaletteOpenTest.cpp
     ui/PaletteSaveTest.cpp
+    ui/PickFocusTest.cpp
     ui/PickerWindowsTest.cpp
     ui/PickersTest.cpp
     ui/ScalingTest.cpp

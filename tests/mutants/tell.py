@@ -83,11 +83,11 @@ class Tests:
         own = f"WINEPREFIX={self.prefix}".encode()
         for folder in pathlib.Path("/proc").glob("[0-9]*"):
             try:
-                started = (folder / "cmdline").read_bytes().lower()
+                started = (folder / "cmdline").read_bytes().lower().split(b"\0")[0]
                 state = (folder / "stat").read_text().rpartition(")")[2].split()[0]
                 is_own = own in (folder / "environ").read_bytes().split(b"\0")
             except (OSError, IndexError):
                 continue
             names = (b"huevox.exe", b"ui_tests.exe", b"program_tests.exe", b"notepad.exe", b"standin.exe")
-            if is_own and state != "Z" and any(name in started for name in names):
+            if is_own and state != "Z" and started.endswith(names):
                 yield int(folder.name)

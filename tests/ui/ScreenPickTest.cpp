@@ -170,35 +170,6 @@ TEST_F(ScreenPicking, LosingTheMouseAppliesNothing) {
     EXPECT_EQ(huevox.sliders(), ColorOf(255, 0, 0));
 }
 
-TEST_F(ScreenPicking, TheFocusIsWhereItWas) {
-    const Huevox huevox;
-    TurnPickModeOn(huevox);
-    huevox.focusSlider(IDC_hsbGreen);
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
-    ReleaseButton(Sample(huevox, 4));
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
-    Press(VK_RIGHT);
-    EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
-}
-
-TEST_F(ScreenPicking, TheFocusOfAnEarlierPickDoesNotComeBack) {
-    const Huevox huevox;
-    TurnPickModeOn(huevox);
-    huevox.focusSlider(IDC_hsbGreen);
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
-    ReleaseButton(Sample(huevox, 4));
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
-    huevox.focusByClick(Name(2));
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
-    ReleaseButton(Sample(huevox, 3));
-    ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
-    Type("x");
-    EXPECT_BECOMES(huevox.text(Name(2)), "x");
-}
-
 TEST_F(ScreenPicking, LocksOpeningWhileTheModeIsOn) {
     const Huevox huevox;
     TurnPickModeOn(huevox);

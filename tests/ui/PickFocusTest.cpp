@@ -1,0 +1,53 @@
+// Where do the keys go after a colour has been taken from the screen?
+#include "tests/ui/Picking.h"
+#include "tests/ui/UiTest.h"
+
+namespace {
+
+class PickFocus : public UiTest {};
+
+}  // namespace
+
+TEST_F(PickFocus, IsWhereItWas) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    huevox.focusSlider(IDC_hsbGreen);
+    Hold(huevox, Sample(huevox, 0));
+    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
+    ReleaseButton(Sample(huevox, 4));
+    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
+}
+
+TEST_F(PickFocus, OfAnEarlierPickDoesNotComeBack) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    huevox.focusSlider(IDC_hsbGreen);
+    Hold(huevox, Sample(huevox, 0));
+    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
+    ReleaseButton(Sample(huevox, 4));
+    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    huevox.focusByClick(Name(2));
+    Hold(huevox, Sample(huevox, 0));
+    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
+    ReleaseButton(Sample(huevox, 3));
+    ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
+    Type("x");
+    EXPECT_BECOMES(huevox.text(Name(2)), "x");
+}
+
+TEST_F(PickFocus, StaysWithAnotherProgramThatTookTheMouse) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    huevox.focusSlider(IDC_hsbGreen);
+    Hold(huevox, Sample(huevox, 0));
+    const Huevox other;
+    ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    ASSERT_BECOMES(::GetDlgCtrlID(other.focus()), IDC_hsbRed);
+    ReleaseButton({1, 1});
+    ::PostMessageA(huevox.control(IDC_picSample), WM_CANCELMODE, 0, 0);
+    ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
+    Press(VK_LEFT);
+    EXPECT_BECOMES(other.sliders(), ColorOf(254, 0, 0));
+}
