@@ -83,6 +83,15 @@ TEST_F(Keyboard, TheBarIsReachedAndAStepTakenFromTheColorOn) {
     EXPECT_EQ(::GetDlgCtrlID(huevox.focus()), IDC_lblColorBar);
 }
 
+TEST_F(Keyboard, TheBarBeginsAtTheStepOfTheColor) {
+    const Huevox huevox;
+    SetColor(huevox, ColorOf(100, 150, 200));
+    TabTo(huevox, IDC_lblColorBar);
+    Press(VK_RIGHT);
+    Press(VK_SPACE);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(101, 151, 201));
+}
+
 TEST_F(Keyboard, AMovedFrameAloneChangesNothing) {
     const Huevox huevox;
     TabTo(huevox, IDC_lblColorBar);
