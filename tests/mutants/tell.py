@@ -12,6 +12,7 @@ programs = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "u
 # Program tests look for files beside them.
 folders = {"pure": ".", "program": "tests", "ui": "."}
 longest = 240  # seconds; changed programs that take longer hang
+soon = 10  # and tests that take longer to end when they have failed
 
 
 class Tests:
@@ -29,23 +30,24 @@ class Tests:
         return None
 
     def run(self, kind, pattern, folder, limit):
-        command = [folder / programs[kind], f"--gtest_filter={pattern}", "--gtest_fail_fast"]
+        # What a test holds it gives back on its way out, whichever line of it has failed.
+        command = [folder / programs[kind], f"--gtest_filter={pattern}", "--gtest_throw_on_failure"]
         if kind != "pure":
             command.insert(0, self.wine)
         process = subprocess.Popen(command, cwd=folder / folders[kind], stdin=subprocess.DEVNULL, text=True,
                                    stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True,
                                    errors="replace", env={**os.environ, "HUEVOX_TIMEOUT": str(limit)})
-        hanging = threading.Timer(limit, self.end, [process])
-        hanging.start()
+        hanging = self.end_after(limit, process)
         begin = time.monotonic()
         running, failed, lines = "the start", False, []
         for line in process.stdout:
             lines.append(line)
             started = re.match(r"\[ RUN +\] (\S+)", line)
-            running = started.group(1) if started else running
-            if ": Failure" in line or "runtime error" in line:
+            running = started.group(1) if started and not failed else running
+            if not failed and (": Failure" in line or "runtime error" in line):
                 failed = True
-                break
+                hanging.cancel()
+                hanging = self.end_after(soon, process)
         hanging.cancel()
         self.last = "".join(lines)
         if failed:
@@ -57,6 +59,11 @@ class Tests:
         self.end(process)
         return f"{running}, which {how}"
 
+    def end_after(self, seconds, process):
+        timer = threading.Timer(seconds, self.end, [process])
+        timer.start()
+        return timer
+
     def end(self, process):
         """Ends the tests and what they have started, and removes what they would have removed."""
         try:
@@ -64,7 +71,7 @@ class Tests:
         except ProcessLookupError:
             pass
         while left := [number for number in self.processes() if self.kill(number)]:
-            time.sleep(0.02 * bool(left))
+            time.sleep(0.02)
         process.wait()
         for path in pathlib.Path(self.prefix, "drive_c").glob("Huevox Palettes*"):
             subprocess.run(["chmod", "-R", "u+rwX", path], check=False)

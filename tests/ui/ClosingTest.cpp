@@ -41,6 +41,8 @@ TEST_F(Closing, IsIgnoredWhileAMessageIsOpen) {
     ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
     ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuFileExit, 0);
     ::PostMessageA(huevox.window(), WM_COMMAND, MAKEWPARAM(IDM_mnuFileExit, 1), 0);
+    ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuFileExit,
+                   reinterpret_cast<LPARAM>(huevox.control(IDC_tbrTools)));
     Answer(message, IDOK);
     EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
     EXPECT_TRUE(huevox.isRunning());

@@ -75,3 +75,16 @@ TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
     huevox.selectMark(1);
     EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
 }
+
+TEST_F(ColorBarClicks, APressElsewhereThatIsReleasedOnTheBarIsNone) {
+    const Huevox huevox;
+    const POINT elsewhere = CenterOf(huevox.control(IDC_frmSet));
+    Click(huevox.barStepPlace(100));
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 100, 100));
+    PressButton(huevox.barStepPlace(50));
+    ReleaseButton(elsewhere);
+    PressButton(elsewhere);
+    ReleaseButton(huevox.barStepPlace(200));
+    huevox.selectMark(1);  // the input behind all that
+    EXPECT_EQ(huevox.sample(0), ColorOf(255, 100, 100));
+}

@@ -92,6 +92,20 @@ TEST_F(Keyboard, TheBarBeginsAtTheStepOfTheColor) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(101, 151, 201));
 }
 
+TEST_F(Keyboard, TheBarsFrameStaysAndIsToldAnewWhenTheColorChanges) {
+    const Huevox huevox;
+    SetColor(huevox, ColorOf(100, 150, 200));
+    Press(VK_F2);
+    huevox.selectMark(1);
+    TabTo(huevox, IDC_lblColorBar);
+    ASSERT_BECOMES(huevox.text(IDC_lblColorBar), "#FFFF00");
+    Press(VK_F3);
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(100, 150, 200));
+    EXPECT_BECOMES(huevox.text(IDC_lblColorBar), "#003264");
+    Press(VK_SPACE);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 50, 100));
+}
+
 TEST_F(Keyboard, AMovedFrameAloneChangesNothing) {
     const Huevox huevox;
     TabTo(huevox, IDC_lblColorBar);
