@@ -44,10 +44,13 @@ TEST_F(PickFocus, StaysWithAnotherProgramThatTookTheMouse) {
     Hold(huevox, Sample(huevox, 0));
     const Huevox other;
     ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    ASSERT_BECOMES(::GetDlgCtrlID(other.focus()), IDC_hsbRed);
-    ReleaseButton({1, 1});
+    Press(VK_LEFT);
+    ASSERT_BECOMES(ClipboardText(), "#FE0000");
     ::PostMessageA(huevox.control(IDC_picSample), WM_CANCELMODE, 0, 0);
     ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
+    // A window that took the focus would copy its colour again.
+    EXPECT_TRUE(Throughout(1'000, [] { return ClipboardText() == "#FE0000"; }));
+    ReleaseButton({1, 1});
     Press(VK_LEFT);
-    EXPECT_BECOMES(other.sliders(), ColorOf(254, 0, 0));
+    EXPECT_BECOMES(other.sliders(), ColorOf(253, 0, 0));
 }

@@ -120,6 +120,23 @@ TEST_F(ScreenPicking, ReadsThePressedPlaceWhenThePointerComesBack) {
     EXPECT_EQ(huevox.sliders(), ColorOf(255, 0, 0));
 }
 
+TEST_F(ScreenPicking, ADragFromElsewhereReadsWhereAnEarlierPickWasPressed) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    const POINT pressed = Sample(huevox, 0);
+    Hold(huevox, pressed);
+    ReleaseButton(pressed);
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
+    huevox.focusSlider(IDC_hsbGreen);
+    Press(VK_RIGHT);
+    ASSERT_BECOMES(huevox.sample(0), ColorOf(0, 1, 0));
+    PressButton(CenterOf(huevox.control(IDC_frmSet)));
+    MoveMouse(pressed);
+    ReleaseButton(pressed);
+    huevox.focusByClick(Name(1));  // the input behind the release
+    EXPECT_EQ(huevox.sliders(), ColorOf(0, 1, 0));
+}
+
 TEST_F(ScreenPicking, OnlyTheLeftButtonStartsAPick) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
