@@ -11,7 +11,7 @@ import time
 programs = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "tests/ui_tests.exe"}
 # Program tests look for files beside them.
 folders = {"pure": ".", "program": "tests", "ui": "."}
-longest = 240  # seconds; changed programs that take longer hang
+longest = 180  # seconds; changed programs that take longer hang
 soon = 10  # and tests that take longer to end when they have failed
 
 
@@ -26,6 +26,7 @@ class Tests:
             if kind in tests:
                 told = self.run(kind, tests[kind], folder, limit)
                 if told:
+                    self.tidy()
                     return told
         return None
 
@@ -65,7 +66,7 @@ class Tests:
         return timer
 
     def end(self, process):
-        """Ends the tests and what they have started, and removes what they would have removed."""
+        """Ends the tests and what they have started."""
         try:
             os.killpg(process.pid, signal.SIGKILL)
         except ProcessLookupError:
@@ -73,9 +74,14 @@ class Tests:
         while left := [number for number in self.processes() if self.kill(number)]:
             time.sleep(0.02)
         process.wait()
+
+    def tidy(self):
+        """Removes what the tests that have ended would have removed."""
         for path in pathlib.Path(self.prefix, "drive_c").glob("Huevox Palettes*"):
             subprocess.run(["chmod", "-R", "u+rwX", path], check=False)
             shutil.rmtree(path, ignore_errors=True)
+        subprocess.run([self.wine, "reg", "delete", r"HKCU\Software\Quorvane", "/f"], check=False,
+                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     @staticmethod
     def kill(number):
