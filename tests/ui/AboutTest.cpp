@@ -164,6 +164,20 @@ TEST_F(About, EnterAndSpaceOpenTheLinkThatHasTheFocus) {
     EXPECT_TRUE(box.window());
 }
 
+TEST_F(About, AHeldKeyOpensTheLinkOnce) {
+    const ShellCommand browser("http", ShellCommand::To::standIn);
+    const Huevox huevox;
+    const AboutBox box(huevox);
+    box.tabTo(IDC_lblLink);
+    KeyDown(VK_RETURN);
+    EXPECT_BECOMES(ShellCommand::line(), ShellCommand::lineFor(homePageAddress));
+    ShellCommand::forgetLine();
+    KeyDown(VK_RETURN);  // as the keyboard repeats it
+    KeyUp(VK_RETURN);
+    box.tabTo(IDC_lblMailLink);  // the keys before it have arrived
+    EXPECT_EQ(ShellCommand::line(), "");
+}
+
 TEST_F(About, ACaptionWithBlanksIsPassedWithBlanks) {
     const ShellCommand mailer("mailto", ShellCommand::To::standIn);
     const Huevox huevox;

@@ -80,6 +80,15 @@ TEST_F(PickersJavaScript, ToolTipsAreNameAndDigitsFromAliceblueToYellowgreen) {
     ExpectTip(huevox, javaScript, {6, 19}, "yellowgreen #9ACD32");
 }
 
+TEST_F(PickersJavaScript, ToolTipsAreThereAgainWhenItIsOpenedAgain) {
+    const Huevox huevox;
+    const PickerWindow javaScript(huevox, javaScriptGrid);
+    ExpectTip(huevox, javaScript, JavaScriptSwatch(0), "aliceblue #F0F8FF");
+    javaScript.close();
+    javaScript.open();
+    ExpectTip(huevox, javaScript, JavaScriptSwatch(0), "aliceblue #F0F8FF");
+}
+
 TEST_F(PickersJavaScript, OneNameIsSpeltDifferentlyInTheSecondOrder) {
     const Huevox huevox;
     const PickerWindow javaScript(huevox, javaScriptGrid);
