@@ -1,8 +1,8 @@
-#!/usr/bin/python3
 """Makes the changes that are written down and says what the tests say: see scripts/mutants."""
 import concurrent.futures
 import pathlib
 import shutil
+import signal
 import sys
 import time
 
@@ -32,7 +32,7 @@ def baseline(checkout, tests, changes):
     begin = time.monotonic()
     told = tests.tell(patterns, folder, limit=3600)
     if told:
-        sys.exit(f"Without any change fails {told}:\n{tests.last}")
+        sys.exit(f"Without any change fails {told}:\n" + "\n".join(tests.last.splitlines()[-20:]))
     print(f"unchanged: all tests that could tell pass, in {time.monotonic() - begin:.0f} s", flush=True)
 
 
@@ -64,6 +64,7 @@ def verdict(tests, change, folder):
 
 def main(words):
     begin = time.monotonic()
+    signal.signal(signal.SIGTERM, stop)
     changes = written.chosen(written.read(project / "tests/mutants"), words)
     broken = list(written.faults(project, changes))
     if broken:
@@ -94,6 +95,10 @@ def main(words):
     minutes, seconds = divmod(int(time.monotonic() - begin), 60)
     print(*failures, f"{len(changes)} changes: {counts}, in {minutes}:{seconds:02}", sep="\n")
     return 1 if failures else 0
+
+
+def stop(*_):
+    sys.exit("stopped")
 
 
 if __name__ == "__main__":

@@ -56,6 +56,20 @@ protected:
     TwipsForm twips;
 };
 
+/// Where the form's tool tips look for the pointer over a part of a control.
+RECT TipArea(const Form& form, const Control& control, UINT part) {
+    HWND tips = nullptr;
+    do {
+        tips = ::FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
+    } while (tips && ::GetWindow(tips, GW_OWNER) != form.handle());
+    TTTOOLINFOA tool{};
+    tool.cbSize = sizeof tool;
+    tool.hwnd = control.handle();
+    tool.uId = part;
+    ::SendMessageA(tips, TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&tool));
+    return tool.rect;
+}
+
 /// The first row of the first picture, and the one behind the last, in which anything is painted.
 std::pair<int, int> PaintedRows(HIMAGELIST images, int size) {
     const HDC screen = ::GetDC(nullptr);
@@ -118,6 +132,21 @@ TEST_F(Scaling, CellsMeetAndEndWithTheWindowAtEveryScaling) {
         EXPECT_EQ(strip.bottom, client.cy);
         EXPECT_EQ(strip.right, client.cx);
         EXPECT_EQ(client.cx, twips.scaled(Area{0, 0, 1750, 5420}).right);
+    }
+}
+
+TEST_F(Scaling, ToolTipsOfCellsFollow) {
+    twips.cellTest.setPlaces({{0, 0, 1500, 750}});
+    twips.load();
+    twips.cellTest.setTips({"one"});
+    // The first movement of the mouse over the form.
+    ::SendMessageA(twips.handle(), WM_SETCURSOR, reinterpret_cast<WPARAM>(twips.handle()),
+                   MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    for (const int dpi : {192, 96}) {
+        moveTo(twips, dpi, {10, 10});
+        const RECT area = TipArea(twips, twips.cellTest, 0);
+        EXPECT_EQ(area.right, 100 * dpi / 96);
+        EXPECT_EQ(area.bottom, 50 * dpi / 96);
     }
 }
 
