@@ -15,12 +15,12 @@
 
 namespace {
 
-WNDPROC watched = nullptr;
+WNDPROC unwatched = nullptr;
 std::function<void()> afterPaint;  // once
 std::vector<std::string> texts;
 
 LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const LRESULT result = ::CallWindowProcA(watched, window, message, wParam, lParam);
+    const LRESULT result = ::CallWindowProcA(unwatched, window, message, wParam, lParam);
     if (message == WM_SETTEXT) texts.push_back(TextOf(window));
     if (message == WM_PAINT && afterPaint) std::exchange(afterPaint, nullptr)();
     return result;
@@ -31,12 +31,12 @@ class Watched {
 public:
     explicit Watched(HWND window) : window(window) {
         texts.clear();
-        watched = reinterpret_cast<WNDPROC>(
+        unwatched = reinterpret_cast<WNDPROC>(
             ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Watch)));
     }
     Watched(const Watched&) = delete;
     Watched& operator=(const Watched&) = delete;
-    ~Watched() { ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(watched)); }
+    ~Watched() { ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(unwatched)); }
 
 private:
     HWND window;
