@@ -11,7 +11,7 @@ import time
 programs = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "tests/ui_tests.exe"}
 # Program tests look for files beside them.
 folders = {"pure": ".", "program": "tests", "ui": "."}
-longest = 180  # seconds; changed programs that take longer hang
+longest = 120  # seconds; changed programs that take longer hang
 soon = 10  # and tests that take longer to end when they have failed
 
 

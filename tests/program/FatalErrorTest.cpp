@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <functional>
 #include <set>
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "support/Messages.h"
@@ -19,7 +21,7 @@
 
 namespace {
 
-/// A user who answers every message box and notes what it said.
+/// A user who answers every message box, at once or when it is time, and notes what it said.
 class Answering {
 public:
     ~Answering() {
@@ -28,6 +30,8 @@ public:
     }
 
     std::vector<std::string> messages;
+    std::atomic<bool> isTime = true;
+    std::atomic<bool> isOpenBoxShown = false;
 
 private:
     static BOOL CALLBACK FindBox(HWND window, LPARAM parameter) {
@@ -41,7 +45,7 @@ private:
         while (!isOver) {
             HWND box = nullptr;
             ::EnumWindows(FindBox, reinterpret_cast<LPARAM>(&box));
-            if (box && seen.insert(box).second) {
+            if (box && isTime && seen.insert(box).second) {
                 messages.push_back(TextOf(::GetDlgItem(box, 0xFFFF)));
                 if (messages.back() == "open") {
                     isOpenBoxShown = true;
@@ -54,10 +58,7 @@ private:
     }
 
     std::atomic<bool> isOver = false;
-    std::thread user{[this] { answer(); }};
-
-public:
-    std::atomic<bool> isOpenBoxShown = false;
+    std::thread user{[this] { answer(); }};  // last, when all that it looks at is there
 };
 
 class FatalError : public testing::Test {
@@ -76,6 +77,27 @@ protected:
 };
 
 class ErrorBeforeTheTrapIsArmed : public FatalError {};
+
+/// A clock that goes on behind a message, and does something at the fifth beat.
+class Clock {
+public:
+    explicit Clock(std::function<void()> atFifth) : number(::SetTimer(nullptr, 0, 20, beat)) {
+        beats = 0;
+        doAtFifth = std::move(atFifth);
+    }
+    Clock(const Clock&) = delete;
+    Clock& operator=(const Clock&) = delete;
+    ~Clock() { ::KillTimer(nullptr, number); }
+
+private:
+    static void CALLBACK beat(HWND, UINT, UINT_PTR, DWORD) {
+        if (++beats == 5) doAtFifth();
+    }
+
+    inline static int beats = 0;
+    inline static std::function<void()> doAtFifth;
+    UINT_PTR number;
+};
 
 void Fail() { throw std::runtime_error("unexpected"); }
 
@@ -123,10 +145,11 @@ TEST_F(FatalError, LetsNoTimerTickBehindTheMessage) {
     ArmErrorTrap();
     int ticks = 0;
     form.tmrTest.Tick.bind([&] { ++ticks; });
-    {
-        Answering answering;
-        HandleFatalError();
-    }
+    Answering answering;
+    answering.isTime = false;
+    const Clock clock([&] { answering.isTime = true; });
+    HandleFatalError();
+    EXPECT_EQ(answering.messages.size(), 1U);
     EXPECT_EQ(ticks, 0);
 }
 
@@ -142,13 +165,30 @@ TEST_F(FatalError, EndsAMessageBoxThatIsOpen) {
     EXPECT_FALSE(form.handle());
 }
 
+TEST_F(FatalError, EndsAMessageBoxThatGoesWithNoForm) {
+    ArmErrorTrap();
+    Answering answering;
+    form.tmrTest.Tick.bind([&] {
+        if (answering.isOpenBoxShown) Fail();
+    });
+    MsgBox(nullptr, "open", MB_YESNO, messages::title);
+    EXPECT_EQ(answering.messages.size(), 2U);
+    EXPECT_FALSE(form.handle());
+}
+
 TEST_F(FatalError, ReleasesTheMouseAndTheRedraw) {
     ArmErrorTrap();
     Answering answering;
+    answering.isTime = false;
+    HWND captured = form.picTest.handle();
+    const Clock clock([&] {
+        captured = ::GetCapture();
+        answering.isTime = true;
+    });
     ::SetCapture(form.picTest.handle());
     FreezeRedraw(form.handle());
     HandleFatalError();
-    EXPECT_FALSE(::GetCapture());
+    EXPECT_FALSE(captured);
     EXPECT_TRUE(::LockWindowUpdate(::GetDesktopWindow()));
     UnfreezeRedraw();
 }

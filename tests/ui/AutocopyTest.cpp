@@ -73,6 +73,16 @@ TEST_F(Autocopy, UnicodeTextIsMadeOfTheSameCharacters) {
     EXPECT_EQ(ClipboardUnicodeText(), L"caf\u00E9 \u20AC FF");
 }
 
+TEST_F(Autocopy, UnicodeTextIsNotLeftToThePlatform) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    ASSERT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
+    // What the platform makes of other formats comes after them.
+    EXPECT_EQ(::EnumClipboardFormats(0), static_cast<UINT>(CF_TEXT));
+    EXPECT_EQ(::EnumClipboardFormats(CF_TEXT), static_cast<UINT>(CF_UNICODETEXT));
+    ::CloseClipboard();
+}
+
 TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
     const Huevox huevox;
     ASSERT_BECOMES(ClipboardText(), "#FF0000");

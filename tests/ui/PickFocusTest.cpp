@@ -20,6 +20,15 @@ TEST_F(PickFocus, IsWhereItWas) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
 }
 
+TEST_F(PickFocus, IsWithTheNextControlMeanwhile) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    huevox.focusSlider(IDC_hsbGreen);
+    Hold(huevox, Sample(huevox, 0));
+    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
+    ReleaseButton(Sample(huevox, 0));
+}
+
 TEST_F(PickFocus, OfAnEarlierPickDoesNotComeBack) {
     const Huevox huevox;
     TurnPickModeOn(huevox);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/ui/UiTest.h"
@@ -14,6 +15,25 @@ std::string ListRow(const Huevox& huevox, int row) {
     std::array<wchar_t, 100> text{};
     ::SendMessageW(huevox.control(IDC_lstAutocopy), LB_GETTEXT, row, reinterpret_cast<LPARAM>(text.data()));
     return {text.begin(), std::ranges::find(text, L'\0')};
+}
+
+/// Whether the running program finds a library by its name alone.
+bool Finds(const Huevox& huevox, std::string_view library) {
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(huevox.window(), &id);
+    const HANDLE process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
+    void* name = ::VirtualAllocEx(process, nullptr, MAX_PATH, MEM_COMMIT, PAGE_READWRITE);
+    ::WriteProcessMemory(process, name, library.data(), library.size(), nullptr);
+    const FARPROC load = ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "LoadLibraryA");
+    const auto routine = reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void*>(load));
+    const HANDLE thread = ::CreateRemoteThread(process, nullptr, 0, routine, name, 0, nullptr);
+    constexpr DWORD limit = 10'000;
+    EXPECT_EQ(::WaitForSingleObject(thread, limit), WAIT_OBJECT_0);
+    DWORD loaded = 0;
+    ::GetExitCodeThread(thread, &loaded);
+    ::CloseHandle(thread);
+    ::CloseHandle(process);
+    return loaded != 0;
 }
 
 }  // namespace
@@ -138,4 +158,15 @@ TEST_F(Start, TheFocusIsOnTheFirstSliderAndTheTabKeyGoesThroughTheControlsInOrde
         ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), id);
         Press(VK_TAB);
     }
+}
+
+TEST_F(Start, LooksForLibrariesInTheSystemFolderOnly) {
+    constexpr const char* planted = "PlantedBesideTheProgram.dll";
+    ASSERT_TRUE(::CopyFileA(HUEVOX_STAND_IN_VIEWER, planted, FALSE));
+    {
+        const Huevox huevox;
+        EXPECT_TRUE(Finds(huevox, "version.dll"));
+        EXPECT_FALSE(Finds(huevox, planted));
+    }
+    EXPECT_TRUE(::DeleteFileA(planted));
 }
