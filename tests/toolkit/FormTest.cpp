@@ -170,3 +170,29 @@ TEST_F(FormTest, ALabelThatShowsDataShowsAmpersandsAsTheyAre) {
     EXPECT_TRUE(::GetWindowLongA(form.lblTest.handle(), GWL_STYLE) & SS_NOPREFIX);
     form.unload();
 }
+
+TEST_F(FormTest, TheFocusIsNotTakenWhileAnotherProgramIsInFront) {
+    show();
+    form.cmdTest.setFocus();
+    ASSERT_EQ(::GetFocus(), form.cmdTest.handle());
+    form.cmdTest.setEnabled(false);
+    ::SendMessageA(form.handle(), WM_ACTIVATE, WA_INACTIVE, 0);
+    PumpAll();
+    EXPECT_FALSE(::IsChild(form.handle(), ::GetFocus()));
+    form.unload();
+}
+
+TEST_F(FormTest, AnActivationThatIsOverByThenIsNotToldOf) {
+    form.load();
+    int activations = 0;
+    form.Activate.bind([&] { ++activations; });
+    ::SendMessageA(form.handle(), WM_ACTIVATE, WA_ACTIVE, 0);
+    ::SendMessageA(form.handle(), WM_ACTIVATE, WA_INACTIVE, 0);
+    PumpAll();
+    EXPECT_EQ(activations, 0);
+    ::SendMessageA(form.handle(), WM_ACTIVATE, WA_ACTIVE, 0);
+    form.activate();
+    PumpAll();
+    EXPECT_EQ(activations, 1);
+    form.unload();
+}

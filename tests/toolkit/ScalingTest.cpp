@@ -191,3 +191,14 @@ TEST_F(Scaling, AWindowThatSomebodyElseHasGivenAnotherSizeHasItsOwnAgainWhenItIs
     EXPECT_EQ(clientSize(form).cx, size.cx);
     EXPECT_EQ(clientSize(form).cy, size.cy);
 }
+
+TEST_F(Scaling, AMinimisedWindowHasItsPlaceAndSizeAgainAfterwards) {
+    form.load();
+    form.show(SW_SHOWNORMAL);
+    const Area place = PlaceOf(form.handle());
+    form.show(SW_SHOWMINIMIZED);
+    ASSERT_TRUE(PumpUntil([&] { return ::IsIconic(form.handle()) != FALSE; }));
+    form.activate();
+    form.show(SW_RESTORE);
+    EXPECT_TRUE(PumpUntil([&] { return !::IsIconic(form.handle()) && PlaceOf(form.handle()) == place; }));
+}

@@ -81,3 +81,18 @@ TEST_F(ToolBarChoices, ANewWindowHasNonePressed) {
     form.tbrTest.fill(choices);
     EXPECT_FALSE(isFirst());
 }
+
+TEST_F(ToolBarChoices, TheArrowKeysStopAtTheEnds) {
+    form.tbrTest.fill(choices);
+    const auto press = [&](WPARAM key, int times) {
+        for (int time = 0; time < times; ++time) ::SendMessageA(form.tbrTest.handle(), WM_KEYDOWN, key, 0);
+    };
+    ::SendMessageA(form.tbrTest.handle(), WM_SETFOCUS, 0, 0);
+    press(VK_RIGHT, 3);
+    press(VK_SPACE, 1);
+    EXPECT_TRUE(isSecond());
+    press(VK_LEFT, 3);
+    press(VK_SPACE, 1);
+    EXPECT_TRUE(isFirst());
+    EXPECT_EQ(chosen, (std::vector<int>{IDM_secondChoice, IDM_firstChoice}));
+}

@@ -59,6 +59,11 @@ std::string VersionOfFile() {
            std::to_string(HIWORD(fixed->dwProductVersionLS));
 }
 
+/// The stand-in writes its line a moment after the program has started it.
+bool StaysUnopened() {
+    return Throughout(1'000, [] { return ShellCommand::line().empty(); });
+}
+
 bool Holds(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
 
 }  // namespace
@@ -175,7 +180,7 @@ TEST_F(About, AHeldKeyOpensTheLinkOnce) {
     KeyDown(VK_RETURN);  // as the keyboard repeats it
     KeyUp(VK_RETURN);
     box.tabTo(IDC_lblMailLink);  // the keys before it have arrived
-    EXPECT_EQ(ShellCommand::line(), "");
+    EXPECT_TRUE(StaysUnopened());
 }
 
 TEST_F(About, ACaptionWithBlanksIsPassedWithBlanks) {
@@ -198,7 +203,7 @@ TEST_F(About, OnlyTheTextIsTheLink) {
     PressButton(box.startOf(IDC_lblLink));
     ReleaseButton(CenterOf(box.control(IDC_lblSlogan)));
     box.tabTo(IDC_lblMailLink);  // the input before it has arrived; the press has given the link the focus
-    EXPECT_EQ(ShellCommand::line(), "");
+    EXPECT_TRUE(StaysUnopened());
 }
 
 TEST_F(About, WithoutABrowserOrMailProgramNothingIsShown) {
