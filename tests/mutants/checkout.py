@@ -62,7 +62,7 @@ class Checkout:
         self.run(["cmake", "--build", "--preset", preset, "--target", *sorted(targets)])
 
     def run(self, command):
-        done = subprocess.run(["nice", "-n", "3", *command], cwd=self.folder, stdin=subprocess.DEVNULL, text=True, check=False,
+        done = subprocess.run(["nice", *command], cwd=self.folder, stdin=subprocess.DEVNULL, text=True, check=False,
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         if done.returncode != 0:
             raise DoesNotBuild(done.stdout)
