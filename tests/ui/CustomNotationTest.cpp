@@ -58,6 +58,28 @@ TEST_F(CustomNotation, ANotationStaysWhenTheCommandComesWhileAnotherProgramIsInF
     EXPECT_EQ(huevox.listIndex(), 10);
 }
 
+TEST_F(CustomNotation, ANotationStaysThatAnotherProgramHasChosenFromBehind) {
+    StoreText("FormatIndex", "3");
+    const Huevox huevox;
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+        huevox.send(IDC_lstAutocopy, LB_SETCURSEL, 10);
+        ::PostMessageA(huevox.window(), WM_COMMAND, MAKEWPARAM(IDC_lstAutocopy, LBN_SELCHANGE),
+                       reinterpret_cast<LPARAM>(huevox.control(IDC_lstAutocopy)));
+        ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
+        ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuToolsCustomFormat, 0);
+        ASSERT_TRUE(Eventually([&] { return huevox.form("frmCustomFormat") != nullptr; }));
+    }
+    const HWND dialog = huevox.form("frmCustomFormat");
+    ::SetForegroundWindow(dialog);
+    ASSERT_BECOMES(::GetForegroundWindow(), dialog);
+    CopyElsewhere("theirs");
+    Press(VK_ESCAPE);
+    EXPECT_BECOMES(ClipboardText(), "Color(255,0,0)");
+    EXPECT_EQ(huevox.listIndex(), 10);
+}
+
 TEST_F(CustomNotation, InJavaScriptNamesModeTheNotationComesBackAfterwards) {
     StoreText("FormatIndex", "3");
     const Huevox huevox;

@@ -104,6 +104,17 @@ TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderAndAddsTheExtension) {
     EXPECT_TRUE(Exists(PathOf("Blues.txt")));
 }
 
+TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderWhereverTheLastOneWas) {
+    WriteContent(OtherPathOf("p.txt"), PaletteOf("mine", "1,2,3"));
+    const Huevox huevox;
+    OpenPalette(huevox, OtherPathOf("p.txt"));
+    Press('F', {VK_MENU});
+    Press('A');
+    ChoosePath(huevox, saveTitle, "Blues");
+    EXPECT_BECOMES(huevox.title(), "Huevox - Blues.txt");
+    EXPECT_TRUE(Exists(PathOf("Blues.txt")));
+}
+
 TEST_F(SavingPalettes, ANameWithAnotherExtensionIsKept) {
     const Huevox huevox;
     Press('S', {VK_CONTROL});
