@@ -165,17 +165,6 @@ TEST_F(FatalError, EndsAMessageBoxThatIsOpen) {
     EXPECT_FALSE(form.handle());
 }
 
-TEST_F(FatalError, EndsAMessageBoxThatGoesWithNoForm) {
-    ArmErrorTrap();
-    Answering answering;
-    form.tmrTest.Tick.bind([&] {
-        if (answering.isOpenBoxShown) Fail();
-    });
-    MsgBox(nullptr, "open", MB_YESNO, messages::title);
-    EXPECT_EQ(answering.messages.size(), 2U);
-    EXPECT_FALSE(form.handle());
-}
-
 TEST_F(FatalError, ReleasesTheMouseAndTheRedraw) {
     ArmErrorTrap();
     Answering answering;

@@ -128,6 +128,25 @@ TEST_F(PickersJavaScript, ASwitchOfTheOrderLastsUntilTheWindowIsClosed) {
     EXPECT_BECOMES(javaScript.colorAt({0, 0}), ColorOf(0, 0, 0));
 }
 
+TEST_F(PickersJavaScript, TheButtonOfTheStoredOrderIsPressed) {
+    for (const auto& [stored, command] : {std::pair{"0", IDM_Alphabetically}, std::pair{"1", IDM_DotNet}}) {
+        StoreText("SortIndex", stored);
+        const Huevox huevox;
+        const PickerWindow javaScript(huevox, javaScriptGrid);
+        EXPECT_BECOMES(IsPressed(javaScript, command), true) << stored;
+        EXPECT_EQ(IsPressed(javaScript, IDM_Alphabetically), command == IDM_Alphabetically) << stored;
+    }
+}
+
+TEST_F(PickersJavaScript, SwatchesAreOfTheOrderThatIsSwitchedTo) {
+    const Huevox huevox;
+    const PickerWindow javaScript(huevox, javaScriptGrid);
+    ChooseOrder(huevox, javaScript, IDM_DotNet);
+    ExpectClick(huevox, javaScript, JavaScriptSwatch(16), ColorOf(255, 0, 0));
+    ChooseOrder(huevox, javaScript, IDM_Alphabetically);
+    ExpectClick(huevox, javaScript, JavaScriptSwatch(0), ColorOf(0xF0, 0xF8, 0xFF));
+}
+
 TEST_F(PickersJavaScript, TheSortButtonsHaveToolTips) {
     const Huevox huevox;
     const PickerWindow javaScript(huevox, javaScriptGrid);
