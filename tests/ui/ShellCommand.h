@@ -33,7 +33,11 @@ public:
 
     /// The command line that the stand-in was last started by.
     static std::string line() { return ContentOf(PathOf("command.txt")); }
-    static void forgetLine() { ::DeleteFileA(PathOf("command.txt").c_str()); }
+    /// The stand-in may hold the file for a moment longer than it writes.
+    static void forgetLine() {
+        const std::string file = PathOf("command.txt");
+        EXPECT_TRUE(Eventually([&] { return ::DeleteFileA(file.c_str()) != FALSE || !Exists(file); }));
+    }
 
 private:
     static std::string quoted(const std::string& text) { return '"' + text + '"'; }
