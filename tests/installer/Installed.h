@@ -12,7 +12,8 @@
 inline const std::filesystem::path setup{"packages-tested/Huevox-" HUEVOX_VERSION "-setup.exe"};
 inline const std::filesystem::path newerSetup{"packages-tested/Huevox-" HUEVOX_NEWER_VERSION "-setup.exe"};
 
-/// The system's list of programs. It is all programs': the first that is entered makes it, and none removes it.
+/// The system's list of programs. It is all programs': the first that is entered makes it, and none removes
+/// it.
 inline constexpr const char* programsKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall)";
 inline constexpr const char* uninstallKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox)";
 inline constexpr const char* settingsKey = R"(Software\Quorvane\Huevox 2004)";
