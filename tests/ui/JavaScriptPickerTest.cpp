@@ -129,7 +129,8 @@ TEST_F(PickersJavaScript, ASwitchOfTheOrderLastsUntilTheWindowIsClosed) {
 }
 
 TEST_F(PickersJavaScript, TheButtonOfTheStoredOrderIsPressed) {
-    for (const auto& [stored, command] : {std::pair{"0", IDM_Alphabetically}, std::pair{"1", IDM_DotNet}}) {
+    for (const auto& [stored, pressed] : {std::pair{"0", IDM_Alphabetically}, std::pair{"1", IDM_DotNet}}) {
+        const int command = pressed;  // not every compiler lets a lambda take the other in
         StoreText("SortIndex", stored);
         const Huevox huevox;
         const PickerWindow javaScript(huevox, javaScriptGrid);
