@@ -11,37 +11,6 @@ namespace {
 class FormatDialogKeys : public UiTest {};
 class FormatDialogWindow : public UiTest {};
 
-/// In the place of the settings' key stands a link that leads nowhere: it can be neither opened nor created.
-class KeyDenied {
-public:
-    KeyDenied() {
-        ::RegCreateKeyA(HKEY_CURRENT_USER, "Software\\Quorvane", &parent);
-        HKEY link = nullptr;
-        ::RegCreateKeyExA(parent, "Huevox 2004", 0, nullptr, REG_OPTION_CREATE_LINK, KEY_ALL_ACCESS, nullptr,
-                          &link, nullptr);
-        constexpr std::wstring_view target = L"\\Registry\\Nowhere\\Else";
-        ::RegSetValueExW(link, L"SymbolicLinkValue", 0, REG_LINK,
-                         reinterpret_cast<const BYTE*>(target.data()),
-                         static_cast<DWORD>(target.size() * sizeof(wchar_t)));
-        ::RegCloseKey(link);
-    }
-    KeyDenied(const KeyDenied&) = delete;
-    KeyDenied& operator=(const KeyDenied&) = delete;
-    ~KeyDenied() {
-        HKEY link = nullptr;
-        ::RegOpenKeyExA(parent, "Huevox 2004", REG_OPTION_OPEN_LINK, KEY_ALL_ACCESS, &link);
-        using DeleteKey = LONG(WINAPI*)(HKEY);
-        const auto remove = reinterpret_cast<DeleteKey>(
-            reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "NtDeleteKey")));
-        remove(link);
-        ::RegCloseKey(link);
-        ::RegCloseKey(parent);
-    }
-
-private:
-    HKEY parent = nullptr;
-};
-
 void ExpectFocusAfter(const FormatDialog& dialog, WORD accessKey, int control) {
     Press(accessKey, {VK_MENU});
     EXPECT_BECOMES(dialog.focus(), control);
@@ -192,7 +161,7 @@ TEST_F(FormatDialogWindow, AMissingKeyIsMadeByOk) {
 TEST_F(FormatDialogWindow, AKeyThatCannotBeOpenedIsPassedOverInSilence) {
     const Huevox huevox;
     huevox.chooseNotation(11);
-    const KeyDenied denied;
+    DenyTheSettingsKey();
     ASSERT_FALSE(HasStoredSettings());
     const FormatDialog dialog(huevox);
     dialog.retype("<%UR%>");

@@ -126,6 +126,13 @@ bool RestsAt(POINT screen) {
     return true;
 }
 
+/// Whether that place of a window is not covered by another, of whatever program. Of a form that a dialog
+/// holds nobody can tell.
+bool IsOnTop(HWND window, POINT screen) {
+    const HWND form = ::GetAncestor(window, GA_ROOT);
+    return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
+}
+
 /// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
 /// report between press and release takes it off what was pressed.
 void RestPointer(POINT screen) {
@@ -202,7 +209,17 @@ void Click(POINT screen) {
     ReleaseButton(screen);
 }
 
-void Click(HWND window) { Click(CenterOf(window)); }
+/// Where it is by then, and once no other window lies over it.
+void Click(HWND window) {
+    POINT place{};
+    EXPECT_TRUE(Eventually([&] {
+        place = CenterOf(window);
+        SendMouse(place);
+        return RestsAt(place) && IsOnTop(window, place);
+    })) << "covered, or never at rest";
+    PressButton(place);
+    ReleaseButton(place);
+}
 
 // All at once, because the time between the clicks makes them one.
 void DoubleClick(HWND window) {

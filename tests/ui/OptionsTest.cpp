@@ -41,14 +41,6 @@ void ExpectNothingKept(const Huevox& huevox, const OptionsDialog& options) {
     options.close(IDC_cmdCancel);
 }
 
-/// The settings key cannot be made where the key above it goes with the session.
-void DenyTheSettingsKey() {
-    HKEY key = nullptr;
-    ::RegCreateKeyExA(HKEY_CURRENT_USER, "Software\\Quorvane", 0, nullptr, REG_OPTION_VOLATILE,
-                      KEY_ALL_ACCESS, nullptr, &key, nullptr);
-    ::RegCloseKey(key);
-}
-
 }  // namespace
 
 TEST_F(Options, ShowTheDefaultsAtAFirstStart) {

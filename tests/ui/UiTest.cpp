@@ -87,6 +87,14 @@ bool HasStoredSettings() {
     return true;
 }
 
+// A key cannot be made where the one above it goes with the session.
+void DenyTheSettingsKey() {
+    HKEY key = nullptr;
+    ::RegCreateKeyExA(HKEY_CURRENT_USER, "Software\\Quorvane", 0, nullptr, REG_OPTION_VOLATILE,
+                      KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    ::RegCloseKey(key);
+}
+
 void SetColor(const Huevox& huevox, const Color& color) {
     huevox.retype(IDC_txtSetRed, std::to_string(color.red));
     huevox.retype(IDC_txtSetGreen, std::to_string(color.green));

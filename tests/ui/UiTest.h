@@ -33,6 +33,8 @@ inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
 void StoreText(const char* valueName, std::string_view text);
 std::string StoredText(const char* valueName);
 bool HasStoredSettings();
+/// From now on the key of the settings can neither be opened nor made.
+void DenyTheSettingsKey();
 
 /// Types all three values and applies them, in decimal mode.
 void SetColor(const Huevox& huevox, const Color& color);
