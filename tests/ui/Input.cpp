@@ -133,16 +133,6 @@ bool IsOnTop(HWND window, POINT screen) {
     return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
 }
 
-/// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
-/// report between press and release takes it off what was pressed.
-void RestPointer(POINT screen) {
-    EXPECT_TRUE(Eventually([screen] {
-        SendMouse(screen);
-        return RestsAt(screen);
-    })) << screen.x
-        << ' ' << screen.y;
-}
-
 }  // namespace
 
 bool TakesKeys(DWORD thread) {
@@ -188,6 +178,14 @@ POINT CenterOf(HWND window) {
     RECT area{};
     ::GetWindowRect(window, &area);
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+void RestPointer(POINT screen) {
+    EXPECT_TRUE(Eventually([screen] {
+        SendMouse(screen);
+        return RestsAt(screen);
+    })) << screen.x
+        << ' ' << screen.y;
 }
 
 void MoveMouse(POINT screen) { SendMouse(screen); }
