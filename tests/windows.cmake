@@ -48,6 +48,7 @@ add_library(ui_driver STATIC
     ui/Legible.cpp
     ui/Palettes.cpp
     ui/PickerWindow.cpp
+    ui/Pixel.cpp
     ui/Theme.cpp
     ui/UiTest.cpp)
 target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)

@@ -49,18 +49,6 @@ BOOL CALLBACK FindChild(HWND window, LPARAM parameter) {
     return FALSE;
 }
 
-BOOL CALLBACK FindUnpainted(HWND window, LPARAM parameter) {
-    if (!::IsWindowVisible(window) || !::GetUpdateRect(window, nullptr, FALSE)) return TRUE;
-    *reinterpret_cast<bool*>(parameter) = false;
-    return FALSE;
-}
-
-bool IsPainted(HWND window) {
-    bool isPainted = !::GetUpdateRect(window, nullptr, FALSE);
-    if (isPainted) ::EnumChildWindows(window, FindUnpainted, reinterpret_cast<LPARAM>(&isPainted));
-    return isPainted;
-}
-
 }  // namespace
 
 Huevox::Huevox(WORD showCommand) { startInSight(HUEVOX_EXE, showCommand); }
@@ -245,20 +233,4 @@ void Huevox::chooseNotation(int index) const {
     const int rowHeight = static_cast<int>(send(IDC_lstAutocopy, LB_GETITEMHEIGHT));
     Click(OnScreen(control(IDC_lstAutocopy), {20, index * rowHeight + rowHeight / 2}));
     EXPECT_BECOMES(listIndex(), index);
-}
-
-Color PaintedPixel(HWND window, POINT screen) {
-    EXPECT_TRUE(Eventually([window] { return IsPainted(window); }));
-    // Twice, because the window may have been at its painting: what it has painted is on the screen when its
-    // program waits for messages again.
-    AnswerOf(window, WM_NULL);
-    AnswerOf(window, WM_NULL);
-    return Pixel(screen);
-}
-
-Color Pixel(POINT screen) {
-    const HDC context = ::GetDC(nullptr);
-    const COLORREF color = ::GetPixel(context, screen.x, screen.y);
-    ::ReleaseDC(nullptr, context);
-    return Unpack(static_cast<PackedColor>(color));
 }

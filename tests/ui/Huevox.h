@@ -7,6 +7,7 @@
 
 #include "core/Color.h"
 #include "resources/resource.h"
+#include "tests/ui/Pixel.h"
 #include "toolkit/Platform.h"
 
 /// Huevox.exe in a process of its own, started by the constructor and ended, by force if need be, by the
@@ -89,8 +90,3 @@ private:
     PROCESS_INFORMATION process{};
     HWND main = nullptr;
 };
-
-/// The colour of a pixel of the screen.
-Color Pixel(POINT screen);
-/// The same once the window and all that is in it have been painted.
-Color PaintedPixel(HWND window, POINT screen);
