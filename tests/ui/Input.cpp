@@ -40,18 +40,17 @@ LONG Absolute(LONG pixel, int start, int extent) {
     return ((pixel - ::GetSystemMetrics(start)) * 65536 + 65536 / 2) / ::GetSystemMetrics(extent);
 }
 
-/// Buttons bring their place with them: a display reports earlier moves late, and they take the pointer back.
-INPUT MouseInput(POINT screen, DWORD button) {
+INPUT MouseInput(POINT screen, DWORD flags) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dx = Absolute(screen.x, SM_XVIRTUALSCREEN, SM_CXVIRTUALSCREEN);
     input.mi.dy = Absolute(screen.y, SM_YVIRTUALSCREEN, SM_CYVIRTUALSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK | button;
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK | flags;
     return input;
 }
 
-void SendMouse(POINT screen, DWORD button = 0) {
-    INPUT input = MouseInput(screen, button);
+void SendMouse(POINT screen, DWORD flags) {
+    INPUT input = MouseInput(screen, flags);
     ::SendInput(1, &input, sizeof input);
 }
 
@@ -100,30 +99,15 @@ void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
     }
 }
 
-/// Until the display has done what it was asked to do and the window's program has taken in what it tells of
-/// it.
-void WaitForReports(HWND window) {
-    const HDC screen = ::GetDC(nullptr);
-    // The display answers in the order of its callers: the second time all earlier wishes have been heard.
-    ::GetPixel(screen, 0, 0);
-    ::GetPixel(screen, 0, 0);
-    ::ReleaseDC(nullptr, screen);
-    WaitForAnswer(window);
-}
-
-bool IsPointerAt(POINT screen) {
-    POINT pointer{};
-    ::GetCursorPos(&pointer);
-    return pointer.x == screen.x && pointer.y == screen.y;
-}
-
-bool RestsAt(POINT screen) {
-    constexpr int looks = 3;
-    for (int look = 0; look < looks; ++look) {
-        WaitForReports(::WindowFromPoint(screen));
-        if (!IsPointerAt(screen)) return false;
-    }
-    return true;
+/// Until the window's program, if it is another, has no input left to handle: only then does it paint.
+void WaitForEndOfInput(HWND window) {
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    if (process == ::GetCurrentProcessId()) return;
+    constexpr RECT corner = {0, 0, 1, 1};
+    ::InvalidateRect(window, &corner, FALSE);
+    EXPECT_TRUE(Eventually([window] { return !::GetUpdateRect(window, nullptr, FALSE); }))
+        << "does not paint";
 }
 
 /// Whether that place of a window is not covered by another, of whatever program. Of a form that a dialog
@@ -180,15 +164,14 @@ POINT CenterOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
-void RestPointer(POINT screen) {
-    EXPECT_TRUE(Eventually([screen] {
-        SendMouse(screen);
-        return RestsAt(screen);
-    })) << screen.x
-        << ' ' << screen.y;
+/// By way of the place beside, because a movement is lost that comes while the program is about to take
+/// another: where a window comes or goes, Windows makes one up.
+void MoveMouse(POINT screen) {
+    SendMouse({screen.x - 1, screen.y}, 0);
+    WaitForEndOfInput(::GetForegroundWindow());
+    SendMouse(screen, 0);
 }
 
-void MoveMouse(POINT screen) { SendMouse(screen); }
 void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
 void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
 
@@ -196,33 +179,24 @@ void PressRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTDOWN); 
 void ReleaseRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTUP); }
 
 void RightClick(POINT screen) {
-    RestPointer(screen);
     PressRightButton(screen);
     ReleaseRightButton(screen);
 }
 
 void Click(POINT screen) {
-    RestPointer(screen);
     PressButton(screen);
     ReleaseButton(screen);
 }
 
-/// Where it is by then, and once no other window lies over it.
+/// Once no other window lies over it.
 void Click(HWND window) {
-    POINT place{};
-    EXPECT_TRUE(Eventually([&] {
-        place = CenterOf(window);
-        SendMouse(place);
-        return RestsAt(place) && IsOnTop(window, place);
-    })) << "covered, or never at rest";
-    PressButton(place);
-    ReleaseButton(place);
+    EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); })) << "covered";
+    Click(CenterOf(window));
 }
 
 // All at once, because the time between the clicks makes them one.
 void DoubleClick(HWND window) {
     const POINT place = CenterOf(window);
-    RestPointer(place);
     const INPUT press = MouseInput(place, MOUSEEVENTF_LEFTDOWN);
     const INPUT release = MouseInput(place, MOUSEEVENTF_LEFTUP);
     std::array inputs = {press, release, press, release};

@@ -20,9 +20,6 @@ POINT OnScreen(HWND window, POINT point);
 POINT CenterOf(HWND window);
 
 void MoveMouse(POINT screen);
-/// Puts the pointer there, again and again until it stays: a display reports earlier moves late, and such a
-/// report between press and release takes it off what was pressed.
-void RestPointer(POINT screen);
 void PressButton(POINT screen);
 void ReleaseButton(POINT screen);
 void PressRightButton(POINT screen);

@@ -19,17 +19,8 @@ inline void Hold(const Huevox& huevox, POINT place) {
 
 inline Color Preview(const Huevox& huevox) { return Pixel(CenterOf(huevox.control(IDC_picPick))); }
 
-/// Moves, as a hand does, more than once, until the pointer stays there: a display that reports an earlier
-/// move late takes it back.
+/// The preview shows what is there.
 inline void DragTo(const Huevox& huevox, POINT place, const Color& expected) {
-    constexpr int enough = 5;
-    int steady = 0;
-    EXPECT_TRUE(Eventually([&] {
-        POINT pointer{};
-        ::GetCursorPos(&pointer);
-        const bool isThere = pointer.x == place.x && pointer.y == place.y && Preview(huevox) == expected;
-        steady = isThere ? steady + 1 : 0;
-        if (!isThere) MoveMouse(place);
-        return steady == enough;
-    })) << testing::PrintToString(Preview(huevox));
+    MoveMouse(place);
+    EXPECT_BECOMES(Preview(huevox), expected);
 }

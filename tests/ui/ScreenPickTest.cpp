@@ -133,7 +133,7 @@ TEST_F(ScreenPicking, ADragFromElsewhereReadsWhereAnEarlierPickWasPressed) {
     Press(VK_RIGHT);
     ASSERT_BECOMES(huevox.sample(0), ColorOf(0, 1, 0));
     PressButton(CenterOf(huevox.control(IDC_frmSet)));
-    RestPointer(pressed);
+    MoveMouse(pressed);
     ReleaseButton(pressed);
     huevox.focusByClick(Name(1));  // the input behind the release
     EXPECT_EQ(huevox.sliders(), ColorOf(0, 1, 0));

@@ -7,8 +7,6 @@
 inline void ExpectTip(const Huevox& huevox, HWND control, const char* tip) {
     MoveMouse({1, 1});
     ASSERT_BECOMES(huevox.toolTip(), "");
-    const POINT middle = CenterOf(control);
-    MoveMouse({middle.x - 1, middle.y});
-    MoveMouse(middle);
+    MoveMouse(CenterOf(control));
     EXPECT_BECOMES(huevox.toolTip(), tip);
 }
