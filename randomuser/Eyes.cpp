@@ -81,8 +81,7 @@ std::string Eyes::situation() const {
 }
 
 HWND Eyes::box() const {
-    // One that has another over it is disabled; which of them comes first in the order of the windows is the
-    // window manager's affair.
+    // One that has another over it is disabled.
     const auto isOpen = [](HWND window) { return ::IsWindowVisible(window) && ::IsWindowEnabled(window); };
     for (const char* dialog : {"frmOptions", "frmCustomFormat", "frmAbout"}) {
         const HWND window = ::FindWindowA(dialog, nullptr);

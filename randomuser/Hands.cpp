@@ -41,18 +41,11 @@ std::string Hands::play(const Action& action, const Model& before) {
     return missing.empty() ? "" : missing + ": has not come (" + eyes.situation() + ')';
 }
 
-/// The window manager may hand the focus over late, and then once more: what has not come by itself after a
-/// while is brought.
 void Hands::bringWindow(const std::function<HWND()>& windowOf) {
-    constexpr ULONGLONG aWhile = 200;
-    ULONGLONG next = ::GetTickCount64() + aWhile;
     await("a window in front that takes keys", [&] {
         const HWND window = windowOf();
         if (Eyes::hasKeys(window)) return true;
-        if (window && ::GetTickCount64() > next && ::GetForegroundWindow() != window) {
-            ::SetForegroundWindow(window);
-            next = ::GetTickCount64() + aWhile;
-        }
+        if (window && ::GetForegroundWindow() != window) ::SetForegroundWindow(window);
         return false;
     });
 }

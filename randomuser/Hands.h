@@ -23,7 +23,7 @@ public:
     /// Movements while picking: each may cost a context of the screen.
     int pickMovements() const { return movements; }
 
-    /// Moves a window as a user does, once the window manager has put it somewhere.
+    /// Moves a window as a user does.
     static void moveTo(HWND window, POINT place);
 
 private:
@@ -64,7 +64,6 @@ private:
     void openPicker(int index);
     void clickSwatch(const Action& action);
     void uncover(HWND window, POINT place);
-    static POINT steadyCenter(HWND window);
     void closeHelp();
     POINT toolButton(int command);
     void closePicker(int index);

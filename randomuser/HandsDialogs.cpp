@@ -38,43 +38,14 @@ void Hands::answer(const Action& action) {
     await("the end of a box", [&] { return !::IsWindow(box); });
 }
 
-/// The window manager may move a new box, or put another window over it, after the button has been pressed or
-/// just before: then the pointer lets go elsewhere, which clicks nothing, and presses anew. It clicks where
-/// the button is by then.
 void Hands::clickInBox(HWND button) {
-    const auto isHeld = [&] { return eyes.capture() == button; };
-    await("the grip on a button", [&] {
-        const POINT place = steadyCenter(button);
-        uncover(::GetAncestor(button, GA_ROOT), place);
-        PressButton(place);
-        Soon([&] { return isHeld() || ::WindowFromPoint(place) != button; }, patience);
-        if (isHeld()) return true;
-        ReleaseButton({1, 1});
-        return false;
-    });
-    ReleaseButton(CenterOf(button));
-}
-
-/// Once the window has been at its place for a while: a new one may move under the pointer.
-POINT Hands::steadyCenter(HWND window) {
-    constexpr DWORD aWhile = 100;
-    POINT place = CenterOf(window);
-    Soon([&] {
-        const POINT before = place;
-        return !Soon(
-            [&] {
-                place = CenterOf(window);
-                return place.x != before.x || place.y != before.y;
-            },
-            aWhile);
-    });
-    return place;
+    const POINT place = CenterOf(button);
+    uncover(::GetAncestor(button, GA_ROOT), place);
+    Click(place);
 }
 
 void Hands::moveTo(HWND window, POINT place) {
-    steadyCenter(window);
     ::SetWindowPos(window, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    steadyCenter(window);
 }
 
 void Hands::playDialogs(const Action& action) {
@@ -105,7 +76,6 @@ void Hands::playDialogs(const Action& action) {
 }
 
 void Hands::vainClick(int mark) const {
-    steadyCenter(eyes.box());
     const POINT place = CenterOf(eyes.control(IDC_optColor + mark));
     // Not where the box lies over it.
     if (::GetAncestor(::WindowFromPoint(place), GA_ROOT) == eyes.main()) Click(place);

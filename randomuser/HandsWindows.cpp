@@ -96,14 +96,14 @@ void Hands::playWindows(const Action& action, const Model& before) {
     }
 }
 
-/// Puts a new window where no other of the program's lies over it: which one is on top is the window
-/// manager's affair, and late.
+/// Puts a new window where no other of the program's lies over it.
 void Hands::openPicker(int index) {
     constexpr std::array<POINT, 3> places = {{{0, 620}, {0, 850}, {900, 100}}};
     const bool isNew = eyes.picker(index) == nullptr;
     clickOn(grids.at(index).button);
     if (!isNew) return;
-    await("a palette window", [&] { return eyes.picker(index) != nullptr; });
+    // A new one goes to a place of its own when it is activated.
+    bringWindow([&] { return eyes.picker(index); });
     if (missing.empty()) moveTo(eyes.picker(index), places.at(index));
 }
 
