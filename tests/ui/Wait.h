@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "toolkit/Platform.h"
 
 /// Milliseconds since the system's start in which a processor, of all on average, had nothing to do.
@@ -56,15 +58,28 @@ private:
     ULONGLONG begin = ::GetTickCount64();
 };
 
+/// Between looks, ever longer: what comes soon is seen soon, and who waits long leaves the processors to others.
+class Pause {
+public:
+    void take() {
+        ::Sleep(length);
+        length = std::min(2 * length, longest);
+    }
+
+private:
+    static constexpr DWORD longest = 32;
+    DWORD length = 1;
+};
+
 /// Looks again and again until condition is true. False when it does not become true.
 template <class Condition>
 [[nodiscard]] bool Eventually(Condition condition) {
-    constexpr DWORD betweenLooks = 5;
     const Waiting waiting;
     const Patience patience;
+    Pause pause;
     while (!condition()) {
         if (patience.isOver()) return false;
-        ::Sleep(betweenLooks);
+        pause.take();
     }
     return true;
 }
@@ -72,7 +87,7 @@ template <class Condition>
 /// Looks again and again for as long as milliseconds, for something that must not happen. False when it does.
 template <class Condition>
 [[nodiscard]] bool Throughout(DWORD milliseconds, Condition condition) {
-    constexpr DWORD betweenLooks = 5;
+    constexpr DWORD betweenLooks = 20;
     const Waiting waiting;
     const ULONGLONG end = ::GetTickCount64() + milliseconds;
     while (::GetTickCount64() < end) {
