@@ -190,7 +190,8 @@ void Click(POINT screen) {
 
 /// Once no other window lies over it.
 void Click(HWND window) {
-    EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); })) << "covered";
+    EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); }))
+        << "covered by " << ClassOf(::WindowFromPoint(CenterOf(window)));
     Click(CenterOf(window));
 }
 
