@@ -58,7 +58,8 @@ private:
     ULONGLONG begin = ::GetTickCount64();
 };
 
-/// Between looks, ever longer: what comes soon is seen soon, and who waits long leaves the processors to others.
+/// Between looks, ever longer: what comes soon is seen soon, and who waits long leaves the processors to
+/// others.
 class Pause {
 public:
     void take() {
