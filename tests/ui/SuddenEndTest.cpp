@@ -98,9 +98,12 @@ TEST_F(EndWhileSaving, LeavesTheOldPaletteOrTheNewOne) {
         const Huevox huevox;
         const Milliseconds start = Now();
         Save(huevox, 1);
-        ASSERT_TRUE(Eventually([&] { return Content() != before; }));
+        // While the file is being replaced it cannot be opened.
+        ASSERT_TRUE(Eventually([&] {
+            after = Content();
+            return !after.empty() && after != before;
+        }));
         span = 3 * (Now() - start);
-        after = Content();
     }
     const int kills = CountKills(16);
     Killer killer;
