@@ -34,7 +34,11 @@ protected:
     }
     static void ExpectSaving(const Huevox& huevox) {
         Press('S', {VK_CONTROL});
-        EXPECT_TRUE(Eventually([] { return ContentOf(OtherPathOf("mine.txt")) != before; }));
+        // While the file is being replaced it cannot be opened.
+        EXPECT_TRUE(Eventually([] {
+            const std::string content = ContentOf(OtherPathOf("mine.txt"));
+            return !content.empty() && content != before;
+        }));
         EXPECT_EQ(huevox.dialogCount(), 0);
     }
 
