@@ -59,6 +59,8 @@ TEST_F(Sliders, DraggingUpdatesSampleBoxesBarAndPreviewOnTheWay) {
         })) << target
             << " and " << huevox.sliders().green;
     }
+    // Copied: nothing has moved for half a second.
+    ASSERT_BECOMES(ClipboardText() == huevox.text(IDC_lblClipboard), true);
     const int last = huevox.sliders().green;
     ReleaseButton(huevox.thumb(IDC_hsbGreen, 240));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, last, 0));
