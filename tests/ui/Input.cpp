@@ -103,7 +103,7 @@ void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
 void WaitForEndOfInput(HWND window) {
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
-    if (process == ::GetCurrentProcessId()) return;
+    if (!window || process == ::GetCurrentProcessId()) return;
     constexpr RECT corner = {0, 0, 1, 1};
     ::InvalidateRect(window, &corner, FALSE);
     EXPECT_TRUE(Eventually([window] { return !::GetUpdateRect(window, nullptr, FALSE); }))
