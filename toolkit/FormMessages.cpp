@@ -39,6 +39,7 @@ private:
     LRESULT onScalingWanted(int dpi, SIZE& size);
     LRESULT onScaling(int dpi, const RECT& suggested);
     void onActivate(int how);
+    void onEnable(bool isEnabled);
     bool onMouse();
     void onDestroyed();
 
@@ -83,7 +84,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), Window(lParam))) return brush;
             break;
         case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
-        case WM_ENABLE: modalHold.changed(window, wParam != FALSE); break;
+        case WM_ENABLE: onEnable(wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam)); break;
         case WM_SETCURSOR:
             if (onMouse()) return TRUE;
@@ -173,6 +174,12 @@ LRESULT Form::Receiver::onActivated() {
 LRESULT Form::Receiver::onFocusLeft(HWND left) {
     if (form.isActive) MoveFocusOn(form.window, left);
     return 0;
+}
+
+void Form::Receiver::onEnable(bool isEnabled) {
+    modalHold.changed(form.window, isEnabled);
+    // The tip of a form that a dialog holds would lie over the dialog.
+    if (form.toolTips) form.toolTips->setShown(isEnabled);
 }
 
 /// The mouse is over the form: the first time for a tool tip to be of use. True when the form gives the

@@ -24,6 +24,8 @@ void ToolTips::set(HWND control, int part, const RECT& area, const std::string& 
     replace(tool, text);
 }
 
+void ToolTips::setShown(bool isShown) const { ::SendMessageA(window, TTM_ACTIVATE, isShown, 0); }
+
 void ToolTips::replace(TTTOOLINFOA& tool, const std::string& text) const {
     std::string writable = text;
     tool.cbSize = sizeof tool;

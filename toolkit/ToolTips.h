@@ -14,6 +14,8 @@ public:
     void set(HWND control, const std::string& text) const;
     /// The tip of a part of a control, which the control knows by a number.
     void set(HWND control, int part, const RECT& area, const std::string& text) const;
+    /// While they are not shown, one that is on the screen goes as well.
+    void setShown(bool isShown) const;
 
 private:
     void replace(TTTOOLINFOA& tool, const std::string& text) const;

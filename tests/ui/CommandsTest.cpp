@@ -1,6 +1,7 @@
 // Which commands are there, and in which ways can they be run?
 #include <vector>
 
+#include "tests/ui/FormatDialog.h"
 #include "tests/ui/UiTest.h"
 
 namespace {
@@ -41,6 +42,15 @@ void ExpectTip(const Huevox& huevox, const Tip& tip) {
 TEST_F(Commands, EveryButtonHasItsToolTipWhileDisabledToo) {
     const Huevox huevox;
     for (const Tip& tip : tips) ExpectTip(huevox, tip);
+}
+
+TEST_F(Commands, ADialogTakesTheToolTipAway) {
+    const Huevox huevox;
+    ExpectTip(huevox, tips.front());
+    const FormatDialog dialog(huevox);
+    EXPECT_EQ(huevox.toolTip(), "");
+    dialog.click(IDC_cmdCancel);
+    ExpectTip(huevox, tips.front());
 }
 
 TEST_F(Commands, TheBarHasFourteenButtonsWithThreeSeparators) {
