@@ -42,11 +42,6 @@ std::string DotNetWin32(const Color& color) {
 }
 std::string Java(const Color& color) { return Joined({"Color(", Decimals(color, ","), ")"}); }
 
-constexpr std::size_t customIndex = 11;
-
-constexpr std::array<std::string (*)(const Color&), customIndex> renderers = {
-    HtmlHex, LowerCaseHtmlHex, VbHex, Vb, CppHex, DelphiHex, Long, DotNetHtml, DotNetOle, DotNetWin32, Java};
-
 void ReplaceEvery(std::string& text, std::string_view placeholder, std::string_view replacement) {
     std::size_t at = text.find(placeholder);
     while (at != std::string::npos) {
@@ -57,14 +52,25 @@ void ReplaceEvery(std::string& text, std::string_view placeholder, std::string_v
 
 }  // namespace
 
-constinit const std::array<std::string_view, 12> notationNames = {
-    "HTML Hex", "Lower Case HTML Hex", "VB Hex",   "VB",         "C++ Hex", "Delphi Hex",
-    "Access",   ".NET HTML",           ".NET OLE", ".NET Win32", "Java",    "Custom"};
+constinit const std::array<Notation, notationCount> notations = {{
+    {"HTML Hex", HtmlHex},
+    {"Lower Case HTML Hex", LowerCaseHtmlHex},
+    {"VB Hex", VbHex},
+    {"VB", Vb},
+    {"C++ Hex", CppHex},
+    {"Delphi Hex", DelphiHex},
+    {"Access", Long},
+    {".NET HTML", DotNetHtml},
+    {".NET OLE", DotNetOle},
+    {".NET Win32", DotNetWin32},
+    {"Java", Java},
+    {"Custom", nullptr},
+}};
 
 std::optional<std::string> ColorCode(int formatIndex, const Color& color, std::string_view customFormat) {
-    if (formatIndex < 0 || formatIndex >= static_cast<int>(notationNames.size())) return std::nullopt;
-    if (formatIndex == customIndex) return ExpandCustomFormat(customFormat, color);
-    return renderers[formatIndex](color);
+    if (formatIndex < 0 || formatIndex >= notationCount) return std::nullopt;
+    if (formatIndex == customNotation) return ExpandCustomFormat(customFormat, color);
+    return notations[formatIndex].render(color);
 }
 
 std::string ExpandCustomFormat(std::string_view customFormat, const Color& color) {

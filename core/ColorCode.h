@@ -8,11 +8,18 @@
 
 #include "core/Color.h"
 
-/// The twelve notations in the order of their format index, 0 to 11.
-extern const std::array<std::string_view, 12> notationNames;
+struct Notation {
+    std::string_view caption;
+    std::string (*render)(const Color& color);  ///< nullptr for "Custom", which expands the user's template
+};
 
-/// The colour (channels 0 to 255) in the notation of that format index; nothing for an index outside 0 to 11.
-/// customFormat is the template of the last notation, "Custom".
+/// A notation's place is its format index. The last is "Custom".
+extern const std::array<Notation, 12> notations;
+inline constexpr int notationCount = static_cast<int>(std::tuple_size_v<decltype(notations)>);
+inline constexpr int customNotation = notationCount - 1;
+
+/// The colour (channels 0 to 255) in the notation of that format index; nothing for an index that none has.
+/// customFormat is the template of "Custom".
 std::optional<std::string> ColorCode(int formatIndex, const Color& color, std::string_view customFormat);
 
 /// Replaces the ten placeholders one after another, each pass over the result of the one before: a

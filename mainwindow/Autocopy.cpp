@@ -38,7 +38,7 @@ Autocopy::Autocopy(Form& form, AppState& state, EditState& edit, CommandBar& com
 }
 
 void Autocopy::FillNotations() {
-    for (const std::string_view name : notationNames) lstAutocopy.addItem(name);
+    for (const Notation& notation : notations) lstAutocopy.addItem(notation.caption);
 }
 
 void Autocopy::DisablePaste() {

@@ -47,9 +47,9 @@ void AddCodeBlock(std::string& text, const std::string& name, const Color& color
                   std::string_view customFormat) {
     AddLine(text, "");
     AddLine(text, '[' + name + ']');
-    for (std::size_t index = 0; index < notationNames.size(); ++index) {
-        const std::string code = ColorCode(static_cast<int>(index), color, customFormat).value_or("");
-        AddLine(text, std::string(notationNames[index]) + (code.empty() ? ":" : ": ") + code);
+    for (int index = 0; index < notationCount; ++index) {
+        const std::string code = ColorCode(index, color, customFormat).value_or("");
+        AddLine(text, std::string(notations[index].caption) + (code.empty() ? ":" : ": ") + code);
     }
 }
 

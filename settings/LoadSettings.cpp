@@ -6,6 +6,10 @@
 #include "toolkit/CodePage.h"
 #include "toolkit/MsgBox.h"
 
+void StoreSetting(const RegistryStringHandler& registry, std::string_view valueName, std::string_view text) {
+    registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
+}
+
 void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner) {
     GetDesktopFolder(state.desktopFolder);
     const auto read = [&](std::string_view valueName) {
@@ -13,7 +17,7 @@ void LoadSettings(AppState& state, const RegistryStringHandler& registry, const 
     };
     if (TakeSettings(state, read, {IsValidFolder, IsLeadByte})) return;
     RestoreDefaultSettings(state, [&](std::string_view valueName, std::string_view text) {
-        registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
+        StoreSetting(registry, valueName, text);
     });
     MsgBox(&owner, messages::unusableSettings, MB_OK | MB_ICONINFORMATION, messages::title);
 }

@@ -1,5 +1,7 @@
-// How do the stored settings get into the program?
+// How do the stored settings get into the program and back?
 #pragma once
+
+#include <string_view>
 
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
@@ -7,6 +9,9 @@
 class Form;
 
 inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
+
+/// Stores the text of one setting.
+void StoreSetting(const RegistryStringHandler& registry, std::string_view valueName, std::string_view text);
 
 /// Reads, checks and takes all five settings. If one is unusable, all go back to their defaults, in the
 /// registry too, and the user is told over owner.

@@ -1,87 +1,80 @@
 #include "settings/SettingsRules.h"
 
-#include <array>
-#include <optional>
+#include <charconv>
+
+#include "core/ColorCode.h"
 
 namespace {
 
-constexpr int lastFormatIndex = 11;
-
-/// The number from 0 to last whose decimal text, without sign or padding, is text.
-std::optional<int> ExactNumber(std::string_view text, int last) {
+/// Whether text is a number from 0 to last in decimal digits, without sign or padding.
+template <int last>
+bool IsNumber(std::string_view text, const TextChecks&) {
     for (int number = 0; number <= last; ++number) {
-        if (text == std::to_string(number)) return number;
+        if (text == std::to_string(number)) return true;
     }
-    return std::nullopt;
+    return false;
 }
 
-bool TakeNumber(int& number, std::string_view text, int whenEmpty, int last) {
-    const std::optional<int> taken = text.empty() ? whenEmpty : ExactNumber(text, last);
-    if (taken) number = *taken;
-    return taken.has_value();
-}
-
-bool TakeCustomFormat(AppState& state, std::string_view text, const TextChecks& checks) {
-    if (CharacterCount(text, checks.isLeadByte) > customFormatLimit) return false;
-    state.settings.customFormat = text;
-    return true;
-}
-
-bool TakeFormatIndex(AppState& state, std::string_view text, const TextChecks&) {
-    if (!TakeNumber(state.settings.formatIndex, text, 0, lastFormatIndex)) return false;
-    if (!state.jsNamesOnly) state.savedFormatIndex = state.settings.formatIndex;
-    return true;
-}
-
-bool TakeSortIndex(AppState& state, std::string_view text, const TextChecks&) {
-    return TakeNumber(state.settings.sortIndex, text, 0, 1);
-}
-
-bool TakePromptToSave(AppState& state, std::string_view text, const TextChecks&) {
-    return TakeNumber(state.settings.promptToSave, text, 1, 1);
+bool IsShortEnough(std::string_view text, const TextChecks& checks) {
+    return CharacterCount(text, checks.isLeadByte) <= customFormatLimit;
 }
 
 /// The desktop folder stands in unchecked, so that a first start never finds its settings unusable.
-bool TakeStandardFolder(AppState& state, std::string_view text, const TextChecks& checks) {
-    if (!text.empty() && !checks.isValidFolder(text)) return false;
-    state.settings.standardFolder = text.empty() ? state.desktopFolder : std::string(text);
-    return true;
+bool IsFolder(std::string_view text, const TextChecks& checks) {
+    return text.empty() || checks.isValidFolder(text);
 }
 
-struct Setting {
-    std::string_view valueName;
-    bool (*take)(AppState& state, std::string_view text, const TextChecks& checks);
-    std::string (*text)(const AppState& state);
-};
+template <int Settings::*member>
+void HoldNumber(AppState& state, std::string_view text) {
+    std::from_chars(text.data(), text.data() + text.size(), state.settings.*member);
+}
 
-constexpr std::array<Setting, 5> allSettings = {{
-    {value_names::customFormat, TakeCustomFormat,
-     [](const AppState& state) { return state.settings.customFormat; }},
-    {value_names::formatIndex, TakeFormatIndex,
-     [](const AppState& state) { return std::to_string(state.savedFormatIndex); }},
-    {value_names::sortIndex, TakeSortIndex,
-     [](const AppState& state) { return std::to_string(state.settings.sortIndex); }},
-    {value_names::promptToSave, TakePromptToSave,
-     [](const AppState& state) { return std::to_string(state.settings.promptToSave); }},
-    {value_names::standardFolder, TakeStandardFolder,
-     [](const AppState& state) { return state.settings.standardFolder; }},
-}};
+template <int Settings::*member>
+std::string NumberText(const AppState& state) {
+    return std::to_string(state.settings.*member);
+}
+
+void HoldCustomFormat(AppState& state, std::string_view text) { state.settings.customFormat = text; }
+std::string CustomFormatText(const AppState& state) { return state.settings.customFormat; }
+
+void HoldFormatIndex(AppState& state, std::string_view text) {
+    HoldNumber<&Settings::formatIndex>(state, text);
+    if (!state.jsNamesOnly) state.savedFormatIndex = state.settings.formatIndex;
+}
+
+std::string SavedFormatIndexText(const AppState& state) { return std::to_string(state.savedFormatIndex); }
+
+void HoldStandardFolder(AppState& state, std::string_view text) {
+    state.settings.standardFolder = text.empty() ? state.desktopFolder : std::string(text);
+}
+std::string StandardFolderText(const AppState& state) { return state.settings.standardFolder; }
 
 }  // namespace
 
+constinit const std::array<Setting, 5> allSettings = {{
+    {value_names::customFormat, "", IsShortEnough, HoldCustomFormat, CustomFormatText},
+    {value_names::formatIndex, "0", IsNumber<notationCount - 1>, HoldFormatIndex, SavedFormatIndexText},
+    {value_names::sortIndex, "0", IsNumber<1>, HoldNumber<&Settings::sortIndex>,
+     NumberText<&Settings::sortIndex>},
+    {value_names::promptToSave, "1", IsNumber<1>, HoldNumber<&Settings::promptToSave>,
+     NumberText<&Settings::promptToSave>},
+    {value_names::standardFolder, "", IsFolder, HoldStandardFolder, StandardFolderText},
+}};
+
 bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks) {
     for (const Setting& setting : allSettings) {
-        if (!setting.take(state, read(setting.valueName), checks)) return false;
+        const std::string stored = read(setting.valueName);
+        const std::string_view text = stored.empty() ? setting.defaultText : std::string_view(stored);
+        if (!setting.isUsable(text, checks)) return false;
+        setting.hold(state, text);
     }
     return true;
 }
 
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write) {
-    state.settings = {.customFormat = "",
-                      .formatIndex = state.settings.formatIndex,
-                      .sortIndex = 0,
-                      .promptToSave = 1,
-                      .standardFolder = state.desktopFolder};
+    const int startNotation = state.settings.formatIndex;
+    for (const Setting& setting : allSettings) setting.hold(state, setting.defaultText);
+    state.settings.formatIndex = startNotation;
     state.savedFormatIndex = 0;
     for (const Setting& setting : allSettings) write(setting.valueName, setting.text(state));
 }

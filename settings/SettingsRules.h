@@ -1,6 +1,7 @@
 // Which settings are there, what is accepted for each, and what do they fall back to?
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -23,20 +24,33 @@ inline constexpr std::string_view standardFolder = "StandardFolder";
 /// The length of the longest custom template, in characters.
 inline constexpr std::size_t customFormatLimit = 250;
 
-/// Reads the text of one stored value; "" for a value that is missing.
-using SettingReader = std::function<std::string(std::string_view valueName)>;
-using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
-
 /// What the platform knows of a text.
 struct TextChecks {
     std::function<bool(std::string_view path)> isValidFolder;
     LeadByteTest isLeadByte;
 };
 
+/// One stored value.
+struct Setting {
+    std::string_view valueName;
+    std::string_view
+        defaultText;  ///< what a missing or empty value stands for; "": the desktop, for the folder
+    bool (*isUsable)(std::string_view text, const TextChecks& checks);
+    void (*hold)(AppState& state, std::string_view text);
+    std::string (*text)(const AppState& state);
+};
+
+/// In the order in which they are read and written.
+extern const std::array<Setting, 5> allSettings;
+
+/// Reads the text of one stored value; "" for a value that is missing.
+using SettingReader = std::function<std::string(std::string_view valueName)>;
+using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
+
 /// Takes the stored settings one after another into state; desktopFolder is already set. Returns false at the
 /// first unusable value: those before it have been taken, it and those after it have not.
 bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks);
 
-/// Puts every setting back to its default and writes all five. The start-up notation in memory keeps what it
-/// had.
+/// Puts every setting back to its default and writes all of them. The start-up notation in memory keeps what
+/// it had.
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write);

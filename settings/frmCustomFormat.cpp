@@ -81,8 +81,7 @@ void frmCustomFormat::InsertToken(const char* token) {
 
 void frmCustomFormat::cmdOK_Click() {
     state.settings.customFormat = txtFormat.text();
-    registry.WriteString(HKEY_CURRENT_USER, settingsKey, value_names::customFormat,
-                         state.settings.customFormat);
+    StoreSetting(registry, value_names::customFormat, state.settings.customFormat);
     // Last, because the main window shows the template again while this one closes.
     unload();
 }

@@ -42,7 +42,7 @@ frmOptions::frmOptions(Settings& settings, const RegistryStringHandler& registry
 
 void frmOptions::Form_Load() {
     isOpening = true;
-    for (const std::string_view name : notationNames) lstStandardFormat.addItem(name);
+    for (const Notation& notation : notations) lstStandardFormat.addItem(notation.caption);
     if (settings.sortIndex == 0) optAlphabetically.turnOn();
     if (settings.sortIndex == 1) optDotNet.turnOn();
     if (settings.promptToSave == 0) optNo.turnOn();
@@ -95,11 +95,8 @@ void frmOptions::TakeChoices() {
 
 /// The start-up notation in memory stays what it was at the start.
 void frmOptions::StoreSettings() const {
-    const auto store = [this](std::string_view valueName, const std::string& text) {
-        registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
-    };
-    store(value_names::formatIndex, std::to_string(lstStandardFormat.index()));
-    store(value_names::sortIndex, std::to_string(settings.sortIndex));
-    store(value_names::promptToSave, std::to_string(settings.promptToSave));
-    store(value_names::standardFolder, settings.standardFolder);
+    StoreSetting(registry, value_names::formatIndex, std::to_string(lstStandardFormat.index()));
+    StoreSetting(registry, value_names::sortIndex, std::to_string(settings.sortIndex));
+    StoreSetting(registry, value_names::promptToSave, std::to_string(settings.promptToSave));
+    StoreSetting(registry, value_names::standardFolder, settings.standardFolder);
 }

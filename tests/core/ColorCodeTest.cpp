@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -18,7 +19,7 @@ TEST(Notations, StandInTheOrderOfTheirFormatIndex) {
     const std::array<std::string_view, 12> expected = {
         "HTML Hex", "Lower Case HTML Hex", "VB Hex",   "VB",         "C++ Hex", "Delphi Hex",
         "Access",   ".NET HTML",           ".NET OLE", ".NET Win32", "Java",    "Custom"};
-    EXPECT_EQ(notationNames, expected);
+    EXPECT_TRUE(std::ranges::equal(notations, expected, {}, &Notation::caption));
 }
 
 TEST(ColorCode, RendersAmberInEveryNotation) {

@@ -62,13 +62,12 @@ std::vector<Cells> RowsOf(const char* page, std::size_t cellCount) {
 
 TEST(ExamplesOfTheHelp, EveryNotationIsShownAsItIsWritten) {
     const std::vector<Cells> rows = RowsOf("huevox9.htm", 2);
-    ASSERT_EQ(rows.size(), notationNames.size());
-    const int customIndex = static_cast<int>(rows.size()) - 1;
-    for (int index = 0; index < customIndex; ++index) {
-        EXPECT_EQ(rows[index][0], notationNames[index]);
+    ASSERT_EQ(rows.size(), notations.size());
+    for (int index = 0; index < customNotation; ++index) {
+        EXPECT_EQ(rows[index][0], notations[index].caption);
         EXPECT_EQ(ColorCode(index, example, ""), rows[index][1]);
     }
-    EXPECT_EQ(rows[customIndex][0], notationNames[customIndex]);
+    EXPECT_EQ(rows[customNotation][0], notations[customNotation].caption);
 }
 
 TEST(ExamplesOfTheHelp, EveryPlaceholderIsShownWithWhatItStandsFor) {

@@ -30,19 +30,20 @@ TEST(FormatExample, ShowsAmberInEachNotation) {
 }
 
 TEST(FormatExample, IsWhatTheNotationRendersButForTheSignOfHtml) {
-    const int count = static_cast<int>(notationNames.size());
-    for (int index = 0; index < count; ++index) {
+    for (int index = 0; index < notationCount; ++index) {
         const std::string sign = index < 2 ? "#" : "";
         EXPECT_EQ(sign + FormatExample(index, "<%LD%>"),
                   ColorCode(index, ColorOf(255, 204, 0), "<%LD%>").value())
-            << notationNames[index];
+            << notations[index].caption;
     }
-    EXPECT_EQ(Example(count), "");
+    EXPECT_EQ(Example(notationCount), "");
 }
 
 TEST(FormatExample, IsEmptyForAnIndexOutside0To11) {
     for (const int index : {-1, 12, INT_MIN, INT_MAX}) EXPECT_EQ(Example(index), "") << index;
 }
+
+TEST(FormatExample, OfATemplateKeepsItsFirstSign) { EXPECT_EQ(Custom("#%UR%"), "#FF"); }
 
 TEST(FormatExample, IsEmptyForAnEmptyTemplate) { EXPECT_EQ(Custom(""), ""); }
 

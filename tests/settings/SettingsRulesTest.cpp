@@ -9,19 +9,22 @@
 
 namespace {
 
+const TextChecks checks = {[](std::string_view path) { return path == "D:\\Palettes"; },
+                           [](char byte) { return byte == '\x83'; }};
+
 /// A registry of a map, with one folder that exists.
 struct Store {
     std::map<std::string, std::string, std::less<>> values;
     std::vector<std::pair<std::string, std::string>> written;
 
     bool take(AppState& state) {
-        return TakeSettings(state,
-                            [this](std::string_view name) {
-                                const auto found = values.find(name);
-                                return found == values.end() ? std::string() : found->second;
-                            },
-                            {[](std::string_view path) { return path == "D:\\Palettes"; },
-                             [](char byte) { return byte == '\x83'; }});
+        return TakeSettings(
+            state,
+            [this](std::string_view name) {
+                const auto found = values.find(name);
+                return found == values.end() ? std::string() : found->second;
+            },
+            checks);
     }
 
     void restore(AppState& state) {
@@ -44,6 +47,16 @@ bool IsUsable(const std::string& name, const std::string& text) {
 }
 
 }  // namespace
+
+TEST(EverySetting, TakesItsOwnDefaultAndWhatItIsStoredAs) {
+    for (const Setting& setting : allSettings) {
+        AppState state;
+        state.desktopFolder = "D:\\Palettes";
+        EXPECT_TRUE(setting.isUsable(setting.defaultText, checks)) << setting.valueName;
+        setting.hold(state, setting.defaultText);
+        EXPECT_TRUE(setting.isUsable(setting.text(state), checks)) << setting.valueName;
+    }
+}
 
 TEST(TakeSettings, AFirstStartReadsTheDefaults) {
     Store store;
@@ -132,6 +145,7 @@ TEST(TakeSettings, InJavaScriptNamesModeTheListsNotationIsLeft) {
 TEST(TakeSettings, StopsAtTheFirstUnusableValue) {
     Store store{{{"CustomFormat", "x"}, {"FormatIndex", "5"}, {"SortIndex", "9"}, {"PromptToSave", "0"}}, {}};
     AppState state = FreshState();
+    state.settings.promptToSave = 1;
     ASSERT_FALSE(store.take(state));
     EXPECT_EQ(state.settings.customFormat, "x");
     EXPECT_EQ(state.settings.formatIndex, 5);
