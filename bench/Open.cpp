@@ -44,7 +44,7 @@ double Milliseconds(void (*work)()) {
 
 /// Tells the cost of one kind of file, and returns the milliseconds that opening it takes.
 double TellFile(const std::string& kind, std::size_t kilobytes, std::string_view filler, int rounds) {
-    ReplaceText(path, PaletteOfSize(kilobytes * kilobyte, filler));
+    ReplaceTextFile(path, PaletteOfSize(kilobytes * kilobyte, filler));
     std::vector<double> plain;
     std::vector<double> opened;
     std::vector<double> ratios;

@@ -33,7 +33,7 @@ void BenchSave(const Effort& effort) {
         const double start = NowInMilliseconds();
         WritePlainly(text);
         const double between = NowInMilliseconds();
-        ReplaceText(saved, WritePaletteFile(palette, ""));
+        ReplaceTextFile(saved, WritePaletteFile(palette, ""));
         const double end = NowInMilliseconds();
         plain.push_back(between - start);
         program.push_back(end - between);

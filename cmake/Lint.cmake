@@ -29,9 +29,10 @@ if(WIN32)
         -DHUEVOX_VERSION="1.2.3" -DHUEVOX_NEWER_VERSION="1.2.4")
 endif()
 
-# tidy_sources(TARGET...): a target "tidy" that checks the targets' sources, and a test that builds it. The sources of
-# a room are read as one, because the platform's headers take far longer than the room.
-function(tidy_sources)
+# tidy_unit(NAME TARGET...): has the targets' sources checked, except those of units before. They are read as one, because
+# the headers of the platform and of the library take far longer than the sources.
+function(tidy_unit name)
+    get_property(read_before GLOBAL PROPERTY tidy_sources)
     set(sources "")
     foreach(target IN LISTS ARGN)
         get_target_property(target_sources ${target} SOURCES)
@@ -43,32 +44,27 @@ function(tidy_sources)
     endforeach()
     list(FILTER sources INCLUDE REGEX "[.]cpp$")
     list(REMOVE_DUPLICATES sources)
+    list(REMOVE_ITEM sources ${read_before})
+    set_property(GLOBAL APPEND PROPERTY tidy_sources ${sources})
 
-    set(rooms_read "")
-    foreach(source IN LISTS sources)
-        cmake_path(GET source PARENT_PATH room)
-        string(REPLACE "${PROJECT_SOURCE_DIR}/" "" room ${room})
-        string(REPLACE "/" "_" room ${room})
-        list(APPEND rooms_read ${room})
-        list(APPEND sources_${room} ${source})
-        string(APPEND text_${room} "#include \"${source}\"\n")
-    endforeach()
-    list(REMOVE_DUPLICATES rooms_read)
+    list(TRANSFORM sources REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE includes)
+    list(JOIN includes "" text)
+    set(whole ${PROJECT_BINARY_DIR}/tidy/${name}.cpp)
+    file(CONFIGURE OUTPUT ${whole} CONTENT "${text}" @ONLY)
+    add_custom_command(
+        OUTPUT ${whole}.checked
+        COMMAND ${CLANG_TIDY} --quiet --checks=-bugprone-suspicious-include
+            --config-file=${PROJECT_SOURCE_DIR}/.clang-tidy ${whole} -- ${tidy_arguments}
+        COMMAND ${CMAKE_COMMAND} -E touch ${whole}.checked
+        DEPENDS ${whole} ${sources} ${headers} ${PROJECT_SOURCE_DIR}/.clang-tidy
+        COMMENT "Checking ${name}"
+        VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY tidy_stamps ${whole}.checked)
+endfunction()
 
-    set(stamps "")
-    foreach(room IN LISTS rooms_read)
-        set(whole ${PROJECT_BINARY_DIR}/tidy/${room}.cpp)
-        file(CONFIGURE OUTPUT ${whole} CONTENT "${text_${room}}" @ONLY)
-        add_custom_command(
-            OUTPUT ${whole}.checked
-            COMMAND ${CLANG_TIDY} --quiet --checks=-bugprone-suspicious-include
-                --config-file=${PROJECT_SOURCE_DIR}/.clang-tidy ${whole} -- ${tidy_arguments}
-            COMMAND ${CMAKE_COMMAND} -E touch ${whole}.checked
-            DEPENDS ${whole} ${sources_${room}} ${headers} ${PROJECT_SOURCE_DIR}/.clang-tidy
-            COMMENT "Checking ${room}"
-            VERBATIM)
-        list(APPEND stamps ${whole}.checked)
-    endforeach()
+# tidy_test(): a target "tidy" that checks all units, and a test that builds it.
+function(tidy_test)
+    get_property(stamps GLOBAL PROPERTY tidy_stamps)
     add_custom_target(tidy DEPENDS ${stamps})
     get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
     # What the tests with windows leave of the processors is enough for it.

@@ -132,7 +132,7 @@ bool PaletteCommands::Save(const std::string& path) {
     filesLeftOpen.clear();
     const bool isSaved = Reported(form, messages::couldNotSave, [&] {
         const Palette saved = AsSaved(marks.Shown());
-        ReplaceText(path, WritePaletteFile(saved, state.settings.customFormat));
+        ReplaceTextFile(path, WritePaletteFile(saved, state.settings.customFormat));
         state.marks.savedMarkName = saved.names;
         state.marks.savedMarkColor = saved.colors;
     });

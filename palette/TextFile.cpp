@@ -103,7 +103,7 @@ void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view
     } while (size > 0 && take({block.data(), size}));
 }
 
-void ReplaceText(const std::string& path, std::string_view text) {
+void ReplaceTextFile(const std::string& path, std::string_view text) {
     // The platform lets some users replace a file that nobody may write.
     Check(!IsReadOnly(path));
     const std::string folder(FolderPart(path, IsLeadByte));

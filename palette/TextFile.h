@@ -17,4 +17,4 @@ void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view
 
 /// Puts the text in the place of the file, or makes the file, in one step. Throws std::runtime_error; then
 /// what was there before is there still, whole.
-void ReplaceText(const std::string& path, std::string_view text);
+void ReplaceTextFile(const std::string& path, std::string_view text);

@@ -1,4 +1,4 @@
-# Tests that need Windows: run under Wine, on a display with a window manager (scripts/desktop).
+# Tests that need Windows: run under Wine, on a display of their own (scripts/desktop).
 add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
 # In one process with the code: the toolkit's contract, and what talks to the platform.
@@ -200,5 +200,10 @@ add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py $
 
 add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
 
-tidy_sources(huevox_pure huevox_toolkit huevox_program Huevox Planted program_tests ui_driver ui_tests StandIn StandInViewer TwoColors
-    installer_tests soak_model soak huevox_bench)
+tidy_unit(program huevox_pure huevox_toolkit huevox_program Huevox)
+tidy_unit(ui_tests ui_driver ui_tests StandIn StandInViewer TwoColors)
+tidy_unit(program_tests program_tests Planted)
+tidy_unit(installer_tests installer_tests)
+tidy_unit(soak soak_model soak)
+tidy_unit(bench huevox_bench)
+tidy_test()

@@ -11,7 +11,7 @@ const std::string websafe = "The selected colour is a websafe colour.";
 const std::string notWebsafe = "The selected colour is not a websafe colour.";
 const std::string failsafe = "The selected colour will look good in failsafe mode.";
 const std::string notFailsafe = "The selected colour will not look good in failsafe mode.";
-const std::string notJavaScript = "The selected colour is not a JavaScript colour.";
+const std::string notJavaScriptColor = "The selected colour is not a JavaScript colour.";
 
 std::string JavaScript(const std::string& name) {
     return "The selected colour is a JavaScript colour.\r\n\r\n"
@@ -41,12 +41,12 @@ TEST(ColorReport, OfAWebsafeFailsafeJavaScriptColorWithAnotherNameHasFiveParagra
 
 TEST(ColorReport, OfAColorInNoTableIsThreeTimesNegative) {
     const ColorReport report = Report(0x12, 0x34, 0x56, "Type a colour name");
-    EXPECT_EQ(report.text, notWebsafe + gap + notFailsafe + gap + notJavaScript);
+    EXPECT_EQ(report.text, notWebsafe + gap + notFailsafe + gap + notJavaScriptColor);
     EXPECT_EQ(report.offeredName, "");
 }
 
 TEST(ColorReport, TellsAWebsafeColorThatIsNothingElse) {
-    EXPECT_EQ(Report(0x33, 0x33, 0x33, "").text, websafe + gap + notFailsafe + gap + notJavaScript);
+    EXPECT_EQ(Report(0x33, 0x33, 0x33, "").text, websafe + gap + notFailsafe + gap + notJavaScriptColor);
 }
 
 TEST(ColorReport, TellsAFailsafeJavaScriptColorThatIsNotWebsafe) {
@@ -97,7 +97,7 @@ TEST(ColorReport, KnowsTheFirstAndTheLastName) {
 }
 
 TEST(ColorReport, NoChannelMayBeOff) {
-    const std::string negative = notWebsafe + gap + notFailsafe + gap + notJavaScript;
+    const std::string negative = notWebsafe + gap + notFailsafe + gap + notJavaScriptColor;
     for (const Color& color : {ColorOf(254, 255, 255), ColorOf(255, 254, 255), ColorOf(255, 255, 254)}) {
         EXPECT_EQ(ReportColor(Pack(color), "").text, negative);
     }

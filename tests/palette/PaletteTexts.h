@@ -10,8 +10,7 @@
 
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
-
-inline bool NoLeadByte(char) { return false; }
+#include "tests/support/LeadBytes.h"
 
 inline std::string FileText(const std::string& name) {
     std::ifstream file(std::string(HUEVOX_TEST_FILES) + name, std::ios::binary);

@@ -4,10 +4,9 @@
 
 #include <string>
 
-namespace {
+#include "tests/support/LeadBytes.h"
 
-bool NoLeadByte(char) { return false; }
-bool IsLeadByte83(char byte) { return byte == '\x83'; }
+namespace {
 
 /// The new template with "|" for the caret; "-" when nothing may be inserted.
 std::string Inserted(std::string_view text, std::size_t start, std::size_t length, std::string_view token) {

@@ -4,13 +4,13 @@
 
 namespace {
 
-struct Shown {
+struct ShownPalette {
     Marks marks;
     MarkNames names;
 };
 
-Shown NewPalette() {
-    Shown palette;
+ShownPalette NewPalette() {
+    ShownPalette palette;
     LoadDefaultMarks(palette.marks);
     palette.marks.markColor = palette.marks.savedMarkColor = palette.marks.defaultMarkColor;
     palette.names = palette.marks.savedMarkName = palette.marks.defaultMarkName;
@@ -32,14 +32,14 @@ TEST(LoadDefaultMarks, AreRedYellowGreenCyanBlueAndMagentaWithoutNames) {
 }
 
 TEST(IsPaletteChanged, ANewPaletteIsUnchanged) {
-    const Shown palette = NewPalette();
+    const ShownPalette palette = NewPalette();
     EXPECT_FALSE(IsPaletteChanged(palette.marks, palette.names));
 }
 
 TEST(IsPaletteChanged, AnyChannelOfAnyMarkCounts) {
     for (int mark = 0; mark < markCount; ++mark) {
         for (int channel = 0; channel < 3; ++channel) {
-            Shown palette = NewPalette();
+            ShownPalette palette = NewPalette();
             Color& color = palette.marks.markColor[mark];
             int& value = channel == 0 ? color.red : channel == 1 ? color.green : color.blue;
             value ^= 1;
@@ -50,14 +50,14 @@ TEST(IsPaletteChanged, AnyChannelOfAnyMarkCounts) {
 
 TEST(IsPaletteChanged, AnyNameCounts) {
     for (int mark = 0; mark < markCount; ++mark) {
-        Shown palette = NewPalette();
+        ShownPalette palette = NewPalette();
         palette.names[mark] = "navy";
         EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names)) << mark;
     }
 }
 
 TEST(IsPaletteChanged, ThePlaceholdersAreEqualInEitherOrder) {
-    Shown palette = NewPalette();
+    ShownPalette palette = NewPalette();
     palette.names[3] = "Not JavaScript colour";
     EXPECT_FALSE(IsPaletteChanged(palette.marks, palette.names));
     palette.marks.savedMarkName[3] = "Not JavaScript colour";
@@ -66,7 +66,7 @@ TEST(IsPaletteChanged, ThePlaceholdersAreEqualInEitherOrder) {
 }
 
 TEST(IsPaletteChanged, APlaceholderAndANameDiffer) {
-    Shown palette = NewPalette();
+    ShownPalette palette = NewPalette();
     palette.marks.savedMarkName[0] = "navy";
     EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names));
     palette.names[0] = "Not JavaScript colour";
@@ -74,7 +74,7 @@ TEST(IsPaletteChanged, APlaceholderAndANameDiffer) {
 }
 
 TEST(IsPaletteChanged, NavyRetypedAsNavyWithACapitalIsAChange) {
-    Shown palette = NewPalette();
+    ShownPalette palette = NewPalette();
     palette.marks.savedMarkName[0] = "navy";
     palette.names[0] = "Navy";
     EXPECT_TRUE(IsPaletteChanged(palette.marks, palette.names));

@@ -2,12 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-bool NoLeadByte(char) { return false; }
-bool IsLeadByte83(char byte) { return byte == '\x83'; }
-
-}  // namespace
+#include "tests/support/LeadBytes.h"
 
 TEST(GetFileNamePart, IsWhatFollowsTheLastDelimiter) {
     EXPECT_EQ(GetFileNamePart("D:\\pal\\Reds.txt", "\\", NoLeadByte), "Reds.txt");
