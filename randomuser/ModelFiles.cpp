@@ -162,8 +162,12 @@ void Model::openFile(const std::string& path) {
 }
 
 void Model::showPalette(const SixMarks& palette, const std::string& name) {
+    const auto shown = marks.names;
     marks = palette;
-    std::ranges::replace(marks.names, notJavaScript, noName);
+    for (std::size_t mark = 0; mark < marks.names.size(); ++mark) {
+        // A box that shows the placeholder already is not told of a change that would take it away.
+        if (marks.names[mark] == notJavaScript && shown[mark] != notJavaScript) marks.names[mark] = noName;
+    }
     saved = marks;
     paletteName = name;
     selected = 0;

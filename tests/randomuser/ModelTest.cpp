@@ -32,6 +32,15 @@ TEST_F(SoakModel, TurnsTheTemporaryNameBackAtTheFirstChange) {
     EXPECT_FALSE(model.look().highlighted[0]);
 }
 
+TEST_F(SoakModel, LeavesTheTemporaryNameWhereABoxShowsItBeforeTheFileDoes) {
+    open("some.txt");
+    EXPECT_EQ(model.look().marks.names[5], noName);
+    play({Kind::findNames});
+    EXPECT_EQ(model.look().marks.names[5], notJavaScript);
+    open("some.txt");
+    EXPECT_EQ(model.look().marks.names[5], notJavaScript);
+}
+
 TEST_F(SoakModel, KeepsTheModeWhileTypedValuesWait) {
     play({Kind::typeValue, 1, 0, "0f"});
     EXPECT_EQ(model.look().values[1], "0F");
