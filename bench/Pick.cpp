@@ -3,7 +3,7 @@
 
 #include "bench/Benches.h"
 #include "bench/RunningProgram.h"
-#include "mainwindow/ScreenPixels.h"
+#include "mainwindow/panels/ScreenPixels.h"
 #include "resources/resource.h"
 
 namespace {

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <system_error>
 
+#include "core/Characters.h"
+
 namespace {
 
 constexpr std::string_view decimalDigits = "0123456789";
@@ -27,12 +29,6 @@ consteval std::array<std::string_view, pairCount> BuildHexPairs() {
     std::array<std::string_view, pairCount> pairs;
     for (std::size_t i = 0; i < pairCount; ++i) pairs[i] = std::string_view(&joinedHexPairs[2 * i], 2);
     return pairs;
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::string UpperCased(std::string_view text) {

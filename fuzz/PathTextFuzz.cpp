@@ -1,6 +1,6 @@
 // Any text may be a path: taken apart, its pieces are whole characters and make up the path again.
+#include "core/PathText.h"
 #include "fuzz/FuzzInput.h"
-#include "support/PathText.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "help/HTMLHelp.h"
 #include "help/frmAbout.h"
-#include "mainwindow/CommandBar.h"
+#include "mainwindow/panels/CommandBar.h"
 
 /// Help, home page and about box.
 class HelpCommands {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "support/PathText.h"
+#include "core/PathText.h"
 #include "support/Trap.h"
 #include "toolkit/CodePage.h"
 

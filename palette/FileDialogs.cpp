@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/PathText.h"
 #include "settings/Folders.h"
-#include "support/PathText.h"
 #include "toolkit/CodePage.h"
 #include "toolkit/SystemFunction.h"
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "support/PathText.h"
+#include "core/PathText.h"
 #include "toolkit/CodePage.h"
 #include "toolkit/Handles.h"
 

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/PathText.h"
 #include "palette/FirstLines.h"
 #include "palette/Notepad.h"
 #include "palette/PaletteFile.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "support/PathText.h"
 #include "support/Trap.h"
 #include "toolkit/CodePage.h"
 #include "toolkit/MsgBox.h"

@@ -5,11 +5,11 @@
 #include <string_view>
 #include <vector>
 
-#include "mainwindow/ChannelEditors.h"
-#include "mainwindow/ColorMarks.h"
-#include "mainwindow/ColorTarget.h"
-#include "mainwindow/CommandBar.h"
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ColorMarks.h"
+#include "mainwindow/panels/ColorTarget.h"
+#include "mainwindow/panels/CommandBar.h"
+#include "mainwindow/panels/EditState.h"
 #include "palette/FileDialogs.h"
 #include "palette/TextFile.h"
 #include "support/AppState.h"

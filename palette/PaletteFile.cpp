@@ -53,15 +53,9 @@ void AddCodeBlock(std::string& text, const std::string& name, const Color& color
     }
 }
 
-std::string_view WithoutBlanks(std::string_view text) {
-    const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
-    const std::size_t end = text.find_last_not_of(' ') + 1;
-    return text.substr(first, end - std::min(first, end));
-}
-
 /// Blanks, an optional sign, decimal digits, blanks; nothing for any other text, or beyond 32 bits.
 std::optional<std::int32_t> ParseNumber(std::string_view text) {
-    text = WithoutBlanks(text);
+    text = TrimBlanks(text);
     const bool hasPlus = text.starts_with('+');
     if (hasPlus) text.remove_prefix(1);
     if (hasPlus && text.starts_with('-')) return std::nullopt;

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "support/Characters.h"
+#include "core/Characters.h"
 #include "support/Marks.h"
 
 /// The palette as a file keeps it: a name that only stands in until the next edit is no name.

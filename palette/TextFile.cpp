@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "support/PathText.h"
+#include "core/PathText.h"
 #include "toolkit/CodePage.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // What does the window of the 16 failsafe colours do?
 #pragma once
 
-#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/panels/ChannelEditors.h"
 #include "pickers/SwatchWindow.h"
 #include "toolkit/CellStrip.h"
 

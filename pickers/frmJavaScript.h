@@ -1,7 +1,7 @@
 // What does the window of the 140 JavaScript colours do?
 #pragma once
 
-#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/panels/ChannelEditors.h"
 #include "pickers/SwatchWindow.h"
 #include "support/AppState.h"
 #include "toolkit/CellStrip.h"

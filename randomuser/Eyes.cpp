@@ -1,7 +1,7 @@
 #include "randomuser/Eyes.h"
 
 #include "bench/Figures.h"
-#include "mainwindow/ColorRamp.h"
+#include "mainwindow/panels/ColorRamp.h"
 #include "randomuser/OtherProgram.h"
 #include "resources/resource.h"
 #include "tests/toolkit/WindowText.h"

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "mainwindow/ColorRamp.h"
+#include "mainwindow/panels/ColorRamp.h"
 #include "randomuser/Eyes.h"
 #include "randomuser/Facts.h"
 #include "randomuser/Model.h"

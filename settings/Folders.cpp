@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <memory>
 
-#include "support/PathText.h"
+#include "core/PathText.h"
 #include "toolkit/CodePage.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/Characters.h"
 #include "support/AppState.h"
-#include "support/Characters.h"
 
 /// What the settings are called where they are stored.
 namespace value_names {

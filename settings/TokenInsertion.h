@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "support/Characters.h"
+#include "core/Characters.h"
 
 struct TokenInsertion {
     std::string text;   ///< the new template

@@ -28,7 +28,7 @@ def menu_items():
 
 
 def captions_and_sentences():
-    sources = [*project.glob("*/*.rc"), project / "support/Messages.h", project / "mainwindow/CommandBar.cpp",
+    sources = [*project.glob("*/*.rc"), project / "support/Messages.h", project / "mainwindow/panels/CommandBar.cpp",
                project / "core/ColorCode.cpp", project / "pickers/frmJavaScript.cpp"]
     texts = [text for source in sources for text in string_literals(source)]
     paragraphs = [" ".join(paragraph.split()) for text in texts for paragraph in text.split("\n\n")]
@@ -66,7 +66,7 @@ class Words(unittest.TestCase):
             self.assertTrue([text for tag, _, text in row if tag == "a"], f"{caption} leads to no page")
 
     def test_the_tool_bar_has_the_commands_with_a_shortcut_as_the_help_says(self):
-        bar = (project / "mainwindow/CommandBar.cpp").read_text(encoding="ascii")
+        bar = (project / "mainwindow/panels/CommandBar.cpp").read_text(encoding="ascii")
         commands = re.findall(r'MENUITEM "([^"]*)", (\w+)', main_script)
         with_shortcut = {command for text, command in commands if "\\t" in text}
         self.assertEqual(with_shortcut, set(re.findall(r"\{(IDM_\w+),", bar)))

@@ -62,7 +62,7 @@ def chosen(changes, words):
 def tests_of(project):
     """The names of all tests there are."""
     names = set()
-    for source in (project / "tests").glob("*/*.cpp"):
+    for source in (project / "tests").rglob("*.cpp"):
         found = re.findall(r"^TEST(_F)?\((\w+),\s*(\w+)\)", source.read_text(encoding="utf-8"), re.MULTILINE)
         names.update(f"{suite}.{test}" for _, suite, test in found)
     return names

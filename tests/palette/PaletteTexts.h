@@ -10,7 +10,7 @@
 
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
-#include "tests/support/LeadBytes.h"
+#include "tests/core/LeadBytes.h"
 
 inline std::string FileText(const std::string& name) {
     std::ifstream file(std::string(HUEVOX_TEST_FILES) + name, std::ios::binary);

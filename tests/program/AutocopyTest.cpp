@@ -1,5 +1,5 @@
 // The preview without a chosen notation, which the running program has only before it is first activated.
-#include "mainwindow/Autocopy.h"
+#include "mainwindow/panels/Autocopy.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The marks' rules for the temporary placeholder, which no user can type.
-#include "mainwindow/ColorMarks.h"
+#include "mainwindow/panels/ColorMarks.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/support/LeadBytes.h"
+#include "tests/core/LeadBytes.h"
 
 namespace {
 

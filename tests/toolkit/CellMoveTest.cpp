@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "mainwindow/ColorRamp.h"
+#include "mainwindow/panels/ColorRamp.h"
 #include "pickers/SwatchPlaces.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "mainwindow/ChannelEditors.h"
+#include "mainwindow/panels/ChannelEditors.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "support/PathText.h"
+#include "core/PathText.h"
 
 std::size_t LastPlaceOf(std::string_view delimiter, std::string_view text, LeadByteTest isLeadByte) {
     std::size_t last = std::string_view::npos;

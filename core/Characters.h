@@ -1,4 +1,4 @@
-// Where do the characters of a text begin, in a code page where some take two bytes?
+// Where do the characters of a text begin and end, in a code page where some take two bytes?
 #pragma once
 
 #include <cstddef>
@@ -18,3 +18,6 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadB
 
 /// The last character; "" for "".
 std::string_view LastCharacter(std::string_view text, LeadByteTest isLeadByte);
+
+/// Without the blanks on each side.
+std::string_view TrimBlanks(std::string_view text);

@@ -4,10 +4,10 @@
 #include <optional>
 
 #include "core/Color.h"
-#include "mainwindow/ChannelEditors.h"
-#include "mainwindow/ColorMarks.h"
-#include "mainwindow/CommandBar.h"
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ColorMarks.h"
+#include "mainwindow/panels/CommandBar.h"
+#include "mainwindow/panels/EditState.h"
 #include "support/AppState.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/Label.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "support/Characters.h"
+#include "core/Characters.h"
 
 /// Where the delimiter stands last; npos when it is empty or does not occur.
 std::size_t LastPlaceOf(std::string_view delimiter, std::string_view text, LeadByteTest isLeadByte);

@@ -1,4 +1,4 @@
-#include "mainwindow/CommandBar.h"
+#include "mainwindow/panels/CommandBar.h"
 
 #include <array>
 

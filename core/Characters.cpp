@@ -1,4 +1,4 @@
-#include "support/Characters.h"
+#include "core/Characters.h"
 
 #include <algorithm>
 
@@ -23,4 +23,10 @@ std::string_view LastCharacter(std::string_view text, LeadByteTest isLeadByte) {
     std::size_t last = 0;
     for (std::size_t at = 0; at < text.size(); at += CharacterLength(text, at, isLeadByte)) last = at;
     return text.substr(last);
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }

@@ -1,4 +1,4 @@
-#include "mainwindow/ClipTicks.h"
+#include "mainwindow/panels/ClipTicks.h"
 
 #include <gtest/gtest.h>
 

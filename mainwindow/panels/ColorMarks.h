@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "mainwindow/ChannelEditors.h"
-#include "mainwindow/ColorTarget.h"
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ColorTarget.h"
+#include "mainwindow/panels/EditState.h"
 #include "support/Marks.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/ControlArray.h"

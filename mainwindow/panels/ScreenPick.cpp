@@ -1,4 +1,4 @@
-#include "mainwindow/ScreenPick.h"
+#include "mainwindow/panels/ScreenPick.h"
 
 #include "resources/resource.h"
 #include "support/Messages.h"

@@ -1,4 +1,4 @@
-#include "mainwindow/ColorReport.h"
+#include "mainwindow/panels/ColorReport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "mainwindow/ColorRamp.h"
+#include "mainwindow/panels/ColorRamp.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // How does the user learn what is special about the marks' colours, and name the marks after them?
 #pragma once
 
-#include "mainwindow/ColorMarks.h"
-#include "mainwindow/CommandBar.h"
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/ColorMarks.h"
+#include "mainwindow/panels/CommandBar.h"
+#include "mainwindow/panels/EditState.h"
 #include "support/AppState.h"
 #include "toolkit/Form.h"
 

@@ -1,4 +1,4 @@
-#include "mainwindow/ColorBar.h"
+#include "mainwindow/panels/ColorBar.h"
 
 #include <algorithm>
 #include <vector>

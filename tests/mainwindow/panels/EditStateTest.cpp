@@ -1,4 +1,4 @@
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/EditState.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "mainwindow/ChannelEditors.h"
-#include "mainwindow/ColorRamp.h"
+#include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ColorRamp.h"
 #include "toolkit/CellStrip.h"
 
 /// The current colour in 256 steps of brightness, each of which the user can make the current one.

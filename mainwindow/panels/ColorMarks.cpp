@@ -1,4 +1,4 @@
-#include "mainwindow/ColorMarks.h"
+#include "mainwindow/panels/ColorMarks.h"
 
 #include <optional>
 

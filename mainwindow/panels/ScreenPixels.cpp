@@ -1,4 +1,4 @@
-#include "mainwindow/ScreenPixels.h"
+#include "mainwindow/panels/ScreenPixels.h"
 
 Color ScreenPixels::at(POINT place) {
     if (contexts < mostContexts) {

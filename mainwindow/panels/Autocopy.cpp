@@ -1,4 +1,4 @@
-#include "mainwindow/Autocopy.h"
+#include "mainwindow/panels/Autocopy.h"
 
 #include "core/ColorCode.h"
 #include "core/ColorTables.h"

@@ -1,8 +1,8 @@
-#include "mainwindow/ColorProperties.h"
+#include "mainwindow/panels/ColorProperties.h"
 
 #include <string_view>
 
-#include "mainwindow/ColorReport.h"
+#include "mainwindow/panels/ColorReport.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
 #include "toolkit/MsgBox.h"

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "core/Color.h"
-#include "mainwindow/ColorTarget.h"
-#include "mainwindow/EditState.h"
+#include "mainwindow/panels/ColorTarget.h"
+#include "mainwindow/panels/EditState.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/ControlArray.h"
 #include "toolkit/ScrollBar.h"

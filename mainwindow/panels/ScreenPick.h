@@ -4,10 +4,10 @@
 #include <optional>
 
 #include "core/Color.h"
-#include "mainwindow/ChannelEditors.h"
-#include "mainwindow/ColorMarks.h"
-#include "mainwindow/CommandBar.h"
-#include "mainwindow/ScreenPixels.h"
+#include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ColorMarks.h"
+#include "mainwindow/panels/CommandBar.h"
+#include "mainwindow/panels/ScreenPixels.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/PictureBox.h"
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "mainwindow/ClipTicks.h"
+#include "mainwindow/panels/ClipTicks.h"
 
 /// False until loading has ended, where nothing else is said.
 struct EditState {

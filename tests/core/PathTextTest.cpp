@@ -1,8 +1,8 @@
-#include "support/PathText.h"
+#include "core/PathText.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/support/LeadBytes.h"
+#include "tests/core/LeadBytes.h"
 
 TEST(GetFileNamePart, IsWhatFollowsTheLastDelimiter) {
     EXPECT_EQ(GetFileNamePart("D:\\pal\\Reds.txt", "\\", NoLeadByte), "Reds.txt");
