@@ -162,11 +162,12 @@ void Model::openFile(const std::string& path) {
 }
 
 void Model::showPalette(const SixMarks& palette, const std::string& name) {
-    const auto shown = marks.names;
+    const SixMarks shown = marks;
     marks = palette;
     for (std::size_t mark = 0; mark < marks.names.size(); ++mark) {
         // A box that shows the placeholder already is not told of a change that would take it away.
-        if (marks.names[mark] == notJavaScript && shown[mark] != notJavaScript) marks.names[mark] = noName;
+        if (marks.names[mark] == notJavaScript && shown.names[mark] != notJavaScript)
+            marks.names[mark] = noName;
     }
     saved = marks;
     paletteName = name;
