@@ -33,8 +33,7 @@ struct TextChecks {
 /// One stored value.
 struct Setting {
     std::string_view valueName;
-    std::string_view
-        defaultText;  ///< what a missing or empty value stands for; "": the desktop, for the folder
+    std::string_view defaultText;  ///< what a missing or empty value stands for; a folder's "": the desktop
     bool (*isUsable)(std::string_view text, const TextChecks& checks);
     void (*hold)(AppState& state, std::string_view text);
     std::string (*text)(const AppState& state);

@@ -31,6 +31,19 @@ std::string_view Found(int red, int green, int blue) {
     return FindJavaScriptName(Pack(ColorOf(red, green, blue)));
 }
 
+/// Of a colour with two names, the report tells both and offers the first only.
+void ExpectTwins(ColorReport (*report)(std::string_view name), const std::string& first,
+                 const std::string& second) {
+    const std::string names = JavaScript(first + " (also known as " + second + ")");
+    const std::string text = websafe + gap + failsafe + gap + names;
+    const ColorReport named = report(first);
+    EXPECT_EQ(named.text, text);
+    EXPECT_EQ(named.offeredName, "");
+    const ColorReport twin = report(second);
+    EXPECT_EQ(twin.text, text + gap + Question(first));
+    EXPECT_EQ(twin.offeredName, first);
+}
+
 }  // namespace
 
 TEST(ColorReport, OfAWebsafeFailsafeJavaScriptColorWithAnotherNameHasFiveParagraphs) {
@@ -72,23 +85,11 @@ TEST(ColorReport, OffersTheNameToOneThatDiffersInTheSlightest) {
 }
 
 TEST(ColorReport, OfCyanNamesItsTwinAndOffersCyanOnly) {
-    const ColorReport named = Report(0x00, 0xFF, 0xFF, "cyan");
-    const std::string text = websafe + gap + failsafe + gap + JavaScript("cyan (also known as aqua)");
-    EXPECT_EQ(named.text, text);
-    EXPECT_EQ(named.offeredName, "");
-    const ColorReport twin = Report(0x00, 0xFF, 0xFF, "aqua");
-    EXPECT_EQ(twin.text, text + gap + Question("cyan"));
-    EXPECT_EQ(twin.offeredName, "cyan");
+    ExpectTwins([](auto name) { return Report(0x00, 0xFF, 0xFF, name); }, "cyan", "aqua");
 }
 
 TEST(ColorReport, OfMagentaNamesItsTwinAndOffersMagentaOnly) {
-    const ColorReport named = Report(0xFF, 0x00, 0xFF, "magenta");
-    const std::string text = websafe + gap + failsafe + gap + JavaScript("magenta (also known as fuchsia)");
-    EXPECT_EQ(named.text, text);
-    EXPECT_EQ(named.offeredName, "");
-    const ColorReport twin = Report(0xFF, 0x00, 0xFF, "fuchsia");
-    EXPECT_EQ(twin.text, text + gap + Question("magenta"));
-    EXPECT_EQ(twin.offeredName, "magenta");
+    ExpectTwins([](auto name) { return Report(0xFF, 0x00, 0xFF, name); }, "magenta", "fuchsia");
 }
 
 TEST(ColorReport, KnowsTheFirstAndTheLastName) {
