@@ -1,7 +1,7 @@
 // Which benchmarks are there? Each tells its figures.
 #pragma once
 
-#include "bench/Figures.h"
+#include "tests/driver/Figures.h"
 
 void BenchStart(const Effort& effort);
 void BenchChange(const Effort& effort);

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "mainwindow/frmMain.h"
-#include "randomuser/Usage.h"
 #include "support/AppState.h"
 #include "support/FatalError.h"
+#include "tests/driver/Usage.h"
 #include "toolkit/Platform.h"
 #include "toolkit/Pump.h"
 

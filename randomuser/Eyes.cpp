@@ -1,11 +1,11 @@
 #include "randomuser/Eyes.h"
 
-#include "bench/Figures.h"
 #include "mainwindow/panels/ColorRamp.h"
 #include "randomuser/OtherProgram.h"
 #include "resources/resource.h"
+#include "tests/driver/Figures.h"
+#include "tests/driver/Input.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Input.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "randomuser/Model.h"
 #include "randomuser/Screen.h"
 #include "resources/resource.h"
-#include "tests/ui/Input.h"
+#include "tests/driver/Input.h"
 
 namespace {
 

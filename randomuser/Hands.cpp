@@ -4,7 +4,7 @@
 
 #include "randomuser/Soon.h"
 #include "resources/resource.h"
-#include "tests/ui/Input.h"
+#include "tests/driver/Input.h"
 
 namespace {
 

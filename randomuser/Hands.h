@@ -9,7 +9,7 @@
 #include "randomuser/Model.h"
 #include "randomuser/OtherProgram.h"
 #include "randomuser/Soon.h"
-#include "tests/ui/Huevox.h"
+#include "tests/driver/Huevox.h"
 
 /// Acts on the running program. What depends on its state is taken from the model before the action.
 class Hands {

@@ -2,7 +2,7 @@
 
 #include "randomuser/Hands.h"
 #include "resources/resource.h"
-#include "tests/ui/Input.h"
+#include "tests/driver/Input.h"
 
 void Hands::choosePath(const std::string& path, bool isForNotepad) {
     const HWND field = Eyes::nameField(eyes.box());

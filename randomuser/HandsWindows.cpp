@@ -2,9 +2,9 @@
 
 #include "randomuser/Hands.h"
 #include "resources/resource.h"
-#include "tests/ui/Input.h"
-#include "tests/ui/PickerWindow.h"
-#include "tests/ui/UiTest.h"
+#include "tests/driver/Input.h"
+#include "tests/driver/PickerWindow.h"
+#include "tests/driver/UiTest.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <utility>
 
-#include "bench/Figures.h"
 #include "randomuser/Soon.h"
-#include "tests/ui/Palettes.h"
+#include "tests/driver/Figures.h"
+#include "tests/driver/Palettes.h"
 
 namespace {
 

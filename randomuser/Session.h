@@ -9,8 +9,8 @@
 #include "randomuser/Hands.h"
 #include "randomuser/Model.h"
 #include "randomuser/OtherProgram.h"
-#include "randomuser/Usage.h"
-#include "tests/ui/Huevox.h"
+#include "tests/driver/Huevox.h"
+#include "tests/driver/Usage.h"
 
 /// What all sessions of a run have come to.
 struct Figures {

@@ -3,6 +3,9 @@ add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest
 
 # In one process with the code: the toolkit's contract, and what talks to the platform.
 add_executable(program_tests
+    driver/Input.cpp
+    driver/Legible.cpp
+    driver/Theme.cpp
     program/AboutFormTest.cpp
     program/AutocopyTest.cpp
     program/ColorBarTest.cpp
@@ -27,10 +30,7 @@ add_executable(program_tests
     toolkit/ModalHoldTest.cpp
     toolkit/ScalingTest.cpp
     toolkit/ToolBarTest.cpp
-    toolkit/YieldTest.cpp
-    ui/Input.cpp
-    ui/Legible.cpp
-    ui/Theme.cpp)
+    toolkit/YieldTest.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
 target_link_libraries(Planted PRIVATE huevox_flags)
@@ -42,16 +42,18 @@ target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE
 
 # What acts on the running program from another process, by real keys and mouse.
 add_library(ui_driver STATIC
-    ui/Dialogs.cpp
-    ui/Huevox.cpp
-    ui/Input.cpp
-    ui/Legible.cpp
-    ui/Palettes.cpp
-    ui/PickerWindow.cpp
-    ui/Pixel.cpp
-    ui/Theme.cpp
-    ui/UiTest.cpp)
-target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32)
+    driver/Dialogs.cpp
+    driver/Huevox.cpp
+    driver/Input.cpp
+    driver/Legible.cpp
+    driver/OptionsDialog.cpp
+    driver/Palettes.cpp
+    driver/PickerWindow.cpp
+    driver/Pixel.cpp
+    driver/Theme.cpp
+    driver/UiTest.cpp
+    driver/Usage.cpp)
+target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32 psapi)
 # Where the system scales what less aware programs see, whoever drives the program has to see the places that it sees.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
@@ -60,63 +62,62 @@ target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND
     HUEVOX_COLOR_NAMES="Z:${color_names}")
 
 add_executable(ui_tests
-    ui/AboutTest.cpp
-    ui/ActivationTest.cpp
-    ui/AutocopyTest.cpp
-    ui/BurstTest.cpp
-    ui/ChangedFileTest.cpp
-    ui/ChangedNewPaletteTest.cpp
-    ui/ClipboardFaultTest.cpp
-    ui/ClosingTest.cpp
-    ui/ColorBarTest.cpp
-    ui/ColorPropertiesTest.cpp
-    ui/CommandsTest.cpp
-    ui/CustomFormatTest.cpp
-    ui/CustomNotationTest.cpp
-    ui/FindJavaScriptNamesTest.cpp
-    ui/FormatDialogTest.cpp
-    ui/FormatLimitTest.cpp
-    ui/HelpTest.cpp
-    ui/HighContrastTest.cpp
-    ui/HomePageTest.cpp
-    ui/JavaScriptNamesTest.cpp
-    ui/JavaScriptPickerTest.cpp
-    ui/KeyboardTest.cpp
-    ui/LeftMonitorTest.cpp
-    ui/LowColorDepthTest.cpp
-    ui/MarksTest.cpp
-    ui/NotepadTest.cpp
-    ui/OptionsDialog.cpp
-    ui/OptionsExampleTest.cpp
-    ui/OptionsFolderTest.cpp
-    ui/OptionsKeysTest.cpp
-    ui/OptionsTest.cpp
-    ui/PaletteFaultTest.cpp
-    ui/PaletteOpenTest.cpp
-    ui/PaletteSaveTest.cpp
-    ui/PickFocusTest.cpp
-    ui/PickerWindowsTest.cpp
-    ui/PickersTest.cpp
-    ui/ScalingTest.cpp
-    ui/ScreenPickTest.cpp
-    ui/SessionEndTest.cpp
-    ui/SettingsFaultTest.cpp
-    ui/SettingsTest.cpp
-    ui/SlidersTest.cpp
-    ui/StartTest.cpp
-    ui/SuddenEndTest.cpp
-    ui/TypedValuesTest.cpp
-    ui/UnawarePickTest.cpp
-    ui/VanishingFilesTest.cpp
-    ui/WaitingValuesTest.cpp
-    ui/WordLengthTest.cpp)
+    ui/help/AboutTest.cpp
+    ui/help/HelpTest.cpp
+    ui/help/HomePageTest.cpp
+    ui/mainwindow/ActivationTest.cpp
+    ui/mainwindow/BurstTest.cpp
+    ui/mainwindow/ClosingTest.cpp
+    ui/mainwindow/HighContrastTest.cpp
+    ui/mainwindow/KeyboardTest.cpp
+    ui/mainwindow/LeftMonitorTest.cpp
+    ui/mainwindow/LowColorDepthTest.cpp
+    ui/mainwindow/ScalingTest.cpp
+    ui/mainwindow/SessionEndTest.cpp
+    ui/mainwindow/StartTest.cpp
+    ui/mainwindow/SuddenEndTest.cpp
+    ui/mainwindow/WordLengthTest.cpp
+    ui/mainwindow/panels/AutocopyTest.cpp
+    ui/mainwindow/panels/ClipboardFaultTest.cpp
+    ui/mainwindow/panels/ColorBarTest.cpp
+    ui/mainwindow/panels/ColorPropertiesTest.cpp
+    ui/mainwindow/panels/CommandsTest.cpp
+    ui/mainwindow/panels/CustomNotationTest.cpp
+    ui/mainwindow/panels/FindJavaScriptNamesTest.cpp
+    ui/mainwindow/panels/JavaScriptNamesTest.cpp
+    ui/mainwindow/panels/MarksTest.cpp
+    ui/mainwindow/panels/PickFocusTest.cpp
+    ui/mainwindow/panels/ScreenPickTest.cpp
+    ui/mainwindow/panels/SlidersTest.cpp
+    ui/mainwindow/panels/TypedValuesTest.cpp
+    ui/mainwindow/panels/UnawarePickTest.cpp
+    ui/mainwindow/panels/WaitingValuesTest.cpp
+    ui/palette/ChangedFileTest.cpp
+    ui/palette/ChangedNewPaletteTest.cpp
+    ui/palette/NotepadTest.cpp
+    ui/palette/PaletteFaultTest.cpp
+    ui/palette/PaletteOpenTest.cpp
+    ui/palette/PaletteSaveTest.cpp
+    ui/palette/VanishingFilesTest.cpp
+    ui/pickers/JavaScriptPickerTest.cpp
+    ui/pickers/PickerWindowsTest.cpp
+    ui/pickers/PickersTest.cpp
+    ui/settings/CustomFormatTest.cpp
+    ui/settings/FormatDialogTest.cpp
+    ui/settings/FormatLimitTest.cpp
+    ui/settings/OptionsExampleTest.cpp
+    ui/settings/OptionsFolderTest.cpp
+    ui/settings/OptionsKeysTest.cpp
+    ui/settings/OptionsTest.cpp
+    ui/settings/SettingsFaultTest.cpp
+    ui/settings/SettingsTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
 target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox)
 
-include(stand-ins.cmake)
-add_executable(TwoColors WIN32 ui/TwoColors.cpp)
+include(driver/stand-ins.cmake)
+add_executable(TwoColors WIN32 driver/TwoColors.cpp)
 target_link_libraries(TwoColors PRIVATE huevox_flags gdi32)
 add_dependencies(ui_tests StandIn StandInViewer TwoColors)
 
@@ -206,7 +207,8 @@ add_test(NAME help.words COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/WordsTest.py $
 add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
 
 tidy_unit(program huevox_pure huevox_toolkit huevox_program Huevox)
-tidy_unit(ui_tests ui_driver ui_tests StandIn StandInViewer TwoColors)
+tidy_unit(driver ui_driver StandIn StandInViewer TwoColors)
+tidy_unit(ui_tests ui_tests)
 tidy_unit(program_tests program_tests Planted)
 tidy_unit(installer_tests installer_tests)
 tidy_unit(soak soak_model soak)

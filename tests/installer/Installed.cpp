@@ -7,8 +7,8 @@
 #include <array>
 #include <utility>
 
+#include "tests/driver/Wait.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Wait.h"
 
 namespace {
 

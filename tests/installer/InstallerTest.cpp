@@ -4,9 +4,9 @@
 #include <fstream>
 #include <vector>
 
+#include "tests/driver/Wait.h"
 #include "tests/installer/Installed.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Wait.h"
 
 namespace fs = std::filesystem;
 

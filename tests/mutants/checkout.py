@@ -45,7 +45,7 @@ class Checkout:
 
     def write(self, name, content):
         path = self.folder / name
-        if name == "tests/ui/Wait.h":
+        if name == "tests/driver/Wait.h":
             content = without_patience(content)
         if path.is_file() and path.read_bytes() == content:
             return

@@ -5,8 +5,8 @@
 
 #include "help/frmAbout.h"
 #include "resources/resource.h"
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 
 namespace {

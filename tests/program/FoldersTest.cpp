@@ -6,9 +6,9 @@
 #include <string>
 #include <thread>
 
+#include "tests/driver/Wait.h"
 #include "tests/toolkit/TestForm.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Wait.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include "mainwindow/frmMain.h"
 #include "resources/resource.h"
 #include "support/AppState.h"
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include "mainwindow/frmMain.h"
 #include "resources/resource.h"
 #include "support/AppState.h"
+#include "tests/driver/Legible.h"
+#include "tests/driver/Theme.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Legible.h"
-#include "tests/ui/Theme.h"
 #include "toolkit/Pump.h"
 
 namespace {

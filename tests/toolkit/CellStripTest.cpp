@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <thread>
 #include <vector>
 
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Input.h"
 #include "toolkit/MsgBox.h"
 #include "toolkit/Pump.h"
 

@@ -3,9 +3,9 @@
 
 #include <stdexcept>
 
+#include "tests/driver/Input.h"
 #include "tests/toolkit/FormFixture.h"
 #include "tests/toolkit/WindowText.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 
 TEST_F(FormTest, LoadComesFirstAndTicksAndActivationsWaitForItsEnd) {

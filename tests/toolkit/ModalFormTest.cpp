@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "resources/resource.h"
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 #include "toolkit/WindowPlace.h"
 

@@ -20,7 +20,7 @@
 
 #ifndef RC_INVOKED
 
-#include "tests/ui/Wait.h"
+#include "tests/driver/Wait.h"
 #include "toolkit/Buttons.h"
 #include "toolkit/CellStrip.h"
 #include "toolkit/ControlArray.h"

@@ -3,8 +3,8 @@
 
 #include <thread>
 
+#include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/ui/Input.h"
 #include "toolkit/Pump.h"
 
 namespace {

@@ -1,0 +1,205 @@
+#include "tests/driver/Input.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "tests/driver/Wait.h"
+#include "tests/toolkit/WindowText.h"
+
+namespace {
+
+bool IsExtended(WORD key) {
+    switch (key) {
+        case VK_LEFT:
+        case VK_RIGHT:
+        case VK_UP:
+        case VK_DOWN:
+        case VK_HOME:
+        case VK_END:
+        case VK_PRIOR:
+        case VK_NEXT:
+        case VK_DELETE:
+        case VK_INSERT: return true;
+        default: return false;
+    }
+}
+
+void SendKey(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(::MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0);
+    ::SendInput(1, &input, sizeof input);
+}
+
+/// A pixel as a part of an extent of all monitors in 65536 steps, so that it comes out as the same pixel
+/// again.
+LONG Absolute(LONG pixel, int start, int extent) {
+    return ((pixel - ::GetSystemMetrics(start)) * 65536 + 65536 / 2) / ::GetSystemMetrics(extent);
+}
+
+INPUT MouseInput(POINT screen, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = Absolute(screen.x, SM_XVIRTUALSCREEN, SM_CXVIRTUALSCREEN);
+    input.mi.dy = Absolute(screen.y, SM_YVIRTUALSCREEN, SM_CYVIRTUALSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK | flags;
+    return input;
+}
+
+void SendMouse(POINT screen, DWORD flags) {
+    INPUT input = MouseInput(screen, flags);
+    ::SendInput(1, &input, sizeof input);
+}
+
+bool IsHeld(WORD key) { return ::GetAsyncKeyState(key) < 0; }
+
+/// Until the window's program has done what it was at.
+void WaitForAnswer(HWND window) { AnswerOf(window, WM_NULL); }
+
+/// Keys that come while no window takes them, or none yet, go nowhere.
+void WaitForKeys() {
+    EXPECT_TRUE(Eventually([] {
+        return TakesKeys(::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr));
+    })) << "no window takes keys";
+}
+
+BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
+    auto& threads = *reinterpret_cast<std::set<DWORD>*>(parameter);
+    DWORD process = 0;
+    const DWORD thread = ::GetWindowThreadProcessId(window, &process);
+    const bool isOther = process != ::GetCurrentProcessId() && ::IsWindowVisible(window);
+    if (isOther && threads.insert(thread).second) WaitForAnswer(window);
+    return TRUE;
+}
+
+/// Until everybody with a window in sight has done what he was at. Who hears of the display's keys while a
+/// key is down writes the states of all keys back, as he has read them a moment ago: modifier keys too.
+void WaitForEverybody() {
+    std::set<DWORD> threads;
+    ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
+}
+
+/// Again and again until it stays so.
+void SetHeld(WORD modifier, bool isHeld) {
+    EXPECT_TRUE(Eventually([&] {
+        SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
+        WaitForEverybody();
+        return IsHeld(modifier) == isHeld;
+    })) << modifier;
+}
+
+/// Any program may bring a modifier key back, not only the one in front.
+void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
+    for (const WORD modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) {
+        if (IsHeld(modifier) && std::ranges::find(modifiers, modifier) == modifiers.end())
+            SetHeld(modifier, false);
+    }
+}
+
+/// Until the window's program, if it is another, has no input left to handle: only then does it paint.
+void WaitForEndOfInput(HWND window) {
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    if (!window || process == ::GetCurrentProcessId()) return;
+    constexpr RECT corner = {0, 0, 1, 1};
+    ::InvalidateRect(window, &corner, FALSE);
+    EXPECT_TRUE(Eventually([window] { return !::GetUpdateRect(window, nullptr, FALSE); }))
+        << "does not paint";
+}
+
+/// Whether that place of a window is not covered by another, of whatever program. Of a form that a dialog
+/// holds nobody can tell.
+bool IsOnTop(HWND window, POINT screen) {
+    const HWND form = ::GetAncestor(window, GA_ROOT);
+    return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
+}
+
+}  // namespace
+
+bool TakesKeys(DWORD thread) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    const HWND front = ::GetForegroundWindow();
+    return ::GetWindowThreadProcessId(front, nullptr) == thread && ::GetGUIThreadInfo(thread, &info) &&
+           info.hwndFocus != nullptr;
+}
+
+void KeyDown(WORD key) { SendKey(key, 0); }
+void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
+
+void Press(WORD key, std::initializer_list<WORD> modifiers) {
+    WaitForKeys();
+    // Somebody may still write back what was held during the key before.
+    if (modifiers.size() > 0) WaitForEverybody();
+    LetGoOfOthers(modifiers);
+    for (const WORD modifier : modifiers) SetHeld(modifier, true);
+    KeyDown(key);
+    KeyUp(key);
+    for (const WORD modifier : modifiers) SetHeld(modifier, false);
+}
+
+void Type(std::string_view text) {
+    for (const char character : text) {
+        const SHORT scan = ::VkKeyScanA(character);
+        const auto key = static_cast<WORD>(LOBYTE(scan));
+        if (HIBYTE(scan) & 1) {
+            Press(key, {VK_SHIFT});
+        } else {
+            Press(key);
+        }
+    }
+}
+
+POINT OnScreen(HWND window, POINT point) {
+    ::MapWindowPoints(window, nullptr, &point, 1);
+    return point;
+}
+
+POINT CenterOf(HWND window) {
+    RECT area{};
+    ::GetWindowRect(window, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+/// By way of the place beside, because a movement is lost that comes while the program is about to take
+/// another: where a window comes or goes, Windows makes one up.
+void MoveMouse(POINT screen) {
+    SendMouse({screen.x - 1, screen.y}, 0);
+    WaitForEndOfInput(::GetForegroundWindow());
+    SendMouse(screen, 0);
+}
+
+void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
+void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
+
+void PressRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTDOWN); }
+void ReleaseRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTUP); }
+
+void RightClick(POINT screen) {
+    PressRightButton(screen);
+    ReleaseRightButton(screen);
+}
+
+void Click(POINT screen) {
+    PressButton(screen);
+    ReleaseButton(screen);
+}
+
+/// Once no other window lies over it.
+void Click(HWND window) {
+    EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); }))
+        << "covered by " << ClassOf(::WindowFromPoint(CenterOf(window)));
+    Click(CenterOf(window));
+}
+
+// All at once, because the time between the clicks makes them one.
+void DoubleClick(HWND window) {
+    const POINT place = CenterOf(window);
+    const INPUT press = MouseInput(place, MOUSEEVENTF_LEFTDOWN);
+    const INPUT release = MouseInput(place, MOUSEEVENTF_LEFTUP);
+    std::array inputs = {press, release, press, release};
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}

@@ -1,0 +1,80 @@
+// What do the tests of palette files share?
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "support/Marks.h"
+#include "tests/driver/UiTest.h"
+
+/// Every test begins with an empty standard folder, in which the files of the tests can be put.
+class PaletteTest : public UiTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+};
+
+inline constexpr const char* paletteFolder = "C:\\Huevox Palettes";
+inline constexpr const char* otherFolder = "C:\\Huevox Palettes\\other";
+
+/// The path of a file in the standard folder, or in a folder of its own in there.
+std::string PathOf(std::string_view name);
+std::string OtherPathOf(std::string_view name);
+
+std::string ContentOf(const std::string& path);
+void WriteContent(const std::string& path, std::string_view content);
+bool Exists(const std::string& path);
+/// A file is read-only for as long as the value lives.
+class ReadOnlyFile {
+public:
+    explicit ReadOnlyFile(std::string path);
+    ReadOnlyFile(const ReadOnlyFile&) = delete;
+    ReadOnlyFile& operator=(const ReadOnlyFile&) = delete;
+    ~ReadOnlyFile();
+
+private:
+    std::string path;
+};
+/// How many files of the folder match a pattern such as "*.tmp".
+int CountFiles(const std::string& folder, const char* pattern);
+
+/// A file that stands beside the tests: "saved.txt" and one of each older generation.
+std::string TestFile(std::string_view name);
+/// The 16 lines that a reader needs, all six marks with that name and colour.
+std::string PaletteOf(std::string_view name, std::string_view color);
+
+inline constexpr const char* saveTitle = "Save Palette As";
+inline constexpr const char* openTitle = "Open Palette In Huevox";
+inline constexpr const char* notepadTitle = "Open Palette In Notepad";
+inline constexpr const char* question = "The palette has been changed. Do you want to save it?";
+inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
+
+/// Waits for a file dialog that is ready for typing.
+HWND WaitForFileDialog(const Huevox& huevox, std::string_view title);
+/// Waits for the question and gives the answer to it.
+void AnswerQuestion(const Huevox& huevox, int button);
+/// Waits for a message with that text and closes it.
+void CloseMessage(const Huevox& huevox, std::string_view text);
+/// Types a path into the file dialog and presses Enter.
+void TypePath(const Huevox& huevox, std::string_view path);
+/// The same, and waits until no dialog is left.
+void ChoosePath(const Huevox& huevox, std::string_view title, std::string_view path);
+/// Presses Escape and waits until the file dialog is gone.
+void CancelFileDialog(const Huevox& huevox, std::string_view title);
+
+/// Opens a file by Ctrl+O and waits for its title.
+void OpenPalette(const Huevox& huevox, const std::string& path);
+/// Moves the green slider of the selected mark by one.
+void ChangeColor(const Huevox& huevox);
+
+/// The commands that may ask whether to save.
+void PressNew();
+void PressOpen();
+void PressClose(const Huevox& huevox);
+/// The first mark has that colour still, and the window can be used: its colour is changed once more.
+void ExpectStill(const Huevox& huevox, const Color& color);
+
+void ExpectPalette(const Huevox& huevox, const Palette& palette);
+/// The six defaults without names.
+void ExpectNewPalette(const Huevox& huevox);

@@ -1,0 +1,80 @@
+#include "tests/driver/PickerWindow.h"
+
+#include "resources/resource.h"
+#include "tests/driver/Input.h"
+#include "tests/driver/Wait.h"
+
+namespace {
+
+/// Until the program has handled what it has posted to itself: a caret moves behind that, twice, because the
+/// first move may have come before.
+void WaitForPosted(const Huevox& huevox) {
+    constexpr int box = IDC_txtName + 5;
+    for (const int caret : {3, 4}) {
+        ::PostMessageA(huevox.control(box), EM_SETSEL, caret, caret);
+        EXPECT_BECOMES(huevox.selection(box), (std::pair{caret, caret}));
+    }
+}
+
+}  // namespace
+
+PickerWindow::PickerWindow(const Huevox& huevox, const Grid& grid) : huevox(huevox), grid(grid) { open(); }
+
+void PickerWindow::open() const {
+    clickButton();
+    EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); })) << grid.name;
+    WaitForPosted(huevox);
+}
+
+void PickerWindow::clickButton() const { Click(huevox.control(grid.button)); }
+
+RECT PickerWindow::place() const {
+    RECT place{};
+    ::GetWindowRect(window(), &place);
+    return place;
+}
+
+POINT PickerWindow::middle(const Swatch& swatch) const {
+    RECT area{};
+    ::GetClientRect(swatches(), &area);
+    return OnScreen(swatches(), {(2 * swatch.column + 1) * area.right / (2 * grid.columns),
+                                 (2 * swatch.row + 1) * area.bottom / (2 * grid.rows)});
+}
+
+void PickerWindow::click(const Swatch& swatch) const { Click(middle(swatch)); }
+
+void PickerWindow::hover(const Swatch& swatch) const {
+    MoveMouse({1, 1});
+    EXPECT_BECOMES(huevox.toolTip(), "");
+    const POINT point = middle(swatch);
+    MoveMouse({point.x - 1, point.y});
+    MoveMouse(point);
+}
+
+void PickerWindow::moveTo(int left, int top) const {
+    ::SetWindowPos(window(), nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void PickerWindow::close() const {
+    ::PostMessageA(window(), WM_CLOSE, 0, 0);
+    EXPECT_BECOMES(window(), nullptr);
+    EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
+}
+
+void ExpectClick(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const Color& color) {
+    EXPECT_BECOMES(picker.colorAt(swatch), color);
+    picker.click(swatch);
+    EXPECT_BECOMES(huevox.sliders(), color) << swatch.column << ' ' << swatch.row;
+}
+
+void ExpectTip(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const char* tip) {
+    picker.hover(swatch);
+    EXPECT_BECOMES(huevox.toolTip(), tip);
+}
+
+void ExpectNothingByTheRightButton(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch) {
+    const Color before = huevox.sliders();
+    RightClick(picker.middle(swatch));
+    huevox.focusByClick(IDC_txtName);  // the input behind the click has arrived
+    EXPECT_EQ(huevox.sliders(), before);
+}

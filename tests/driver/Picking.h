@@ -1,0 +1,26 @@
+// How does a test pick a colour from the screen?
+#pragma once
+
+#include "tests/driver/UiTest.h"
+
+inline void TurnPickModeOn(const Huevox& huevox) {
+    Click(huevox.control(IDC_chkColorPick));
+    ASSERT_BECOMES(huevox.isEnabled(IDC_picSampleContainer), true);
+}
+
+inline POINT Sample(const Huevox& huevox, int mark) { return CenterOf(huevox.control(IDC_picSample + mark)); }
+
+inline bool IsShown(const Huevox& huevox, int id) { return ::IsWindowVisible(huevox.control(id)) != FALSE; }
+
+inline void Hold(const Huevox& huevox, POINT place) {
+    PressButton(place);
+    ASSERT_BECOMES(IsShown(huevox, IDC_picPick), true);
+}
+
+inline Color Preview(const Huevox& huevox) { return Pixel(CenterOf(huevox.control(IDC_picPick))); }
+
+/// The preview shows what is there.
+inline void DragTo(const Huevox& huevox, POINT place, const Color& expected) {
+    MoveMouse(place);
+    EXPECT_BECOMES(Preview(huevox), expected);
+}

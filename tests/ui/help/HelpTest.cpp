@@ -1,0 +1,249 @@
+// How does the program's help come to the screen?
+#include <filesystem>
+
+#include "tests/driver/Palettes.h"
+
+namespace {
+
+/// A copy of the program, without help at first, in a folder of its own.
+class Help : public PaletteTest {
+protected:
+    void SetUp() override {
+        PaletteTest::SetUp();
+        StoreText("PromptToSave", "0");
+        ASSERT_TRUE(::CopyFileA(HUEVOX_EXE, program.c_str(), FALSE));
+    }
+
+    const std::string program = OtherPathOf("Huevox.exe");
+    const std::string helpFile = OtherPathOf("huevox.chm");
+    const std::string calls = PathOf("viewer.txt");
+};
+
+constexpr const char* builtHelp = "huevox.chm";
+
+/// Where Windows keeps its libraries for programs of as many bits as the program has.
+std::string SystemFolder() {
+    DWORD kind = 0;
+    EXPECT_TRUE(::GetBinaryTypeA(HUEVOX_EXE, &kind));
+    return kind == SCS_32BIT_BINARY ? R"(C:\windows\syswow64\)" : R"(C:\windows\system32\)";
+}
+
+/// Wine takes a file for what it says it is, and its own viewer only where there is none, for as long as the
+/// value lives.
+class FilesFirst {
+public:
+    FilesFirst() {
+        EXPECT_EQ(::RegSetKeyValueA(HKEY_CURRENT_USER, overrides, "hhctrl.ocx", REG_SZ, order.data(),
+                                    static_cast<DWORD>(order.size() + 1)),
+                  ERROR_SUCCESS);
+    }
+    FilesFirst(const FilesFirst&) = delete;
+    FilesFirst& operator=(const FilesFirst&) = delete;
+    ~FilesFirst() { ::RegDeleteKeyValueA(HKEY_CURRENT_USER, overrides, "hhctrl.ocx"); }
+
+private:
+    static constexpr const char* overrides = "Software\\Wine\\DllOverrides";
+    static constexpr std::string_view order = "native,builtin";
+};
+
+/// The platform's help viewer is another, or none, for as long as the value lives.
+class WithoutViewer {
+public:
+    WithoutViewer() { EXPECT_TRUE(::MoveFileA(viewer.c_str(), aside.c_str())); }
+    explicit WithoutViewer(const char* standIn) : WithoutViewer() {
+        EXPECT_TRUE(::CopyFileA(standIn, viewer.c_str(), FALSE));
+    }
+    WithoutViewer(const WithoutViewer&) = delete;
+    WithoutViewer& operator=(const WithoutViewer&) = delete;
+    ~WithoutViewer() {
+        EXPECT_TRUE(Eventually([&] { return ::DeleteFileA(viewer.c_str()) != FALSE || !Exists(viewer); }));
+        EXPECT_TRUE(::MoveFileA(aside.c_str(), viewer.c_str()));
+    }
+
+private:
+    const std::string viewer = SystemFolder() + "hhctrl.ocx";
+    const std::string aside = SystemFolder() + "hhctrl aside.ocx";
+    FilesFirst filesFirst;
+};
+
+/// The tests' current folder is another for as long as the value lives; programs that they start begin in it.
+class In {
+public:
+    explicit In(const char* folder) : before(std::filesystem::current_path()) {
+        std::filesystem::current_path(folder);
+    }
+    In(const In&) = delete;
+    In& operator=(const In&) = delete;
+    ~In() { std::filesystem::current_path(before); }
+
+private:
+    std::filesystem::path before;
+};
+
+HWND HelpWindow(const Huevox& huevox) { return huevox.form("HH Parent"); }
+
+void ExpectHelp(const Huevox& huevox) {
+    ASSERT_TRUE(Eventually([&] { return HelpWindow(huevox) != nullptr; }));
+    EXPECT_BECOMES(TextOf(HelpWindow(huevox)), "Huevox Help");
+    EXPECT_EQ(huevox.dialog(), nullptr);
+}
+
+/// The input behind the call for help has arrived, and the program has answered it.
+void ExpectNothingButGoingOn(const Huevox& huevox) {
+    Press(VK_LEFT);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(254, 0, 0));
+    EXPECT_TRUE(Throughout(500, [&] { return !huevox.dialog() && !HelpWindow(huevox); }));
+    EXPECT_TRUE(huevox.isRunning());
+}
+
+HWND IconOf(HWND message) {
+    HWND icon = nullptr;
+    do {
+        icon = ::FindWindowExA(message, icon, "Static", nullptr);
+    } while (icon && (::GetWindowLongA(icon, GWL_STYLE) & SS_TYPEMASK) != SS_ICON);
+    return icon;
+}
+
+/// Whether the message shows the platform's icon of an exclamation, pixel by pixel.
+bool ShowsExclamation(HWND message) {
+    const HDC screen = ::GetDC(nullptr);
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const int size = ::GetSystemMetrics(SM_CXICON);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
+    const HGDIOBJ before = ::SelectObject(memory, bitmap);
+    ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, IDI_EXCLAMATION), size, size, 0,
+                 ::GetSysColorBrush(COLOR_3DFACE), DI_NORMAL);
+    const POINT place = OnScreen(IconOf(message), {0, 0});
+    int differences = 0;
+    for (int pixel = 0; pixel < size * size; ++pixel) {
+        const int x = pixel % size;
+        const int y = pixel / size;
+        const bool isSame = ::GetPixel(memory, x, y) == ::GetPixel(screen, place.x + x, place.y + y);
+        if (!isSame) ++differences;
+    }
+    ::SelectObject(memory, before);
+    ::DeleteObject(bitmap);
+    ::DeleteDC(memory);
+    ::ReleaseDC(nullptr, screen);
+    return differences == 0;
+}
+
+void Close(const Huevox& huevox) {
+    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(huevox.waitForEnd(), 0);
+}
+
+}  // namespace
+
+TEST_F(Help, OpensByItsShortcut) {
+    const Huevox huevox;
+    Press(VK_F1);
+    ExpectHelp(huevox);
+}
+
+TEST_F(Help, OpensByItsMenuItem) {
+    const Huevox huevox;
+    Press('H', {VK_MENU});
+    Press('H');
+    ExpectHelp(huevox);
+}
+
+TEST_F(Help, OpensByItsToolBarButton) {
+    const Huevox huevox;
+    Click(huevox.toolButton(IDM_mnuHelpHelp));
+    ExpectHelp(huevox);
+}
+
+TEST_F(Help, AskedForAgainStaysOneWindow) {
+    const Huevox huevox;
+    Click(huevox.toolButton(IDM_mnuHelpHelp));
+    ExpectHelp(huevox);
+    ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuHelpHelp, 0);
+    EXPECT_TRUE(Throughout(1000, [&] { return huevox.formCount("HH Parent") <= 1; }));
+    ExpectHelp(huevox);
+}
+
+TEST_F(Help, ClosesTogetherWithTheProgram) {
+    const Huevox huevox;
+    Press(VK_F1);
+    ExpectHelp(huevox);
+    const HWND help = HelpWindow(huevox);
+    Close(huevox);
+    EXPECT_FALSE(::IsWindow(help));
+}
+
+TEST_F(Help, IsLookedForBesideTheProgram) {
+    ASSERT_TRUE(::CopyFileA(builtHelp, helpFile.c_str(), FALSE));
+    const In elsewhere("C:\\windows");
+    const Huevox huevox(program);
+    Press(VK_F1);
+    ExpectHelp(huevox);
+}
+
+TEST_F(Help, ThatIsMissingIsTheViewersToReport) {
+    const Huevox huevox(program);
+    Press(VK_F1);
+    ExpectNothingButGoingOn(huevox);
+    Close(huevox);
+}
+
+TEST_F(Help, ThatIsDamagedIsTheViewersToReport) {
+    const std::string whole = ContentOf(builtHelp);
+    ASSERT_GT(whole.size(), 10'000U);
+    for (const std::string& damaged : {std::string(), whole.substr(0, whole.size() / 2),
+                                       std::string(whole.size(), 'x'), whole.substr(0, 0x60)}) {
+        WriteContent(helpFile, damaged);
+        const Huevox huevox(program);
+        Press(VK_F1);
+        Press(VK_LEFT);
+        EXPECT_BECOMES(huevox.sliders(), ColorOf(254, 0, 0)) << damaged.size();
+        EXPECT_EQ(huevox.dialog(), nullptr) << damaged.size();
+        Close(huevox);
+    }
+}
+
+TEST_F(Help, WithoutAViewerIsTold) {
+    const WithoutViewer none;
+    const Huevox huevox;
+    Press(VK_F1);
+    const HWND message = huevox.waitForDialog();
+    ASSERT_TRUE(message);
+    EXPECT_EQ(TextOf(message), "Huevox");
+    EXPECT_EQ(MessageOf(message), "Problem with HTML Help.");
+    EXPECT_TRUE(Eventually([&] { return ShowsExclamation(message); }));
+    Answer(message, IDOK);
+    ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
+    ExpectNothingButGoingOn(huevox);
+    Close(huevox);
+}
+
+TEST_F(Help, IsShownAndClosedByTheViewerOfTheSystem) {
+    const WithoutViewer standIn(HUEVOX_STAND_IN_VIEWER);
+    const Huevox huevox(program);
+    Press(VK_F1);
+    const std::string shown = "loaded\n0|" + helpFile + "|0|huevox1.htm\n";
+    ASSERT_BECOMES(ContentOf(calls), shown);
+    Close(huevox);
+    EXPECT_EQ(ContentOf(calls), shown + "0||18|0\n");
+}
+
+TEST_F(Help, ThatWasNeverOpenedNeedsNoViewer) {
+    const WithoutViewer standIn(HUEVOX_STAND_IN_VIEWER);
+    const Huevox huevox(program);
+    Close(huevox);
+    EXPECT_FALSE(Exists(calls)) << ContentOf(calls);
+}
+
+TEST_F(Help, TakesNoViewerFromTheCurrentFolderOrTheProgramsOwn) {
+    for (const std::string& folder : {PathOf(""), OtherPathOf("")}) {
+        ASSERT_TRUE(::CopyFileA(HUEVOX_STAND_IN_VIEWER, (folder + "hhctrl.ocx").c_str(), FALSE));
+    }
+    ASSERT_TRUE(::CopyFileA(builtHelp, helpFile.c_str(), FALSE));
+    const FilesFirst filesFirst;
+    const In folder(paletteFolder);
+    const Huevox huevox(program);
+    Press(VK_F1);
+    ExpectHelp(huevox);
+    Close(huevox);
+    EXPECT_FALSE(Exists(calls)) << ContentOf(calls);
+}

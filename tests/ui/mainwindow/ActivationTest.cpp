@@ -1,0 +1,75 @@
+// What does a return to the window do?
+#include "tests/driver/PickerWindow.h"
+#include "tests/driver/UiTest.h"
+
+namespace {
+
+class Activation : public UiTest {};
+
+}  // namespace
+
+TEST_F(Activation, CopiesTheColorAgainOverWhatWasCopiedElsewhere) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+        other.selectMark(4);
+        ASSERT_BECOMES(ClipboardText(), "#0000FF");
+    }
+    ::SetForegroundWindow(huevox.window());
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+}
+
+TEST_F(Activation, KeepsNotationAndFocus) {
+    const Huevox huevox;
+    huevox.chooseNotation(10);
+    huevox.focusByClick(Name(3));
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    }
+    ::SetForegroundWindow(huevox.window());
+    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(3));
+    EXPECT_EQ(huevox.listIndex(), 10);
+    EXPECT_EQ(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
+}
+
+TEST_F(Activation, InJavaScriptNamesModeSelectsNoNotation) {
+    const Huevox huevox;
+    huevox.chooseNotation(4);
+    CheckNames(huevox, true);
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    }
+    ::SetForegroundWindow(huevox.window());
+    ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
+    EXPECT_BECOMES(ClipboardText(), "red");
+    EXPECT_EQ(huevox.listIndex(), -1);
+    CheckNames(huevox, false);
+    EXPECT_BECOMES(huevox.listIndex(), 4);
+}
+
+TEST_F(Activation, AfterAMessageLeavesABadValueInItsBox) {
+    const Huevox huevox;
+    huevox.retype(IDC_txtSetBlue, "999");
+    Press(VK_RETURN);
+    const HWND message = huevox.waitForDialog();
+    ASSERT_TRUE(message);
+    CopyElsewhere("theirs");
+    Answer(message, IDOK);
+    // Copied again: the window has been activated, and yet the box is as it was.
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+    EXPECT_EQ(huevox.text(IDC_txtSetBlue), "999");
+}
+
+TEST_F(Activation, ByAClickOnANotationChoosesIt) {
+    const Huevox huevox;
+    huevox.chooseNotation(3);
+    const PickerWindow picker(huevox, failsafeGrid);
+    huevox.chooseNotation(6);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
+    EXPECT_BECOMES(ClipboardText(), "255");
+    EXPECT_EQ(huevox.listIndex(), 6);
+}

@@ -1,0 +1,29 @@
+// Has the program that the tests act on as many bits as they believe?
+#include "tests/driver/UiTest.h"
+
+namespace {
+
+class WordLength : public UiTest {};
+
+/// Windows of 64 bits runs programs of 32 apart from its own.
+bool RunsApart(HWND window) {
+    DWORD id = 0;
+    ::GetWindowThreadProcessId(window, &id);
+    const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
+    BOOL isApart = FALSE;
+    EXPECT_TRUE(::IsWow64Process(process, &isApart)) << "error " << ::GetLastError();
+    ::CloseHandle(process);
+    return isApart != FALSE;
+}
+
+}  // namespace
+
+TEST_F(WordLength, Is64) {
+    const Huevox huevox;
+    EXPECT_FALSE(RunsApart(huevox.window()));
+}
+
+TEST_F(WordLength, Is32) {
+    const Huevox huevox;
+    EXPECT_TRUE(RunsApart(huevox.window()));
+}

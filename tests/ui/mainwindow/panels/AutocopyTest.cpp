@@ -1,0 +1,176 @@
+// How does a notation get to the clipboard?
+#include <string>
+#include <vector>
+
+#include "tests/driver/UiTest.h"
+
+namespace {
+
+class Autocopy : public UiTest {};
+
+/// Holds the clipboard open, as a program that hangs does.
+class ClipboardHeld {
+public:
+    ClipboardHeld() {
+        EXPECT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
+    }
+    ClipboardHeld(const ClipboardHeld&) = delete;
+    ClipboardHeld& operator=(const ClipboardHeld&) = delete;
+    ~ClipboardHeld() { ::CloseClipboard(); }
+};
+
+}  // namespace
+
+TEST_F(Autocopy, CopiesEveryNotation) {
+    const Huevox huevox;
+    SetColor(huevox, ColorOf(255, 204, 0));
+    const std::vector<std::string> codes = {"#FFCC00",
+                                            "#ffcc00",
+                                            "&H0000CCFF&",
+                                            "RGB(255, 204, 0)",
+                                            "0x0000ccff",
+                                            "$0000CCFF",
+                                            "52479",
+                                            "ColorTranslator.FromHtml(\"#FFCC00\")",
+                                            "ColorTranslator.FromOle(52479)",
+                                            "ColorTranslator.FromWin32(52479)",
+                                            "Color(255,204,0)"};
+    for (int index = 0; index < 11; ++index) {
+        huevox.chooseNotation(index);
+        EXPECT_BECOMES(huevox.text(IDC_lblClipboard), codes[index]);
+        EXPECT_BECOMES(ClipboardText(), codes[index]);
+    }
+}
+
+TEST_F(Autocopy, CopiesTheCustomNotation) {
+    StoreText("CustomFormat", "rgb & %DR%/%UG%/%LB% (%LD%)");
+    const Huevox huevox;
+    huevox.chooseNotation(11);
+    EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "rgb & 255/00/00 (255)");
+    EXPECT_BECOMES(ClipboardText(), "rgb & 255/00/00 (255)");
+}
+
+TEST_F(Autocopy, AnEmptyPreviewPutsAnEmptyTextOnTheClipboard) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    huevox.chooseNotation(11);
+    ASSERT_BECOMES(ClipboardText(), "");
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_TEXT));
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_UNICODETEXT));
+}
+
+TEST_F(Autocopy, IsOwnedByTheMainWindow) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    EXPECT_EQ(::GetClipboardOwner(), huevox.window());
+}
+
+TEST_F(Autocopy, UnicodeTextIsMadeOfTheSameCharacters) {
+    StoreText("CustomFormat", "caf\xE9 \x80 %UR%");
+    const Huevox huevox;
+    huevox.chooseNotation(11);
+    EXPECT_BECOMES(ClipboardText(), "caf\xE9 \x80 FF");
+    EXPECT_EQ(ClipboardUnicodeText(), L"caf\u00E9 \u20AC FF");
+}
+
+TEST_F(Autocopy, UnicodeTextIsNotLeftToThePlatform) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    ASSERT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
+    // What the platform makes of other formats comes after them.
+    EXPECT_EQ(::EnumClipboardFormats(0), static_cast<UINT>(CF_TEXT));
+    EXPECT_EQ(::EnumClipboardFormats(CF_TEXT), static_cast<UINT>(CF_UNICODETEXT));
+    ::CloseClipboard();
+}
+
+TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    constexpr ULONGLONG tick = 200;
+    DWORD before = ::GetClipboardSequenceNumber();
+    POINT thumb = huevox.thumb(IDC_hsbGreen, 0);
+    PressButton(thumb);
+    // For well over the time of a copy. On a busy machine a step may itself come to a pause, and be copied.
+    const ULONGLONG end = ::GetTickCount64() + 1500;
+    for (int step = 0; ::GetTickCount64() < end; ++step) {
+        thumb = huevox.thumb(IDC_hsbGreen, 60 + 10 * (step % 12));
+        const ULONGLONG moved = ::GetTickCount64();
+        MoveMouse(thumb);
+        EXPECT_TRUE(Throughout(40, [&] {
+            return ::GetClipboardSequenceNumber() == before || ::GetTickCount64() - moved >= tick;
+        }));
+        before = ::GetClipboardSequenceNumber();
+    }
+    ReleaseButton(thumb);
+    EXPECT_TRUE(Eventually([&] { return ClipboardText() == huevox.text(IDC_lblClipboard); }));
+}
+
+TEST_F(Autocopy, WritesOnceForOneChange) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    const DWORD written = ::GetClipboardSequenceNumber();
+    EXPECT_TRUE(Throughout(1500, [&] { return ::GetClipboardSequenceNumber() == written; }));
+}
+
+TEST_F(Autocopy, TheLettersFollowWithTheClipboard) {
+    const Huevox huevox;
+    huevox.focusSlider(IDC_hsbRed);
+    Press(VK_LEFT);
+    EXPECT_BECOMES(huevox.text(Property(0)), "");
+    EXPECT_EQ(huevox.text(Property(1)), "WFJ");
+    SetColor(huevox, ColorOf(0x33, 0x33, 0x33));
+    EXPECT_BECOMES(huevox.text(Property(0)), "W");
+    SetColor(huevox, ColorOf(0xC0, 0xC0, 0xC0));
+    EXPECT_BECOMES(huevox.text(Property(0)), "FJ");
+}
+
+TEST_F(Autocopy, AClipboardHeldOpenIsLeftAloneUntilTheNextChange) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    CopyElsewhere("theirs");
+    huevox.focusSlider(IDC_hsbGreen);
+    {
+        const ClipboardHeld held;
+        Press(VK_RIGHT);
+        // The letters are refreshed by the tick that would copy.
+        ASSERT_BECOMES(huevox.text(Property(0)), "");
+        ::SendMessageA(huevox.window(), WM_NULL, 0, 0);  // answered when the tick is over
+    }
+    EXPECT_TRUE(Throughout(1000, [] { return ClipboardText() == "theirs"; }));
+    EXPECT_TRUE(huevox.isRunning());
+    EXPECT_EQ(huevox.dialogCount(), 0);
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(ClipboardText(), "#FF0200");
+}
+
+TEST_F(Autocopy, AClickOnTheChosenNotationCopiesAgain) {
+    const Huevox huevox;
+    ASSERT_BECOMES(ClipboardText(), "#FF0000");
+    CopyElsewhere("theirs");
+    huevox.chooseNotation(0);
+    EXPECT_BECOMES(ClipboardText(), "#FF0000");
+}
+
+TEST_F(Autocopy, ToolTipsTellWhatIsWhat) {
+    const Huevox huevox;
+    const auto tipOf = [&](int id) {
+        MoveMouse({1, 1});
+        EXPECT_BECOMES(huevox.toolTip(), "");
+        const POINT center = CenterOf(huevox.control(id));
+        MoveMouse({center.x - 1, center.y});
+        MoveMouse(center);
+        EXPECT_TRUE(Eventually([&] { return !huevox.toolTip().empty(); }));
+        return huevox.toolTip();
+    };
+    EXPECT_EQ(tipOf(IDC_lstAutocopy), "Select the format you want to copy to the clipboard");
+    EXPECT_EQ(tipOf(IDC_lblClipboard), "This is what you get if you paste right now in another application");
+    EXPECT_EQ(tipOf(IDC_chkJSNamesOnly),
+              "Check this check box if you want to copy the JavaScript name instead of the RGB colour code");
+    EXPECT_EQ(tipOf(Name(5)), "Click and type a colour name");
+    EXPECT_EQ(tipOf(Option(5)), "Click here to select this colour mark");
+    EXPECT_EQ(tipOf(IDC_txtSetRed), "Type the red value");
+    EXPECT_EQ(tipOf(IDC_txtSetGreen), "Type the green value");
+    EXPECT_EQ(tipOf(IDC_txtSetBlue), "Type the blue value");
+    EXPECT_EQ(tipOf(IDC_optSetDec), "Click here for decimal colour values");
+    EXPECT_EQ(tipOf(IDC_optSetHex), "Click here for hexadecimal colour values");
+}

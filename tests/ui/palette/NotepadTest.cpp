@@ -1,0 +1,68 @@
+// How is a palette file opened in Notepad?
+#include "tests/driver/Palettes.h"
+#include "tests/ui/palette/NotepadOn.h"
+
+namespace {
+
+class OpeningInNotepad : public PaletteTest {};
+
+/// Notepad's program is another, or none, for as long as the value lives.
+class WithoutNotepad {
+public:
+    WithoutNotepad() { EXPECT_TRUE(::MoveFileA(notepad, aside)); }
+    explicit WithoutNotepad(const char* standIn) : WithoutNotepad() {
+        EXPECT_TRUE(::CopyFileA(standIn, notepad, FALSE));
+    }
+    WithoutNotepad(const WithoutNotepad&) = delete;
+    WithoutNotepad& operator=(const WithoutNotepad&) = delete;
+    ~WithoutNotepad() {
+        EXPECT_TRUE(Eventually([] { return ::DeleteFileA(notepad) != FALSE || !Exists(notepad); }));
+        ::MoveFileA(aside, notepad);
+    }
+
+private:
+    static constexpr const char* notepad = "C:\\windows\\notepad.exe";
+    static constexpr const char* aside = "C:\\windows\\notepad aside.exe";
+};
+
+}  // namespace
+
+TEST_F(OpeningInNotepad, StartsNotepadWithAPathThatHoldsBlanks) {
+    WriteContent(OtherPathOf("my palette.txt"), PaletteOf("navy", "1,2,3"));
+    const Huevox huevox;
+    Click(huevox.toolButton(IDM_mnuFileOpenInNotepad));
+    ChoosePath(huevox, notepadTitle, OtherPathOf("my palette.txt"));
+    {
+        const NotepadOn notepad("my palette");
+        EXPECT_NE(notepad.title.find("my palette.txt"), std::string::npos) << notepad.title;
+    }
+    ExpectNewPalette(huevox);
+}
+
+TEST_F(OpeningInNotepad, ThePathIsNotQuoted) {
+    const WithoutNotepad other(HUEVOX_STAND_IN);
+    const Huevox huevox;
+    Press('I', {VK_CONTROL});
+    ChoosePath(huevox, notepadTitle, OtherPathOf("my palette.txt"));
+    const std::string command = "C:\\windows\\Notepad.exe " + OtherPathOf("my palette.txt");
+    EXPECT_BECOMES(ContentOf(PathOf("command.txt")), command);
+}
+
+TEST_F(OpeningInNotepad, ThatDoesNotStartIsTold) {
+    const WithoutNotepad none;
+    const Huevox huevox;
+    Press('I', {VK_CONTROL});
+    WaitForFileDialog(huevox, notepadTitle);
+    TypePath(huevox, PathOf("any.txt"));
+    ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
+    CloseMessage(huevox, "Could not open file in Notepad.");
+    ExpectNewPalette(huevox);
+}
+
+TEST_F(OpeningInNotepad, CancelledDoesNothing) {
+    const Huevox huevox;
+    Press('I', {VK_CONTROL});
+    CancelFileDialog(huevox, notepadTitle);
+    EXPECT_EQ(::FindWindowA("Notepad", nullptr), nullptr);
+    ExpectNewPalette(huevox);
+}

@@ -1,0 +1,190 @@
+// Is a palette ever lost when the disk or another program refuses?
+#include <cstdlib>
+#include <utility>
+
+#include "tests/driver/Below.h"
+#include "tests/driver/Palettes.h"
+
+// Needs the platform's main header before it.
+#include <sddl.h>
+
+namespace {
+
+class RefusedSaving : public PaletteTest {
+protected:
+    void SetUp() override {
+        PaletteTest::SetUp();
+        WriteContent(OtherPathOf("mine.txt"), before);
+    }
+
+    static void OpenAndChange(const Huevox& huevox) {
+        OpenPalette(huevox, OtherPathOf("mine.txt"));
+        huevox.retype(Name(1), "another");
+        ChangeColor(huevox);
+    }
+    /// Saves in vain, and expects everything to be as it was: the file, the title, the change, the highlight.
+    static void ExpectRefusal(const Huevox& huevox) {
+        Press('S', {VK_CONTROL});
+        CloseMessage(huevox, couldNotSave);
+        EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
+        EXPECT_EQ(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
+        Press('N', {VK_CONTROL});
+        AnswerQuestion(huevox, IDCANCEL);
+        EXPECT_EQ(CountFiles(otherFolder, "*.tmp"), 0);
+    }
+    static void ExpectSaving(const Huevox& huevox) {
+        Press('S', {VK_CONTROL});
+        // While the file is being replaced it cannot be opened.
+        EXPECT_TRUE(Eventually([] {
+            const std::string content = ContentOf(OtherPathOf("mine.txt"));
+            return !content.empty() && content != before;
+        }));
+        EXPECT_EQ(huevox.dialogCount(), 0);
+    }
+
+    inline static const std::string before = PaletteOf("mine", "1,2,3");
+};
+
+class FullDisk : public UiTest {};
+
+/// A folder that nobody may write in, for as long as the value lives.
+class ReadOnlyFolder {
+public:
+    explicit ReadOnlyFolder(const char* path) : path(path) {
+        SetRights("D:(A;;GRGX;;;WD)");
+        WriteContent(OtherPathOf("probe"), "x");
+        EXPECT_FALSE(Exists(OtherPathOf("probe"))) << "the tests must not run with the rights of root";
+    }
+    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
+    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+    ~ReadOnlyFolder() { SetRights("D:(A;;GA;;;WD)"); }
+
+private:
+    void SetRights(const char* rights) {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        ASSERT_TRUE(::ConvertStringSecurityDescriptorToSecurityDescriptorA(rights, SDDL_REVISION_1,
+                                                                           &descriptor, nullptr));
+        EXPECT_TRUE(::SetFileSecurityA(path, DACL_SECURITY_INFORMATION, descriptor));
+        ::LocalFree(descriptor);
+    }
+
+    const char* path;
+};
+
+}  // namespace
+
+TEST_F(RefusedSaving, ByAReadOnlyFile) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    {
+        const ReadOnlyFile refusing(OtherPathOf("mine.txt"));
+        ExpectRefusal(huevox);
+        EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
+    }
+    ExpectSaving(huevox);
+}
+
+TEST_F(RefusedSaving, ByAReadOnlyFolder) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    {
+        const ReadOnlyFolder refusing(otherFolder);
+        ExpectRefusal(huevox);
+        EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
+    }
+    ExpectSaving(huevox);
+}
+
+TEST_F(RefusedSaving, ByAnotherProgramThatHasLockedTheFile) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    const HANDLE locked = ::CreateFileA(OtherPathOf("mine.txt").c_str(), GENERIC_READ | GENERIC_WRITE, 0,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(locked, INVALID_HANDLE_VALUE);
+    ExpectRefusal(huevox);
+    ::CloseHandle(locked);
+    EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
+    ExpectSaving(huevox);
+}
+
+TEST_F(RefusedSaving, ByAFolderThatIsGone) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    RunBelow("rm", "-rf \"" + SystemPathOf(L"C:\\Huevox Palettes\\other") + '"');
+    ASSERT_TRUE(Eventually([] { return !Exists(otherFolder); }));
+    ExpectRefusal(huevox);
+    Press('F', {VK_MENU});
+    Press('A');
+    ChoosePath(huevox, saveTitle, PathOf("rescued.txt"));
+    EXPECT_BECOMES(huevox.title(), "Huevox - rescued.txt");
+    EXPECT_NE(ContentOf(PathOf("rescued.txt")).find("another"), std::string::npos);
+}
+
+TEST_F(RefusedSaving, ByAFolderOfThatName) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    ::DeleteFileA(OtherPathOf("mine.txt").c_str());
+    ::CreateDirectoryA(OtherPathOf("mine.txt").c_str(), nullptr);
+    ExpectRefusal(huevox);
+}
+
+TEST_F(RefusedSaving, InSaveAsKeepsTheTitle) {
+    WriteContent(PathOf("theirs.txt"), "theirs");
+    const ReadOnlyFile refusing(PathOf("theirs.txt"));
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    Press('F', {VK_MENU});
+    Press('A');
+    WaitForFileDialog(huevox, saveTitle);
+    TypePath(huevox, PathOf("theirs.txt"));
+    ASSERT_BECOMES(huevox.dialogCount(), 2);
+    Answer(huevox.dialog(), IDYES);
+    ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
+    CloseMessage(huevox, couldNotSave);
+    EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
+    EXPECT_EQ(ContentOf(PathOf("theirs.txt")), "theirs");
+}
+
+TEST_F(RefusedSaving, ByItsOwnSuddenEndLeavesAWholeFile) {
+    // What the file holds after a save that nothing disturbs.
+    {
+        const Huevox huevox;
+        OpenAndChange(huevox);
+        ExpectSaving(huevox);
+    }
+    const std::string after = ContentOf(OtherPathOf("mine.txt"));
+    int killedWhileWriting = 0;
+    for (int round = 0; round < 4; ++round) {
+        WriteContent(OtherPathOf("mine.txt"), before);
+        const Huevox huevox;
+        OpenAndChange(huevox);
+        Press('S', {VK_CONTROL});
+        const auto isWriting = [] { return CountFiles(otherFolder, "*.tmp") > 0; };
+        const auto isSaved = [] { return ContentOf(OtherPathOf("mine.txt")) != before; };
+        // Not a millisecond is to be lost between the sight of the new file and the end.
+        while (!isWriting() && !isSaved()) continue;
+        huevox.kill();
+        killedWhileWriting += CountFiles(otherFolder, "*.tmp");
+        const std::string content = ContentOf(OtherPathOf("mine.txt"));
+        EXPECT_TRUE(content == before || content == after) << round << '\n' << content;
+        ::DeleteFileA(OtherPathOf("mine.txt").c_str());
+    }
+    RecordProperty("killed while writing", killedWhileWriting);
+}
+
+TEST_F(FullDisk, LeavesTheOldFileAndTheChange) {
+    const std::string folder = std::getenv("HUEVOX_FULL_DISK");
+    const std::string before = PaletteOf("mine", "1,2,3");
+    WriteContent(folder + "\\mine.txt", before);
+    const Huevox huevox;
+    OpenPalette(huevox, folder + "\\mine.txt");
+    ChangeColor(huevox);
+    WriteContent(folder + "\\filler", std::string(1'000'000, 'x'));
+    Press('S', {VK_CONTROL});
+    CloseMessage(huevox, couldNotSave);
+    EXPECT_EQ(ContentOf(folder + "\\mine.txt"), before);
+    EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
+    EXPECT_EQ(CountFiles(folder, "*.tmp"), 0);
+    Press('N', {VK_CONTROL});
+    AnswerQuestion(huevox, IDCANCEL);
+}
