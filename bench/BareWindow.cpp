@@ -1,5 +1,5 @@
 // The least that a program with a window can be: what Huevox is measured against.
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 

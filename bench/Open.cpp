@@ -7,7 +7,7 @@
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 #include "palette/TextFile.h"
-#include "toolkit/CodePage.h"
+#include "toolkit/platform/CodePage.h"
 
 namespace {
 

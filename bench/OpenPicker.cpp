@@ -6,8 +6,8 @@
 #include "bench/Benches.h"
 #include "bench/RunningProgram.h"
 #include "resources/resource.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/IconPixels.h"
+#include "tests/driver/WindowText.h"
+#include "toolkit/controls/IconPixels.h"
 
 namespace {
 

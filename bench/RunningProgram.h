@@ -5,8 +5,9 @@
 #include "support/AppState.h"
 #include "support/FatalError.h"
 #include "tests/driver/Usage.h"
-#include "toolkit/Platform.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/platform/Platform.h"
 
 /// Dispatches all messages that are waiting.
 inline void PumpAll() {
@@ -26,7 +27,7 @@ inline double Kilobytes(const Usage& usage) { return static_cast<double>(usage.b
 class RunningProgram {
 public:
     RunningProgram() {
-        PrepareControls();
+        RegisterControlClasses();
         errorTrap = HandleFatalError;
         window.load();
         window.show(SW_SHOWNORMAL);

@@ -1,6 +1,6 @@
 // A bare window that holds as many stock controls as Huevox has controls: what the platform alone asks for
 // them.
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 

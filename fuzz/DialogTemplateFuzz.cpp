@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "fuzz/FuzzInput.h"
-#include "toolkit/DialogTemplate.h"
+#include "toolkit/forms/DialogTemplate.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "help/HTMLHelp.h"
 
-#include "toolkit/SystemFunction.h"
+#include "toolkit/platform/SystemFunction.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The platform's help viewer. It is looked for when it is first needed, in the folder of the system only.
 class HTMLHelp {

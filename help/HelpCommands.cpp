@@ -4,7 +4,7 @@
 #include "help/HelpTopic.h"
 #include "help/Links.h"
 #include "resources/resource.h"
-#include "support/Trap.h"
+#include "support/Reported.h"
 
 HelpCommands::HelpCommands(Form& form, CommandBar& commands, HTMLHelp& help) : form(form), help(help) {
     commands.bind(IDM_mnuHelpHelp, this, &HelpCommands::mnuHelpHelp_Click);

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "core/PathText.h"
-#include "support/Trap.h"
-#include "toolkit/CodePage.h"
+#include "support/Reported.h"
+#include "toolkit/platform/CodePage.h"
 
 namespace {
 

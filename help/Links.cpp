@@ -1,6 +1,6 @@
 #include "help/Links.h"
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 #include <shellapi.h>
 

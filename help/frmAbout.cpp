@@ -3,7 +3,7 @@
 #include "Addresses.h"
 #include "help/Links.h"
 #include "resources/resource.h"
-#include "support/Trap.h"
+#include "support/Reported.h"
 
 frmAbout::frmAbout()
     : Form("frmAbout"),

@@ -1,11 +1,11 @@
 // What does the about box do?
 #pragma once
 
-#include "toolkit/Buttons.h"
-#include "toolkit/Form.h"
-#include "toolkit/IconBox.h"
-#include "toolkit/Label.h"
-#include "toolkit/LinkLabel.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/IconBox.h"
+#include "toolkit/controls/Label.h"
+#include "toolkit/controls/LinkLabel.h"
+#include "toolkit/forms/Form.h"
 
 /// Says what the program is, whose it is and where there is more of it. Enter, Escape and the close box are
 /// OK.

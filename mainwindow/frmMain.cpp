@@ -4,8 +4,8 @@
 #include "settings/LoadSettings.h"
 #include "support/FatalError.h"
 #include "support/Messages.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Redraw.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/Redraw.h"
 
 frmMain::frmMain(AppState& state)
     : Form("frmMain"),

@@ -18,7 +18,7 @@
 #include "settings/frmCustomFormat.h"
 #include "settings/frmOptions.h"
 #include "support/AppState.h"
-#include "toolkit/Form.h"
+#include "toolkit/forms/Form.h"
 
 /// The main window: panels, each the owner of its own controls, and the order in which they act together.
 class frmMain final : public Form, private ColorTarget {

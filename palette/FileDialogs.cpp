@@ -7,8 +7,8 @@
 
 #include "core/PathText.h"
 #include "settings/Folders.h"
-#include "toolkit/CodePage.h"
-#include "toolkit/SystemFunction.h"
+#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/SystemFunction.h"
 
 struct FileDialogs::Kind {
     const char* function;

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "support/AppState.h"
-#include "toolkit/Form.h"
+#include "toolkit/forms/Form.h"
 
 /// The platform's dialogs, opened in the standard folder. Each returns the full path that the user chose, and
 /// has made its folder the current one; or "", and the current folder is what it was.

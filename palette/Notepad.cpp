@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 #include "core/PathText.h"
-#include "toolkit/CodePage.h"
-#include "toolkit/Handles.h"
+#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/Handles.h"
 
 std::string GetWindowsFolder() {
     std::array<char, 260> buffer{};

@@ -9,10 +9,10 @@
 #include "palette/PaletteFile.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "support/Trap.h"
-#include "toolkit/CodePage.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Pump.h"
+#include "support/Reported.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/CodePage.h"
 
 PaletteCommands::PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
                                  ChannelEditors& channels, ColorMarks& marks, ColorTarget& target)

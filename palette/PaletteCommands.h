@@ -13,7 +13,7 @@
 #include "palette/FileDialogs.h"
 #include "palette/TextFile.h"
 #include "support/AppState.h"
-#include "toolkit/Form.h"
+#include "toolkit/forms/Form.h"
 
 /// The commands of the File menu. The window's title tells which palette it is, and where Save puts it.
 class PaletteCommands {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/PathText.h"
-#include "toolkit/CodePage.h"
+#include "toolkit/platform/CodePage.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/Handles.h"
+#include "toolkit/platform/Handles.h"
 
 using OwnedFile = Owned<HANDLE, &::CloseHandle>;
 

@@ -4,7 +4,7 @@
 #include "pickers/frmFailsafe.h"
 #include "pickers/frmJavaScript.h"
 #include "pickers/frmWebsafe.h"
-#include "toolkit/Buttons.h"
+#include "toolkit/controls/Buttons.h"
 
 /// The three palette windows, one of each, and the main window's buttons for them.
 class Pickers {

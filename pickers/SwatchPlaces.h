@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "toolkit/Twips.h"
+#include "toolkit/platform/Twips.h"
 
 // Each in the order of its reference table, in twips from the left and top of the first swatch.
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "pickers/Beside.h"
 #include "resources/resource.h"
-#include "toolkit/Beside.h"
-#include "toolkit/WindowPlace.h"
+#include "toolkit/platform/WindowPlace.h"
 
 SwatchWindow::SwatchWindow(const char* name) : Form(name, 1) {
     Command.bind(this, &SwatchWindow::Form_Command);

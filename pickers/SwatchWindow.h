@@ -4,7 +4,7 @@
 #include <optional>
 #include <span>
 
-#include "toolkit/Form.h"
+#include "toolkit/forms/Form.h"
 
 /// A small window of swatches, whose template is in twips. While the program runs it comes back to where the
 /// user has put it.

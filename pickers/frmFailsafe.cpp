@@ -3,7 +3,7 @@
 #include "core/ColorTables.h"
 #include "pickers/SwatchPlaces.h"
 #include "resources/resource.h"
-#include "toolkit/Mouse.h"
+#include "toolkit/platform/Mouse.h"
 
 frmFailsafe::frmFailsafe(ChannelEditors& channels)
     : SwatchWindow("frmFailsafe"), channels(channels), lblFailsafeColor(*this, IDC_lblFailsafeColor) {

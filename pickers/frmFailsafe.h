@@ -3,7 +3,7 @@
 
 #include "mainwindow/panels/ChannelEditors.h"
 #include "pickers/SwatchWindow.h"
-#include "toolkit/CellStrip.h"
+#include "toolkit/controls/CellStrip.h"
 
 /// The failsafe colours; a left press on one sets the sliders to it.
 class frmFailsafe final : public SwatchWindow {

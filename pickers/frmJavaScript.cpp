@@ -5,7 +5,7 @@
 #include "core/ColorTables.h"
 #include "pickers/SwatchPlaces.h"
 #include "resources/resource.h"
-#include "toolkit/Mouse.h"
+#include "toolkit/platform/Mouse.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include "mainwindow/panels/ChannelEditors.h"
 #include "pickers/SwatchWindow.h"
 #include "support/AppState.h"
-#include "toolkit/CellStrip.h"
-#include "toolkit/ToolBar.h"
+#include "toolkit/controls/CellStrip.h"
+#include "toolkit/controls/ToolBar.h"
 
 /// The JavaScript colours in one of two orders; a left press on one sets the sliders to it.
 class frmJavaScript final : public SwatchWindow {

@@ -7,7 +7,7 @@
 #include "core/ColorTables.h"
 #include "pickers/SwatchPlaces.h"
 #include "resources/resource.h"
-#include "toolkit/Mouse.h"
+#include "toolkit/platform/Mouse.h"
 
 frmWebsafe::frmWebsafe(ChannelEditors& channels)
     : SwatchWindow("frmWebsafe"), channels(channels), lblWebsafeColor(*this, IDC_lblWebsafeColor) {

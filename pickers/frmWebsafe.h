@@ -3,7 +3,7 @@
 
 #include "mainwindow/panels/ChannelEditors.h"
 #include "pickers/SwatchWindow.h"
-#include "toolkit/CellStrip.h"
+#include "toolkit/controls/CellStrip.h"
 
 /// The websafe colours; a left press on one sets the sliders to it.
 class frmWebsafe final : public SwatchWindow {

@@ -5,7 +5,7 @@
 #include "resources/resource.h"
 #include "tests/driver/Figures.h"
 #include "tests/driver/Input.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "randomuser/Look.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// How much is looked at: whether the program runs and answers, what is in front and the preview, and of the
 /// rest what must have changed; or everything, to the pixels.

@@ -3,7 +3,7 @@
 
 #include <thread>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// A window beside the program's, which takes the foreground and the clipboard. It answers at all times, in a
 /// thread of its own: the platform would hand the focus over late.

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/Color.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The pixels from place to the right and down, read at once.
 class ScreenPart {

@@ -1,7 +1,7 @@
 #include "randomuser/Session.h"
 #include "randomuser/Soon.h"
 #include "tests/driver/Input.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 namespace {
 

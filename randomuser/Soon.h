@@ -1,7 +1,7 @@
 // How does the random user wait, without losing time?
 #pragma once
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Looks again and again until condition is true. False when it still is not after the limit.
 template <class Condition>

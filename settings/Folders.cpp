@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "core/PathText.h"
-#include "toolkit/CodePage.h"
+#include "toolkit/platform/CodePage.h"
 
 namespace {
 

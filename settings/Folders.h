@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Sets desktopFolder to the desktop of the current user. False, and "", when the platform knows of none.
 bool GetDesktopFolder(std::string& desktopFolder);

@@ -3,8 +3,8 @@
 #include "settings/Folders.h"
 #include "settings/SettingsRules.h"
 #include "support/Messages.h"
-#include "toolkit/CodePage.h"
-#include "toolkit/MsgBox.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/CodePage.h"
 
 void StoreSetting(const RegistryStringHandler& registry, std::string_view valueName, std::string_view text) {
     registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "toolkit/Handles.h"
+#include "toolkit/platform/Handles.h"
 
 namespace {
 

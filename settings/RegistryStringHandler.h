@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Reads and writes text values of the registry. Key paths may begin and end with backslashes.
 class RegistryStringHandler {

@@ -9,7 +9,7 @@
 #include "settings/SettingsRules.h"
 #include "settings/TokenInsertion.h"
 #include "support/Messages.h"
-#include "toolkit/CodePage.h"
+#include "toolkit/platform/CodePage.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include "help/HTMLHelp.h"
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/ControlArray.h"
-#include "toolkit/Form.h"
-#include "toolkit/TextBox.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/ControlArray.h"
+#include "toolkit/controls/TextBox.h"
+#include "toolkit/forms/Form.h"
 
 /// Edits the custom template as it is stored. Nothing is taken over or stored before OK.
 class frmCustomFormat final : public Form {

@@ -10,7 +10,7 @@
 #include "settings/LoadSettings.h"
 #include "settings/SettingsRules.h"
 #include "support/Messages.h"
-#include "toolkit/Pump.h"
+#include "toolkit/forms/MessageLoop.h"
 
 frmOptions::frmOptions(Settings& settings, const RegistryStringHandler& registry)
     : Form("frmOptions"),

@@ -5,10 +5,10 @@
 
 #include "settings/RegistryStringHandler.h"
 #include "support/AppState.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/Form.h"
-#include "toolkit/Label.h"
-#include "toolkit/ListBox.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/Label.h"
+#include "toolkit/controls/ListBox.h"
+#include "toolkit/forms/Form.h"
 
 /// Edits the settings but for the custom template. Nothing is taken over or stored before OK; the start-up
 /// notation is stored only, for the next start.

@@ -4,10 +4,10 @@
 #include <string_view>
 
 #include "support/Messages.h"
-#include "toolkit/Form.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Platform.h"
-#include "toolkit/Redraw.h"
+#include "toolkit/forms/Form.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/Platform.h"
+#include "toolkit/platform/Redraw.h"
 
 namespace {
 

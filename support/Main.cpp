@@ -5,10 +5,11 @@
 #include "support/AppState.h"
 #include "support/FatalError.h"
 #include "support/Messages.h"
-#include "toolkit/LibrarySearch.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Platform.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/LibrarySearch.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ int RunProgram(int showCommand) {
 int Main(int showCommand) {
     int exitCode = EXIT_FAILURE;
     errorTrap = HandleFatalError;
-    PrepareControls();
+    RegisterControlClasses();
     Trapped([&] { exitCode = RunProgram(showCommand); });
     return IsErrorExitInProgress() ? EXIT_FAILURE : exitCode;
 }

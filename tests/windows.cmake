@@ -20,17 +20,17 @@ add_executable(program_tests
     program/ScreenPickTest.cpp
     program/SystemColorsTest.cpp
     program/TextFitTest.cpp
-    toolkit/CellStripTest.cpp
-    toolkit/EventContractTest.cpp
-    toolkit/FormTest.cpp
-    toolkit/FormUnloadTest.cpp
-    toolkit/IconPixelsTest.cpp
-    toolkit/LabelTest.cpp
-    toolkit/ModalFormTest.cpp
-    toolkit/ModalHoldTest.cpp
-    toolkit/ScalingTest.cpp
-    toolkit/ToolBarTest.cpp
-    toolkit/YieldTest.cpp)
+    toolkit/controls/CellStripTest.cpp
+    toolkit/controls/EventContractTest.cpp
+    toolkit/controls/IconPixelsTest.cpp
+    toolkit/controls/LabelTest.cpp
+    toolkit/controls/ToolBarTest.cpp
+    toolkit/forms/FormTest.cpp
+    toolkit/forms/FormUnloadTest.cpp
+    toolkit/forms/ModalFormTest.cpp
+    toolkit/forms/ModalHoldTest.cpp
+    toolkit/forms/ScalingTest.cpp
+    toolkit/forms/YieldTest.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
 target_link_libraries(Planted PRIVATE huevox_flags)

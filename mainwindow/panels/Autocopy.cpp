@@ -4,8 +4,8 @@
 #include "core/ColorTables.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "toolkit/Clipboard.h"
-#include "toolkit/Pump.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/platform/Clipboard.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include "mainwindow/panels/CommandBar.h"
 #include "mainwindow/panels/EditState.h"
 #include "support/AppState.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/Label.h"
-#include "toolkit/ListBox.h"
-#include "toolkit/Timer.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/Label.h"
+#include "toolkit/controls/ListBox.h"
+#include "toolkit/forms/Timer.h"
 
 /// The notation list, the preview and the timer that copies it; and the copy and paste of a whole colour,
 /// which has nothing to do with the system clipboard.

@@ -5,8 +5,8 @@
 #include "core/ChannelText.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Pump.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
 
 ChannelEditors::ChannelEditors(Form& form, EditState& edit, ColorTarget& target)
     : form(form),

@@ -8,10 +8,10 @@
 #include "core/Color.h"
 #include "mainwindow/panels/ColorTarget.h"
 #include "mainwindow/panels/EditState.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/ControlArray.h"
-#include "toolkit/ScrollBar.h"
-#include "toolkit/TextBox.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/ControlArray.h"
+#include "toolkit/controls/ScrollBar.h"
+#include "toolkit/controls/TextBox.h"
 
 /// The three sliders, which are the authority for the current colour, and the typed values beside them.
 class ChannelEditors {

@@ -5,7 +5,7 @@
 
 #include "mainwindow/panels/ChannelEditors.h"
 #include "mainwindow/panels/ColorRamp.h"
-#include "toolkit/CellStrip.h"
+#include "toolkit/controls/CellStrip.h"
 
 /// The current colour in 256 steps of brightness, each of which the user can make the current one.
 class ColorBar {

@@ -6,7 +6,7 @@
 #include "core/ColorTables.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "toolkit/Pump.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 #include "mainwindow/panels/ColorTarget.h"
 #include "mainwindow/panels/EditState.h"
 #include "support/Marks.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/ControlArray.h"
-#include "toolkit/Label.h"
-#include "toolkit/PictureBox.h"
-#include "toolkit/TextBox.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/ControlArray.h"
+#include "toolkit/controls/Label.h"
+#include "toolkit/controls/PictureBox.h"
+#include "toolkit/controls/TextBox.h"
 
 class ColorMarks {
 public:

@@ -5,8 +5,8 @@
 #include "mainwindow/panels/ColorReport.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Pump.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
 
 ColorProperties::ColorProperties(const Form& form, const AppState& state, EditState& edit,
                                  CommandBar& commands, ColorMarks& marks)

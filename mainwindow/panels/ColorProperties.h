@@ -5,7 +5,7 @@
 #include "mainwindow/panels/CommandBar.h"
 #include "mainwindow/panels/EditState.h"
 #include "support/AppState.h"
-#include "toolkit/Form.h"
+#include "toolkit/forms/Form.h"
 
 class ColorProperties {
 public:

@@ -3,9 +3,9 @@
 
 #include <map>
 
-#include "toolkit/Event.h"
-#include "toolkit/Form.h"
-#include "toolkit/ToolBar.h"
+#include "toolkit/controls/ToolBar.h"
+#include "toolkit/forms/Event.h"
+#include "toolkit/forms/Form.h"
 
 /// Menu items, shortcuts and tool-bar buttons of one command have one number, IDM_<menu item>. A command that
 /// nobody answers to, or that is disabled, cannot be run in any way.

@@ -2,7 +2,7 @@
 
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "toolkit/Mouse.h"
+#include "toolkit/platform/Mouse.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include "mainwindow/panels/ColorMarks.h"
 #include "mainwindow/panels/CommandBar.h"
 #include "mainwindow/panels/ScreenPixels.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/PictureBox.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/PictureBox.h"
 
 /// Colour Pick Mode: the selected mark's sample is pressed and the pointer dragged to any pixel, whose colour
 /// is shown on the way and applied at the end.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Color.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Asks for a new context of the screen at every reading and gives none back, up to a bound: long picking
 /// must not use up what the platform has of them. The platform takes them back when the program ends.

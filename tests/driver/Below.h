@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The path that the system below the platform knows a file by.
 inline std::string SystemPathOf(const wchar_t* path) {

@@ -2,7 +2,7 @@
 
 #include "tests/driver/Input.h"
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 std::string MessageOf(HWND dialog) {
     constexpr int messageText = 0xFFFF;

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The text of a message box.
 std::string MessageOf(HWND dialog);

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// How much of the work is done: all of it, or a part for a quick look.
 struct Effort {

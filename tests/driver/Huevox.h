@@ -8,7 +8,7 @@
 #include "core/Color.h"
 #include "resources/resource.h"
 #include "tests/driver/Pixel.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Huevox.exe in a process of its own, started by the constructor and ended, by force if need be, by the
 /// destructor.

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 namespace {
 

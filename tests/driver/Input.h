@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Presses and releases a key, with the modifier keys held meanwhile, once a window takes keys.
 void Press(WORD key, std::initializer_list<WORD> modifiers = {});

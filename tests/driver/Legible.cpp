@@ -1,5 +1,4 @@
 #include "tests/driver/Legible.h"
-#include "tests/toolkit/WindowText.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +10,7 @@
 #include <vector>
 
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Color.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// What a part of the screen looks like.
 struct Look {

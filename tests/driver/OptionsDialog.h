@@ -5,7 +5,7 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Huevox.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 class OptionsDialog {
 public:

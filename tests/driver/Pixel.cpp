@@ -1,7 +1,7 @@
 #include "tests/driver/Pixel.h"
 
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Color.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The colour of a pixel of the screen.
 Color Pixel(POINT screen);

@@ -1,7 +1,7 @@
 // Stands in for another program: puts the command line it was started with into a file beside the palettes.
 #include <fstream>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/,
                    int /*nShowCmd*/) {

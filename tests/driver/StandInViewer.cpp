@@ -1,7 +1,7 @@
 // Stands in for the help viewer of the platform: puts what it is asked for into a file beside the palettes.
 #include <fstream>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/Color.h"
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 struct Theme {
     const char* name;

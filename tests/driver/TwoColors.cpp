@@ -2,7 +2,7 @@
 // ended. It has no manifest, so a system that scales such programs scales what it paints.
 #include "tests/driver/TwoColors.h"
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // What does the program that knows nothing of scaling show? In the pixels that it believes to have.
 #pragma once
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace two_colors {
 

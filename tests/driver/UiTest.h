@@ -10,7 +10,7 @@
 #include "tests/driver/Huevox.h"
 #include "tests/driver/Input.h"
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 /// Every test begins without stored settings and with an empty clipboard.
 class UiTest : public testing::Test {

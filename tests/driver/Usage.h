@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 struct Usage {
     long long bytes = 0;  ///< of memory of its own

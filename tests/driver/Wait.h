@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Milliseconds since the system's start in which a processor, of all on average, had nothing to do.
 inline ULONGLONG IdleMilliseconds() {

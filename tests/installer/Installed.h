@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// The installers that are tested: the packages of this version, and the same with a higher one.
 inline const std::filesystem::path setup{"packages-tested/Huevox-" HUEVOX_VERSION "-setup.exe"};

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "tests/driver/Wait.h"
+#include "tests/driver/WindowText.h"
 #include "tests/installer/Installed.h"
-#include "tests/toolkit/WindowText.h"
 
 namespace fs = std::filesystem;
 

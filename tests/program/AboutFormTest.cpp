@@ -7,7 +7,8 @@
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ class AboutForm : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         about.load();
         about.show(SW_SHOWNORMAL);
         PumpUntil([&] { return ::GetForegroundWindow() == about.handle(); });

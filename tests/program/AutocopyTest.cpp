@@ -4,9 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "resources/resource.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ class Preview : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         form = std::make_unique<AutocopyForm>();
     }
 

@@ -5,7 +5,8 @@
 #include "resources/resource.h"
 #include "support/AppState.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ LRESULT CALLBACK CountPaints(HWND window, UINT message, WPARAM wParam, LPARAM lP
 
 TEST(ColorBarPainting, OnceForAClickThatChangesAllThreeSliders) {
     ForgetQuit();
-    PrepareControls();
+    RegisterControlClasses();
     AppState state;
     frmMain window(state);
     window.load();

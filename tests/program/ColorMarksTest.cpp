@@ -6,7 +6,8 @@
 #include "resources/resource.h"
 #include "support/Messages.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -63,7 +64,7 @@ class Placeholders : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         form = std::make_unique<MarksForm>();
     }
 

@@ -9,9 +9,10 @@
 #include "mainwindow/frmMain.h"
 #include "resources/resource.h"
 #include "support/AppState.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ class ColorsOnTheWay : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         window.load();
         window.show(SW_SHOWNORMAL);
         window.activate();

@@ -13,11 +13,12 @@
 #include <vector>
 
 #include "support/Messages.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/MsgBox.h"
-#include "toolkit/Pump.h"
-#include "toolkit/Redraw.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/Redraw.h"
 
 namespace {
 
@@ -65,7 +66,7 @@ class FatalError : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         errorTrap = HandleFatalError;
         form.Unload.bind([this] { ++unloads; });
         form.load();

@@ -7,8 +7,8 @@
 #include <thread>
 
 #include "tests/driver/Wait.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // Can a library that somebody has planted get into the program?
-#include "toolkit/LibrarySearch.h"
+#include "toolkit/platform/LibrarySearch.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 namespace {
 

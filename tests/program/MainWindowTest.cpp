@@ -9,9 +9,10 @@
 #include "resources/resource.h"
 #include "support/AppState.h"
 #include "support/FatalError.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ class MainWindow : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         errorTrap = HandleFatalError;
         window.load();
         window.show(SW_SHOWNORMAL);

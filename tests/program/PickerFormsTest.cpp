@@ -7,7 +7,8 @@
 #include "support/AppState.h"
 #include "support/FatalError.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ class PickerForms : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         errorTrap = HandleFatalError;
         main.load();
     }

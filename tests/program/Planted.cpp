@@ -1,5 +1,5 @@
 // A library that nobody should load.
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 // NOLINTNEXTLINE(misc-use-internal-linkage): Windows calls it.
 BOOL WINAPI DllMain(HINSTANCE /*library*/, DWORD /*reason*/, LPVOID /*reserved*/) { return TRUE; }

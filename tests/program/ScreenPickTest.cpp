@@ -6,7 +6,8 @@
 #include "support/AppState.h"
 #include "tests/driver/Input.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ class LongPick : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         window.load();
         window.show(SW_SHOWNORMAL);
         window.activate();

@@ -7,7 +7,8 @@
 #include "tests/driver/Legible.h"
 #include "tests/driver/Theme.h"
 #include "tests/toolkit/TestForm.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ class ChangedSystemColors : public testing::Test {
 protected:
     void SetUp() override {
         ForgetQuit();
-        PrepareControls();
+        RegisterControlClasses();
         colors.use(whiteTheme);
         main.load();
         main.show(SW_SHOWNORMAL);

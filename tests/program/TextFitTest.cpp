@@ -6,9 +6,10 @@
 #include "mainwindow/frmMain.h"
 #include "resources/resource.h"
 #include "support/AppState.h"
+#include "tests/driver/WindowText.h"
 #include "tests/toolkit/TestForm.h"
-#include "tests/toolkit/WindowText.h"
-#include "toolkit/Pump.h"
+#include "toolkit/controls/ControlClasses.h"
+#include "toolkit/forms/MessageLoop.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ BOOL CALLBACK ExpectFit(HWND control, LPARAM parameter) {
 
 TEST(TextFit, EveryTextOfTheMainWindowFitsItsControl) {
     ForgetQuit();
-    PrepareControls();
+    RegisterControlClasses();
     AppState state;
     frmMain window(state);
     window.load();

@@ -21,17 +21,17 @@
 #ifndef RC_INVOKED
 
 #include "tests/driver/Wait.h"
-#include "toolkit/Buttons.h"
-#include "toolkit/CellStrip.h"
-#include "toolkit/ControlArray.h"
-#include "toolkit/Form.h"
-#include "toolkit/Label.h"
-#include "toolkit/ListBox.h"
-#include "toolkit/PictureBox.h"
-#include "toolkit/ScrollBar.h"
-#include "toolkit/TextBox.h"
-#include "toolkit/Timer.h"
-#include "toolkit/ToolBar.h"
+#include "toolkit/controls/Buttons.h"
+#include "toolkit/controls/CellStrip.h"
+#include "toolkit/controls/ControlArray.h"
+#include "toolkit/controls/Label.h"
+#include "toolkit/controls/ListBox.h"
+#include "toolkit/controls/PictureBox.h"
+#include "toolkit/controls/ScrollBar.h"
+#include "toolkit/controls/TextBox.h"
+#include "toolkit/controls/ToolBar.h"
+#include "toolkit/forms/Form.h"
+#include "toolkit/forms/Timer.h"
 
 struct TestForm : Form {
     TestForm() : Form("frmTest") { picContainer.hold(picTest); }

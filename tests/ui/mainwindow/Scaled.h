@@ -1,7 +1,7 @@
 // How does a test reckon with the display's scaling?
 #pragma once
 
-#include "toolkit/Platform.h"
+#include "toolkit/platform/Platform.h"
 
 /// Pixels at 96 DPI in pixels of the window.
 inline int Scaled(HWND window, int pixels) {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "tests/driver/Wait.h"
-#include "tests/toolkit/WindowText.h"
+#include "tests/driver/WindowText.h"
 
 /// Notepad's window on a file; it is closed with the value.
 class NotepadOn {

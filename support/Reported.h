@@ -1,0 +1,21 @@
+// What happens to an error that a command expects?
+#pragma once
+
+#include <exception>
+#include <utility>
+
+#include "support/Messages.h"
+#include "toolkit/forms/MsgBox.h"
+
+/// Runs body. When it fails, the user is told so in one sentence and the program goes on. True when it did
+/// not.
+template <class Body>
+bool Reported(const Form& form, const char* sentence, Body&& body) {
+    try {
+        std::forward<Body>(body)();
+        return true;
+    } catch (const std::exception&) {
+        MsgBox(&form, sentence, MB_OK | MB_ICONEXCLAMATION, messages::title);
+        return false;
+    }
+}

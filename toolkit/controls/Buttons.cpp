@@ -1,0 +1,29 @@
+#include "toolkit/controls/Buttons.h"
+
+void Button::onCommand(int /*id*/, int code) {
+    if (code == BN_CLICKED && isEnabled()) Click.raise();
+}
+
+void CheckBox::onCommand(int /*id*/, int code) {
+    if (code == BN_CLICKED && isEnabled()) Click.raise();
+}
+
+void OptionButton::turnOn() {
+    if (group.on && group.on != this) group.on->send(BM_SETCHECK, BST_UNCHECKED);
+    group.on = this;
+    send(BM_SETCHECK, BST_CHECKED);
+}
+
+void OptionButton::onCommand(int /*id*/, int code) {
+    // The platform also tells of a click on the button that is on already.
+    if (code != BN_CLICKED || !isEnabled() || value()) return;
+    turnOn();
+    Click.raise();
+}
+
+LRESULT OptionButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = Control::onMessage(message, wParam, lParam);
+    if (message == WM_SETFOCUS) GotFocus.raise();
+    if (message == WM_KILLFOCUS) LostFocus.raise();
+    return result;
+}

@@ -1,0 +1,88 @@
+#include "toolkit/controls/Control.h"
+
+#include <unordered_map>
+
+#include "toolkit/forms/Form.h"
+#include "toolkit/forms/ToolTips.h"
+
+namespace {
+
+/// Where a window finds the control that receives its messages.
+std::unordered_map<HWND, Control*> receivers;
+
+}  // namespace
+
+Control::Control(Form& form, int id) : FormPart(id), form(form) { form.join(*this); }
+
+Control::~Control() {
+    form.leave(*this);
+    if (original) ::SetWindowLongPtrA(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    receivers.erase(handle());
+}
+
+void Control::setEnabled(bool isEnabled) {
+    if (isEnabled == this->isEnabled()) return;
+    if (!isEnabled) form.focusLeaves(handle());
+    ::EnableWindow(handle(), isEnabled);
+}
+
+bool Control::isUsable() const {
+    HWND part = handle();
+    while (part && ::IsWindowEnabled(part)) {
+        if (part == form.handle()) return true;
+        part = ::GetParent(part);
+    }
+    return false;
+}
+
+void Control::setVisible(bool isVisible) {
+    if (!isVisible) form.focusLeaves(handle());
+    ::ShowWindow(handle(), isVisible ? SW_SHOWNA : SW_HIDE);
+}
+
+void Control::setFocus() {
+    if (handle()) ::SendMessageA(form.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(handle()), TRUE);
+}
+
+void Control::setToolTip(std::string_view text) {
+    tip = text;
+    form.tipChanged(*this);
+}
+
+void Control::showTips(ToolTips& toolTips) const { toolTips.set(handle(), tip); }
+
+void Control::detaching() {
+    receivers.erase(handle());
+    original = nullptr;
+}
+
+void Control::registerOwnClass(const char* name) {
+    WNDCLASSA own{};
+    own.lpfnWndProc = &Control::proc;
+    own.hInstance = ::GetModuleHandleA(nullptr);
+    own.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    own.lpszClassName = name;
+    ::RegisterClassA(&own);
+}
+
+void Control::receive() {
+    receivers[handle()] = this;
+    original = ::DefWindowProcA;
+}
+
+void Control::subclass() {
+    receivers[handle()] = this;
+    original = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::proc)));
+}
+
+LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto receiver = receivers.find(window);
+    // A window of an own class sends its first messages before its control is attached.
+    if (receiver == receivers.end()) return ::DefWindowProcA(window, message, wParam, lParam);
+    return receiver->second->onMessage(message, wParam, lParam);
+}
+
+LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return ::CallWindowProcA(original, handle(), message, wParam, lParam);
+}

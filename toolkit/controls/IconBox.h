@@ -1,0 +1,19 @@
+// How does a form show one of the program's icons as a picture?
+#pragma once
+
+#include "toolkit/controls/Control.h"
+
+/// A square window of class "PictureBox". Its picture is the icon's drawing of just that size or a larger one
+/// made smaller, never one made larger, as long as there is any.
+class IconBox : public Control {
+public:
+    /// icon is the number of an icon with drawings of 64, 128 and 256 pixels.
+    IconBox(Form& form, int id, int icon) : Control(form, id), icon(icon) {}
+
+private:
+    void attached() override { receive(); }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void paint() const;
+
+    int icon;
+};

@@ -1,0 +1,44 @@
+#include "toolkit/controls/Label.h"
+
+#include "toolkit/forms/Form.h"
+#include "toolkit/platform/WindowText.h"
+
+void Label::setText(std::string_view text) {
+    if (shown == text || !handle()) return;
+    shown = text;
+    ::SetWindowTextA(handle(), shown.c_str());
+}
+
+void Label::attached() {
+    shown = WindowText(handle());  // the template's, whatever an earlier window has shown
+    if (isField) subclass();
+}
+
+void Label::setFont(const char* face, int height) {
+    ownFace = face;
+    ownHeight = height;
+    rescaled();
+}
+
+void Label::rescaled() {
+    if (ownFace.empty()) return;
+    LOGFONTA wanted{};
+    wanted.lfHeight = -form.scaled(ownHeight);
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    ownFace.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    font = OwnedFont(::CreateFontIndirectA(&wanted));
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+}
+
+HBRUSH Label::onColor(HDC context) {
+    if (!isField) return nullptr;
+    ::SetTextColor(context, ::GetSysColor(COLOR_WINDOWTEXT));
+    ::SetBkColor(context, ::GetSysColor(COLOR_WINDOW));
+    return ::GetSysColorBrush(COLOR_WINDOW);
+}
+
+/// A field shows text as it is: no character of it is a key that leads somewhere, "&H" of Alt+H for instance.
+LRESULT Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == WM_GETDLGCODE ? 0 : Control::onMessage(message, wParam, lParam);
+}

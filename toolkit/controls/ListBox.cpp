@@ -1,0 +1,33 @@
+#include "toolkit/controls/ListBox.h"
+
+#include <string>
+
+void ListBox::addItem(std::string_view text) {
+    const std::string item(text);
+    send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+}
+
+void ListBox::setIndex(int index) {
+    const int before = this->index();
+    send(LB_SETCURSEL, static_cast<WPARAM>(index));
+    // cppcheck-suppress knownConditionTrueFalse  // it asks the window, which the call before has changed
+    if (this->index() != before) Click.raise();
+}
+
+void ListBox::onCommand(int /*id*/, int code) {
+    if (code != LBN_SELCHANGE || !isEnabled()) return;
+    hasToldOfClick = true;
+    Click.raise();
+}
+
+LRESULT ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_LBUTTONDOWN) hasToldOfClick = false;
+    const LRESULT result = Control::onMessage(message, wParam, lParam);
+    if (message == WM_LBUTTONUP && !hasToldOfClick) {
+        // A click on the current row changes no selection, so some platforms are silent about it.
+        const LRESULT row = send(LB_ITEMFROMPOINT, 0, lParam);
+        if (HIWORD(row) == 0 && LOWORD(row) == index()) Click.raise();
+        hasToldOfClick = true;
+    }
+    return result;
+}

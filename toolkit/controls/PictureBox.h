@@ -1,0 +1,47 @@
+// How does a form show a plain coloured area?
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "toolkit/controls/Control.h"
+#include "toolkit/forms/Event.h"
+
+/// A window of class "PictureBox"; it can hold other controls. With a colour of its own it has an edge, so
+/// that it is seen on a form of the same colour.
+class PictureBox : public Control {
+public:
+    using Control::Control;
+    using Control::hold;
+
+    // The mouse over the box, or anywhere while the box has captured it. Nothing is raised while the box, or
+    // what it stands in, is disabled.
+    Event<int> MouseDown;      ///< the button that was pressed
+    Event<int> MouseMove;      ///< the buttons that are held
+    Event<int> MouseUp;        ///< the button that was released
+    Event<> MouseCaptureLost;  ///< the mouse was captured and is not any more
+
+    static void registerClass() { registerOwnClass("PictureBox"); }
+
+    COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_BTNFACE)); }
+    void setBackColor(COLORREF color);
+
+    /// Shows that the focus is on the control that goes with the box.
+    void setFocusFrame(bool isWanted);
+
+    /// What screen readers say of it.
+    void setText(std::string_view text);
+
+    void captureMouse() { ::SetCapture(handle()); }
+
+private:
+    void attached() override { receive(); }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void paint() const;
+    void raiseMouse(UINT message, WPARAM wParam) const;
+
+    std::optional<COLORREF> back;  // until it has one, as the form's
+    std::string spoken;
+    bool isFocusFramed = false;
+};

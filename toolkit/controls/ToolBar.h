@@ -1,0 +1,50 @@
+// How does a form offer its commands as pictures?
+#pragma once
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/controls/Control.h"
+#include "toolkit/controls/IconPixels.h"
+
+/// A button with the number of its command; 0 makes it a separator.
+struct ToolButton {
+    int command;
+    int icon;
+    std::string_view tip;
+    bool isChoice = false;  ///< of neighbouring choices at most one is pressed, and stays so
+};
+
+/// Buttons that raise the form's Command, each with a picture and a tool tip, which it has while it is
+/// disabled too. Where the bar is a tab stop, arrows go from button to button, Space and Enter press one.
+class ToolBar : public Control {
+public:
+    using Control::Control;
+
+    /// Puts the buttons on the bar, all of them enabled, the choice of that command pressed.
+    void fill(std::span<const ToolButton> buttons, int pressed = 0);
+
+    void setButtonEnabled(int command, bool isEnabled) { send(TB_ENABLEBUTTON, command, isEnabled); }
+    bool isPressed(int command) const { return send(TB_ISBUTTONCHECKED, command) != 0; }
+    void setButtonTip(int command, std::string_view tip);
+
+private:
+    void attached() override { subclass(); }
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool onKey(WPARAM key);
+    void pressHot();
+    void rescaled() override;
+    void setSizes();
+    void setGaps() const;
+    void showTips(ToolTips& toolTips) const override;
+    void onCommand(int id, int code) override;
+
+    // They outlive the window: a form that is opened again has its pictures already.
+    OwnedImages images;
+    int drawnSize = 0;
+    std::vector<int> icons;
+    std::map<int, std::string> tips;
+};

@@ -1,0 +1,137 @@
+#include "toolkit/forms/Form.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "toolkit/forms/DialogTemplate.h"
+#include "toolkit/forms/FormPart.h"
+#include "toolkit/forms/FormWindow.h"
+#include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/Timer.h"
+#include "toolkit/forms/ToolTips.h"
+#include "toolkit/platform/WindowPlace.h"
+#include "toolkit/platform/WindowText.h"
+
+Form::Form(const char* name, int twipsPerUnit) : name(name), layout(twipsPerUnit) {}
+
+Form::~Form() {
+    if (window) ::DestroyWindow(window);
+}
+
+void Form::load() {
+    if (window) return;
+    const DialogTemplate dialog = LoadDialogTemplate(name);
+    createFrame(dialog);
+    for (const TemplateItem& item : dialog.items) createControl(item);
+    accelerators = ::LoadAcceleratorsA(::GetModuleHandleA(nullptr), name);
+    for (const Timer* timer : timers) timer->start(window);
+    Load.pass();
+    if (window) state = State::loaded;
+}
+
+void Form::createFrame(const DialogTemplate& dialog) {
+    state = State::loading;
+    formBeingCreated = this;
+    layout.begin(dialog, static_cast<int>(owner ? ::GetDpiForWindow(owner) : ::GetDpiForSystem()));
+    const Area place = firstPlace(layout.frameSize());
+    CreateFormWindow(name, dialog, place, owner, &Form::proc);
+    formBeingCreated = nullptr;
+    if (!window) throw std::runtime_error("the platform refused a window");
+    loadedForms.push_back(this);
+    modalHold.join(window);
+    layout.attach(window);
+    const SIZE frame = layout.frameSize();
+    // Its monitor has another scaling, or the platform has cut off a window that is larger than the screen.
+    if (PlaceOf(window) != Area{place.left, place.top, place.left + frame.cx, place.top + frame.cy})
+        PlaceAt(window, firstPlace(frame));
+}
+
+Area Form::firstPlace(const SIZE& frame) { return CenteredPlace(owner, frame); }
+
+void Form::createControl(const TemplateItem& item) {
+    FormPart* part = parts.withId(static_cast<int>(item.id));
+    const FormPart* container = part ? part->container : nullptr;
+    const HWND created = layout.create(container ? container->window : window, item);
+    if (!created) throw std::runtime_error("the platform refused a control");
+    if (part) part->attach(created);
+    if (::SendMessageA(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
+        ::SendMessageA(window, DM_SETDEFID, item.id, 0);
+}
+
+void Form::show(int showCommand) { ::ShowWindow(window, showCommand); }
+
+void Form::showModal(const Form& over) {
+    owner = over.window;
+    load();
+    ::EnableWindow(owner, FALSE);
+    show(SW_SHOW);
+    if (!::IsChild(window, ::GetFocus())) ::SetFocus(::GetNextDlgTabItem(window, nullptr, FALSE));
+    activate();
+    RunModalLoop(*this);
+}
+
+void Form::activate() {
+    isActivatePending = false;
+    if (state != State::loaded) return;
+    layout.fit();
+    Activate.raise();
+}
+
+void Form::unload() {
+    if (!window || state == State::unloading || !mayUnload()) return;
+    close();
+}
+
+bool Form::mayUnload() {
+    bool isCancelled = false;
+    isAsking = true;
+    QueryUnload.raise(isCancelled);
+    isAsking = false;
+    return !isCancelled;
+}
+
+void Form::close() {
+    if (!window) return;
+    state = State::unloading;
+    Unload.raise();
+    // Before the window goes, or the focus would fall to another program.
+    if (owner) ::EnableWindow(owner, TRUE);
+    ::DestroyWindow(window);
+}
+
+void Form::unloadAll(const Form* except) {
+    const std::vector<Form*> forms = loadedForms;
+    for (Form* form : forms) {
+        if (form != except) form->unload();
+    }
+}
+
+void Form::stopAllTimers() {
+    for (const Form* form : loadedForms) {
+        for (const Timer* timer : form->timers) timer->stop(form->window);
+    }
+}
+
+std::string Form::text() const { return WindowText(window); }
+
+void Form::setText(std::string_view caption) { ::SetWindowTextA(window, std::string(caption).c_str()); }
+
+void Form::setPointer(HCURSOR shape) {
+    pointer = shape;
+    ::SetCursor(shape ? shape : ::LoadCursorA(nullptr, IDC_ARROW));
+}
+
+void Form::setMenuItemEnabled(int command, bool isEnabled) {
+    ::EnableMenuItem(::GetMenu(window), command, MF_BYCOMMAND | (isEnabled ? MF_ENABLED : MF_GRAYED));
+}
+
+void Form::tipChanged(const FormPart& part) {
+    if (toolTips) part.showTips(*toolTips);
+}
+
+void Form::focusLeaves(HWND leaving) {
+    // Posted, so that the next control is looked for when the handler has enabled and disabled all that it
+    // will.
+    if (leaving && ::GetFocus() == leaving)
+        ::PostMessageA(window, focusLeftMessage, 0, reinterpret_cast<LPARAM>(leaving));
+}

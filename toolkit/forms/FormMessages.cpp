@@ -1,0 +1,214 @@
+#include <algorithm>
+
+#include "toolkit/forms/Form.h"
+#include "toolkit/forms/FormPart.h"
+#include "toolkit/forms/Timer.h"
+#include "toolkit/forms/ToolTips.h"
+
+namespace {
+
+constexpr UINT activatedMessage = WM_APP + 1;
+
+HWND Window(LPARAM parameter) { return reinterpret_cast<HWND>(parameter); }
+
+BOOL CALLBACK PassOn(HWND child, LPARAM message) {
+    ::SendMessageA(child, static_cast<UINT>(message), 0, 0);
+    return TRUE;
+}
+
+/// The form's focus moves on from a control that has left, unless another control has it by now, or this one
+/// is back.
+void MoveFocusOn(HWND form, HWND left) {
+    const HWND focus = ::GetFocus();
+    if (focus && focus != form && focus != left) return;
+    const bool isLeftUsable = ::IsWindowEnabled(left) && ::IsWindowVisible(left);
+    const HWND next = isLeftUsable ? left : ::GetNextDlgTabItem(form, left, FALSE);
+    ::SendMessageA(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+}
+
+}  // namespace
+
+/// What a form does about the platform's messages.
+class Form::Receiver {
+public:
+    explicit Receiver(Form& form) : form(form) {}
+
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+private:
+    LRESULT onCommand(int id, int code, HWND sender);
+    LRESULT onScroll(int code, int position, HWND sender);
+    LRESULT onColor(HDC context, HWND sender);
+    LRESULT onTimer(UINT_PTR id);
+    LRESULT onClose();
+    LRESULT onQueryEndSession();
+    LRESULT onEndSession(bool isEnding);
+    LRESULT onActivated();
+    LRESULT onFocusLeft(HWND left);
+    LRESULT onScalingWanted(int dpi, SIZE& size);
+    LRESULT onScaling(int dpi, const RECT& suggested);
+    void onActivate(int how);
+    void onEnable(bool isEnabled);
+    bool onMouse();
+    void onDestroyed();
+
+    Form& form;
+};
+
+bool Form::preTranslate(MSG& message) {
+    if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
+    const HWND root = ::GetAncestor(message.hwnd, GA_ROOT);
+    const auto found = std::ranges::find(loadedForms, root, &Form::window);
+    if (found == loadedForms.end()) return false;
+    const Form& form = **found;
+    if (form.accelerators && ::TranslateAcceleratorA(form.window, form.accelerators, &message)) return true;
+    return ::IsDialogMessageA(form.window, &message) != FALSE;
+}
+
+LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto found = std::ranges::find(loadedForms, window, &Form::window);
+    if (found != loadedForms.end()) return Receiver(**found).onMessage(message, wParam, lParam);
+    if (!formBeingCreated) return ::DefDlgProcA(window, message, wParam, lParam);
+    formBeingCreated->window = window;
+    return Receiver(*formBeingCreated).onMessage(message, wParam, lParam);
+}
+
+LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND window = form.window;  // onDestroyed forgets it
+    switch (message) {
+        case WM_COMMAND: return onCommand(LOWORD(wParam), HIWORD(wParam), Window(lParam));
+        case WM_HSCROLL: return onScroll(LOWORD(wParam), HIWORD(wParam), Window(lParam));
+        case WM_TIMER: return onTimer(wParam);
+        case WM_CLOSE: return onClose();
+        case WM_QUERYENDSESSION: return onQueryEndSession();
+        case WM_ENDSESSION: return onEndSession(wParam != FALSE);
+        case WM_GETDPISCALEDSIZE:
+            return onScalingWanted(static_cast<int>(wParam), *reinterpret_cast<SIZE*>(lParam));
+        case WM_DPICHANGED: return onScaling(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+        case activatedMessage: return onActivated();
+        case focusLeftMessage: return onFocusLeft(Window(lParam));
+        case WM_CTLCOLORDLG:
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC:
+            if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), Window(lParam))) return brush;
+            break;
+        case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
+        case WM_ENABLE: onEnable(wParam != FALSE); break;
+        case WM_ACTIVATE: onActivate(LOWORD(wParam)); break;
+        case WM_SETCURSOR:
+            if (onMouse()) return TRUE;
+            break;
+        case WM_NCDESTROY: onDestroyed(); break;
+        default: break;
+    }
+    return ::DefDlgProcA(window, message, wParam, lParam);
+}
+
+/// While a modal window has disabled the form, its commands are ignored by every way in.
+LRESULT Form::Receiver::onCommand(int id, int code, HWND sender) {
+    if (FormPart* part = form.parts.withWindow(sender)) {
+        part->onCommand(id, code);
+    } else if (!sender && ::IsWindowEnabled(form.window)) {
+        form.Command.raise(id);
+    }
+    return 0;
+}
+
+LRESULT Form::Receiver::onScroll(int code, int position, HWND sender) {
+    if (FormPart* part = form.parts.withWindow(sender)) part->onScroll(code, position);
+    return 0;
+}
+
+LRESULT Form::Receiver::onColor(HDC context, HWND sender) {
+    // The brush of a colour may be another one when the user has changed the theme.
+    if (sender == form.window) return reinterpret_cast<LRESULT>(::GetSysColorBrush(form.background));
+    FormPart* part = form.parts.withWindow(sender);
+    return part ? reinterpret_cast<LRESULT>(part->onColor(context)) : 0;
+}
+
+LRESULT Form::Receiver::onTimer(UINT_PTR id) {
+    const auto timer = std::ranges::find(form.timers, id, &Timer::id);
+    if (timer != form.timers.end() && form.isLoaded()) (*timer)->Tick.raise();
+    return 0;
+}
+
+LRESULT Form::Receiver::onClose() {
+    if (::IsWindowEnabled(form.window)) form.unload();
+    return 0;
+}
+
+/// Answers whether the session may end. A question that is open already is answered first.
+LRESULT Form::Receiver::onQueryEndSession() { return !form.isAsking && form.mayUnload(); }
+
+LRESULT Form::Receiver::onEndSession(bool isEnding) {
+    if (isEnding) form.close();
+    return 0;
+}
+
+/// The platform asks how large the window will be at another scaling.
+LRESULT Form::Receiver::onScalingWanted(int dpi, SIZE& size) {
+    size = form.layout.frameSize(dpi);
+    return TRUE;
+}
+
+/// The window has come to a monitor of another scaling, or the user has changed it.
+LRESULT Form::Receiver::onScaling(int dpi, const RECT& suggested) {
+    form.layout.rescale(dpi, {suggested.left, suggested.top});
+    form.parts.rescaled();
+    if (form.toolTips) form.parts.showTips(*form.toolTips);
+    ::RedrawWindow(form.window, nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN);
+    return 0;
+}
+
+void Form::Receiver::onActivate(int how) {
+    form.isActive = how != WA_INACTIVE;
+    if (!form.isLoaded()) return;
+    if (how == WA_INACTIVE) {
+        form.Deactivate.raise();
+    } else if (how == WA_CLICKACTIVE) {
+        // Before the click reaches its control: what the user chooses by it comes last.
+        form.activate();
+    } else {
+        // The message arrives inside the platform's own work, the closing of a message box for instance.
+        form.isActivatePending = true;
+        ::PostMessageA(form.window, activatedMessage, 0, 0);
+    }
+}
+
+LRESULT Form::Receiver::onActivated() {
+    if (form.isActive && form.isActivatePending) form.activate();
+    return 0;
+}
+
+LRESULT Form::Receiver::onFocusLeft(HWND left) {
+    if (form.isActive) MoveFocusOn(form.window, left);
+    return 0;
+}
+
+void Form::Receiver::onEnable(bool isEnabled) {
+    modalHold.changed(form.window, isEnabled);
+    // The tip of a form that a dialog holds would lie over the dialog.
+    if (form.toolTips) form.toolTips->setShown(isEnabled);
+}
+
+/// The mouse is over the form: the first time for a tool tip to be of use. True when the form gives the
+/// pointer its shape.
+bool Form::Receiver::onMouse() {
+    if (!form.toolTips && form.isLoaded()) {
+        form.toolTips = std::make_unique<ToolTips>(form.window);
+        form.parts.showTips(*form.toolTips);
+    }
+    if (form.pointer) ::SetCursor(form.pointer);
+    return form.pointer != nullptr;
+}
+
+void Form::Receiver::onDestroyed() {
+    form.parts.detachAll();
+    modalHold.leave(form.window);
+    form.toolTips.reset();
+    std::erase(loadedForms, &form);
+    form.window = nullptr;
+    form.owner = nullptr;
+    form.state = State::unloaded;
+    if (loadedForms.empty()) ::PostQuitMessage(0);
+}

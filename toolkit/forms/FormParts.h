@@ -1,0 +1,28 @@
+// Which controls does a form have?
+#pragma once
+
+#include <vector>
+
+#include "toolkit/platform/Platform.h"
+
+class FormPart;
+class ToolTips;
+
+/// The controls of one form, which live elsewhere.
+class FormParts {
+public:
+    void add(FormPart& part) { parts.push_back(&part); }
+    void remove(const FormPart& part) { std::erase(parts, &part); }
+
+    /// nullptr when the form has a window of that id, or that window, without a control.
+    FormPart* withId(int id) const;
+    FormPart* withWindow(HWND window) const;
+
+    void showTips(ToolTips& toolTips) const;
+    /// The form has another scaling, and its controls are in their new places.
+    void rescaled() const;
+    void detachAll() const;
+
+private:
+    std::vector<FormPart*> parts;
+};

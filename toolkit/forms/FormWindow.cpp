@@ -1,0 +1,126 @@
+#include "toolkit/forms/FormWindow.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <map>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "toolkit/platform/WindowPlace.h"
+
+namespace {
+
+constexpr int programIcon = 1;  // the lowest number, which the platform takes for the program's picture too
+
+HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
+
+const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
+
+void RegisterFormClass(const char* name, DWORD exStyle, WNDPROC proc) {
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    if (::GetClassInfoExA(Instance(), name, &windowClass)) return;  // the form has been loaded before
+    windowClass.lpfnWndProc = proc;
+    windowClass.cbWndExtra = DLGWINDOWEXTRA;
+    windowClass.hInstance = Instance();
+    // A tool window shows its picture nowhere.
+    const bool hasPicture = !(exStyle & WS_EX_TOOLWINDOW);
+    windowClass.hIcon = hasPicture ? ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon)) : nullptr;
+    windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    windowClass.lpszClassName = name;
+    ::RegisterClassExA(&windowClass);
+}
+
+bool IsFace(HDC context, std::string_view face) {
+    std::array<char, LF_FACESIZE> selected{};
+    ::GetTextFaceA(context, selected.size(), selected.data());
+    return face == selected.data();
+}
+
+OwnedFont SegoeUi(int dpi) {
+    LOGFONTA wanted{};
+    wanted.lfHeight = -::MulDiv(9, dpi, 72);
+    wanted.lfWeight = FW_NORMAL;
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    constexpr std::string_view face = "Segoe UI";
+    face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    OwnedFont font(::CreateFontIndirectA(&wanted));
+    const HDC screen = ::GetDC(nullptr);
+    const HGDIOBJ previous = ::SelectObject(screen, font.get());
+    const bool isThere = IsFace(screen, face);
+    ::SelectObject(screen, previous);
+    ::ReleaseDC(nullptr, screen);
+    return isThere ? std::move(font) : OwnedFont();
+}
+
+OwnedFont PlatformsFont(int dpi) {
+    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+}  // namespace
+
+DialogTemplate LoadDialogTemplate(const char* name) {
+    const HRSRC found = ::FindResourceA(Instance(), name, RT_DIALOG);
+    const HGLOBAL loaded = found ? ::LoadResource(Instance(), found) : nullptr;
+    if (!loaded) throw std::runtime_error("no dialog template of that name");
+    const auto* bytes = static_cast<const std::byte*>(::LockResource(loaded));
+    return ParseDialogTemplate({bytes, ::SizeofResource(Instance(), found)});
+}
+
+// Not by the dialog manager, which would create it of another size, at another place.
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
+                      WNDPROC proc) {
+    RegisterFormClass(name, layout.exStyle, proc);
+    const std::wstring className(name, name + std::strlen(name));
+    Owned<HMENU, &::DestroyMenu> menu(layout.menu.empty() ? nullptr
+                                                          : ::LoadMenuW(Instance(), Wide(layout.menu)));
+    const HWND window =
+        ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style, place.left,
+                          place.top, place.width(), place.height(), owner, menu.get(), Instance(), nullptr);
+    if (window) menu.release();  // it is the window's own from now on
+    return window;
+}
+
+SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int dpi) {
+    RECT area = {0, 0, clientWidth, clientHeight};
+    ::AdjustWindowRectExForDpi(&area, frame.style, frame.hasMenu, frame.exStyle, dpi);
+    return {area.right - area.left, area.bottom - area.top};
+}
+
+Area CenteredPlace(HWND owner, const SIZE& frame) {
+    const int width = frame.cx;
+    const int height = frame.cy;
+    const Area work = WorkAreaAt(owner);
+    const Area middle = owner ? PlaceOf(owner) : work;
+    const auto start = [](int from, int to, int size) { return from + (to - from - size) / 2; };
+    const auto limited = [](int value, int low, int high) { return std::max(low, std::min(value, high)); };
+    const int left = limited(start(middle.left, middle.right, width), work.left, work.right - width);
+    const int top = limited(start(middle.top, middle.bottom, height), work.top, work.bottom - height);
+    return {left, top, left + width, top + height};
+}
+
+HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
+    const HWND control = ::CreateWindowExW(
+        item.exStyle | WS_EX_NOPARENTNOTIFY, Wide(item.className), Wide(item.text), item.style | WS_CHILD,
+        place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.id)), Instance(), nullptr);
+    ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    return control;
+}
+
+HFONT MessageFont(int dpi) {
+    // All forms share them: to find out whether a font is there takes longer than to create a control.
+    static std::map<int, OwnedFont> fonts;
+    OwnedFont& font = fonts[dpi];
+    if (!font) font = SegoeUi(dpi);
+    if (!font) font = PlatformsFont(dpi);
+    return font.get();
+}

@@ -1,0 +1,36 @@
+// How are a form's windows made from its template?
+#pragma once
+
+#include "toolkit/forms/DialogTemplate.h"
+#include "toolkit/platform/Handles.h"
+#include "toolkit/platform/Platform.h"
+#include "toolkit/platform/Twips.h"
+
+/// The program's dialog resource of that name. Throws std::runtime_error when there is none.
+DialogTemplate LoadDialogTemplate(const char* name);
+
+/// Creates the form's own window, hidden and without controls, of the window class name with that procedure,
+/// owned by owner if that is not nullptr. The procedure gets its first message before this returns. Returns
+/// nullptr when the platform refuses.
+HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
+                      WNDPROC proc);
+
+/// What a window's frame consists of.
+struct FrameStyle {
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    bool hasMenu = false;
+};
+
+/// The size of a window with its frame that has a client area of that size, in pixels.
+SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int dpi);
+
+/// In the middle of the owner, but on its monitor; without an owner, of the work area.
+Area CenteredPlace(HWND owner, const SIZE& frame);
+
+/// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
+HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);
+
+/// Segoe UI in 9 points where there is one, else the font that the platform shows messages in. It stays as
+/// long as the program runs.
+HFONT MessageFont(int dpi);

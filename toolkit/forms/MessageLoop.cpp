@@ -1,0 +1,40 @@
+#include "toolkit/forms/MessageLoop.h"
+
+#include "toolkit/forms/Form.h"
+#include "toolkit/platform/Platform.h"
+
+namespace {
+
+void Deliver(MSG& message) {
+    if (Form::preTranslate(message)) return;
+    ::TranslateMessage(&message);
+    ::DispatchMessageA(&message);
+}
+
+}  // namespace
+
+int RunMessageLoop() {
+    MSG message{};
+    while (::GetMessageA(&message, nullptr, 0, 0) > 0) Deliver(message);
+    return static_cast<int>(message.wParam);
+}
+
+void RunModalLoop(const Form& form) {
+    MSG message{};
+    while (form.isLoaded()) {
+        if (::GetMessageA(&message, nullptr, 0, 0) <= 0) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));  // it is the program's own loop that ends
+            return;
+        }
+        Deliver(message);
+    }
+}
+
+void Yield() {
+    constexpr int limit = 1000;  // a window that never calls itself painted must not hold the program up
+    MSG message;
+    for (int count = 0; count < limit; ++count) {
+        if (!::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
+        ::DispatchMessageA(&message);
+    }
+}
