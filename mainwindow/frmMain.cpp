@@ -1,5 +1,6 @@
 #include "mainwindow/frmMain.h"
 
+#include "mainwindow/panels/Turn.h"
 #include "resources/resource.h"
 #include "settings/LoadSettings.h"
 #include "support/FatalError.h"

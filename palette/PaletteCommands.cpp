@@ -13,6 +13,7 @@
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/MsgBox.h"
 #include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/FlagGuard.h"
 
 PaletteCommands::PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
                                  ChannelEditors& channels, ColorMarks& marks, ColorTarget& target)

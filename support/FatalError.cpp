@@ -6,6 +6,7 @@
 #include "support/Messages.h"
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/FlagGuard.h"
 #include "toolkit/platform/Platform.h"
 #include "toolkit/platform/Redraw.h"
 
@@ -50,9 +51,8 @@ void HandleFatalError() {
     Quiet();
     if (!errorMessageShown) {
         errorMessageShown = true;
-        isTelling = true;
+        const Raised telling(isTelling);
         MsgBox(nullptr, messages::unexpectedError, MB_OK | MB_ICONERROR | MB_TASKMODAL, messages::title);
-        isTelling = false;
     }
     ::EnumThreadWindows(::GetCurrentThreadId(), EndModalDialog, 0);
     Form::unloadAll();

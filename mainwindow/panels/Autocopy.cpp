@@ -2,10 +2,12 @@
 
 #include "core/ColorCode.h"
 #include "core/ColorTables.h"
+#include "mainwindow/panels/Turn.h"
 #include "resources/resource.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/platform/Clipboard.h"
+#include "toolkit/platform/FlagGuard.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "support/Messages.h"
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/FlagGuard.h"
 
 ChannelEditors::ChannelEditors(Form& form, EditState& edit, ColorTarget& target)
     : form(form),

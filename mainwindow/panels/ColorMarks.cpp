@@ -7,6 +7,7 @@
 #include "resources/resource.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MessageLoop.h"
+#include "toolkit/platform/FlagGuard.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "support/Messages.h"
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/FlagGuard.h"
 
 ColorProperties::ColorProperties(const Form& form, const AppState& state, EditState& edit,
                                  CommandBar& commands, ColorMarks& marks)

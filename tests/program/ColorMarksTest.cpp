@@ -8,6 +8,7 @@
 #include "tests/toolkit/TestForm.h"
 #include "toolkit/controls/ControlClasses.h"
 #include "toolkit/forms/MessageLoop.h"
+#include "toolkit/platform/FlagGuard.h"
 
 namespace {
 

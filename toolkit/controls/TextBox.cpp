@@ -4,6 +4,7 @@
 
 #include "toolkit/controls/Keys.h"
 #include "toolkit/forms/Form.h"
+#include "toolkit/platform/FlagGuard.h"
 #include "toolkit/platform/WindowText.h"
 
 void TextBox::attached() {
@@ -21,9 +22,10 @@ std::string TextBox::text() const {
 void TextBox::setText(std::string_view text) {
     const std::string wanted(text);
     if (this->text() == wanted) return;
-    isSettingText = true;
-    ::SetWindowTextA(handle(), wanted.c_str());
-    isSettingText = false;
+    {
+        const Raised setting(isSettingText);
+        ::SetWindowTextA(handle(), wanted.c_str());
+    }
     known.reset();
     if (handle()) Change.raise();
 }

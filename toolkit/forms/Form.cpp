@@ -9,6 +9,7 @@
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/Timer.h"
 #include "toolkit/forms/ToolTips.h"
+#include "toolkit/platform/FlagGuard.h"
 #include "toolkit/platform/WindowPlace.h"
 #include "toolkit/platform/WindowText.h"
 
@@ -84,9 +85,8 @@ void Form::unload() {
 
 bool Form::mayUnload() {
     bool isCancelled = false;
-    isAsking = true;
+    const Raised asking(isAsking);
     QueryUnload.raise(isCancelled);
-    isAsking = false;
     return !isCancelled;
 }
 

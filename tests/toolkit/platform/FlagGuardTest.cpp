@@ -1,4 +1,4 @@
-#include "mainwindow/panels/EditState.h"
+#include "toolkit/platform/FlagGuard.h"
 
 #include <gtest/gtest.h>
 
@@ -62,13 +62,4 @@ TEST(Raised, AnErrorPutsTheFlagBack) {
         EXPECT_STREQ(error.what(), "unexpected");
     }
     EXPECT_FALSE(flag);
-}
-
-TEST(Turn, IsOvertakenByANewerOne) {
-    unsigned turns = 0;
-    const Turn older(turns);
-    EXPECT_FALSE(older.isOvertaken());
-    const Turn newer(turns);
-    EXPECT_TRUE(older.isOvertaken());
-    EXPECT_FALSE(newer.isOvertaken());
 }
