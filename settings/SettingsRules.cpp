@@ -24,12 +24,14 @@ bool IsFolder(std::string_view text, const TextChecks& checks) {
     return text.empty() || checks.isValidFolder(text);
 }
 
-template <int Settings::*member>
+using NumberSetting = int Settings::*;
+
+template <NumberSetting member>
 void HoldNumber(AppState& state, std::string_view text) {
     std::from_chars(text.data(), text.data() + text.size(), state.settings.*member);
 }
 
-template <int Settings::*member>
+template <NumberSetting member>
 std::string NumberText(const AppState& state) {
     return std::to_string(state.settings.*member);
 }

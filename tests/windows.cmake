@@ -38,7 +38,7 @@ add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
 # To read the framework takes longer than to compile a test.
-target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
+target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 
 # What acts on the running program from another process, by real keys and mouse.
 add_library(ui_driver STATIC
@@ -112,7 +112,7 @@ add_executable(ui_tests
     ui/settings/SettingsFaultTest.cpp
     ui/settings/SettingsTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
-target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/Platform.h)
+target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox)
 
