@@ -1,5 +1,5 @@
-# Read by the runner: adds the tests that cmake/Suites.cmake has described. The suites are kept until the program is
-# built anew. Each leaves its figures in results/.
+# Read by the test runner: adds the tests that cmake/Suites.cmake has described. The list of suites is kept until the program
+# is rebuilt. Each suite leaves its figures in results/.
 if(NOT EXISTS ${program})
     add_test(${prefix}.is_built ${program})
     return()

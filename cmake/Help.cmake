@@ -1,4 +1,4 @@
-# The help beside the program, compiled from its pages.
+# The help file, compiled from its pages and put beside the program.
 find_program(CHMCMD chmcmd REQUIRED)
 
 set(help_compile ${PROJECT_SOURCE_DIR}/help/compile)

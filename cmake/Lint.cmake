@@ -15,7 +15,7 @@ file(GLOB_RECURSE all_sources CONFIGURE_DEPENDS ${source_patterns})
 set(tidy_arguments -std=c++20 -I${PROJECT_SOURCE_DIR} -DHUEVOX_TEST_FILES="files/"
     -DHUEVOX_COLOR_NAMES="index.js" -DHUEVOX_HELP_TOPICS="topics/" -I${PROJECT_BINARY_DIR}/help)
 if(WIN32)
-    # clang knows the target, but not where the cross compiler keeps its headers.
+    # clang knows the target, but not where the cross compiler's headers are.
     list(APPEND tidy_arguments --target=${HUEVOX_TARGET}-w64-mingw32 -isystem /usr/src/googletest/googletest/include)
     foreach(dir IN LISTS CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES)
         if(NOT dir MATCHES "/lib/gcc/.*/include(-fixed)?$")
@@ -29,8 +29,8 @@ if(WIN32)
         -DHUEVOX_VERSION="1.2.3" -DHUEVOX_NEWER_VERSION="1.2.4")
 endif()
 
-# tidy_unit(NAME TARGET...): has the targets' sources checked, except those of units before. They are read as one, because
-# the headers of the platform and of the library take far longer than the sources.
+# tidy_unit(NAME TARGET...): checks the targets' sources, except those of earlier units. They are read as one file, because
+# the headers of Windows and of the standard library take far longer than the sources.
 function(tidy_unit name)
     get_property(read_before GLOBAL PROPERTY tidy_sources)
     set(sources "")
@@ -67,7 +67,7 @@ function(tidy_test)
     get_property(stamps GLOBAL PROPERTY tidy_stamps)
     add_custom_target(tidy DEPENDS ${stamps})
     get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
-    # What the tests with windows leave of the processors is enough for it.
+    # The processor time that the tests with windows leave unused is enough for it.
     add_test(NAME lint.tidy.${preset} COMMAND nice ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target tidy)
     set_tests_properties(lint.tidy.${preset} PROPERTIES TIMEOUT 3000 COST 800)
 endfunction()

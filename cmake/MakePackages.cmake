@@ -1,5 +1,5 @@
-# Makes a zip and an installer of the files that CPack has collected: their bytes depend on the files and on the date
-# of the commit (or SOURCE_DATE_EPOCH), and on nothing else.
+# Makes a zip and an installer of the files that CPack has collected. Their bytes depend only on the files and on the date of
+# the commit (or SOURCE_DATE_EPOCH).
 set(epoch $ENV{SOURCE_DATE_EPOCH})
 if(NOT epoch)
     execute_process(
@@ -24,7 +24,7 @@ execute_process(
     COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND convert ${picture}.png -alpha off BMP3:${picture}.bmp COMMAND_ERROR_IS_FATAL ANY)
 
-# Both hold the dates of their files; a zip as the time of day, of whichever place.
+# Both contain the dates of their files; a zip as local time.
 execute_process(
     COMMAND touch --date=@${epoch} ${files} ${picture}.bmp WORKING_DIRECTORY ${folder} COMMAND_ERROR_IS_FATAL ANY)
 set(ENV{TZ} UTC)

@@ -1,9 +1,9 @@
-# What is installed, and what packages are made of it: run ./package, or cpack in a build of the product.
+# What is installed, and how it is packaged: run ./package, or cpack in a build of the product.
 configure_file(LICENSE ${PROJECT_BINARY_DIR}/installer/LICENSE.txt NEWLINE_STYLE CRLF)
 configure_file(installer/README.txt.in ${PROJECT_BINARY_DIR}/installer/README.txt @ONLY NEWLINE_STYLE CRLF)
 configure_file(installer/THIRD-PARTY.txt ${PROJECT_BINARY_DIR}/installer/THIRD-PARTY.txt NEWLINE_STYLE CRLF)
 
-# Packages hold the product, not the tests: they need not be built for them.
+# Packages contain the product, not the tests, which need not be built for them.
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 install(TARGETS Huevox RUNTIME DESTINATION .)
 install(FILES
@@ -13,8 +13,8 @@ install(FILES
     ${PROJECT_BINARY_DIR}/installer/THIRD-PARTY.txt
     DESTINATION .)
 
-# Zips of CPack's own hold owners and the hours of the day where they were made, and its installers ask for an
-# administrator; so CPack collects the files, and a script makes both packages of them.
+# CPack's own zips contain owners and local times, and its installers ask for an administrator. So CPack only collects the
+# files, and a script makes both packages.
 set(CPACK_GENERATOR External)
 set(CPACK_EXTERNAL_ENABLE_STAGING ON)
 set(CPACK_EXTERNAL_PACKAGE_SCRIPT ${PROJECT_SOURCE_DIR}/cmake/MakePackages.cmake)

@@ -9,7 +9,7 @@ set(rendered_dir ${PROJECT_BINARY_DIR}/icons)
 file(MAKE_DIRECTORY ${rendered_dir})
 set(icons "")
 
-# render_icon(NAME SIZE...): NAME may end in ".full", which its drawing's name does not.
+# render_icon(NAME SIZE...): NAME may end in ".full", which is not part of the drawing's name.
 function(render_icon name)
     string(REPLACE ".full" "" drawing ${name})
     file(GLOB drawings CONFIGURE_DEPENDS ${icon_dir}/${drawing}.svg ${icon_dir}/*/${drawing}.svg)
@@ -47,7 +47,7 @@ configure_file(resources/app.manifest.in ${PROJECT_BINARY_DIR}/resources/app.man
 file(GLOB resource_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.rc
     ${PROJECT_BINARY_DIR}/resources/*.manifest ${PROJECT_SOURCE_DIR}/*/*.rc ${PROJECT_SOURCE_DIR}/*/*.rc.h)
 
-# add_resources(LIBRARY FILE): an object library of a resource script and all that it takes in.
+# add_resources(LIBRARY FILE): an object library of a resource script and everything it includes.
 function(add_resources library file)
     add_library(${library} OBJECT ${file})
     target_include_directories(${library} PRIVATE

@@ -1,6 +1,6 @@
-# suite_tests(TARGET PREFIX FILTER PROPERTY VALUE ...): a test for each suite of a Windows program that the filter lets
-# through, because to start a program takes Wine longer than most tests do. The runner asks the program for its suites
-# when it has a desktop to start it on.
+# suite_tests(TARGET PREFIX FILTER PROPERTY VALUE ...): one test for each suite of a Windows program that the filter lets
+# through, because starting a program under Wine takes longer than most tests. The runner asks the program for its suites once
+# there is a desktop to start it on.
 function(suite_tests target prefix filter)
     set(script ${CMAKE_CURRENT_BINARY_DIR}/${prefix}.suites.cmake)
     file(GENERATE OUTPUT ${script} CONTENT

@@ -1,4 +1,4 @@
-# How the code is built for Windows: small, hardened, from nothing but what Windows has, and the same bytes every time.
+# How the code is built for Windows: small, hardened, using only what is part of Windows, and the same bytes every time.
 enable_language(RC)
 target_compile_definitions(huevox_flags INTERFACE
     WIN32_LEAN_AND_MEAN NOMINMAX STRICT
@@ -8,5 +8,5 @@ target_compile_options(huevox_flags INTERFACE -ffunction-sections -fdata-section
 target_link_options(huevox_flags INTERFACE
     -static -s -fstack-protector-strong -Wl,--gc-sections -Wl,--no-insert-timestamp
     -Wl,--dynamicbase -Wl,--nxcompat $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-Wl,--high-entropy-va>
-    # Sections that lie on pages of the file are mapped from it, not read into memory of the process's own.
+    # Sections that lie on whole pages of the file are mapped from it, not read into the process's own memory.
     -Wl,--file-alignment,4096)

@@ -1,5 +1,5 @@
-; Installs Huevox for the user who runs this, without an administrator: files, a Start-menu entry and an entry in the
-; system's list of programs. Needs VERSION, FILES (the folder of what is installed), ICON, PICTURE and OUTPUT.
+; Installs Huevox for the current user, without an administrator: files, a Start-menu entry and an entry in the system's list
+; of programs. Needs VERSION, FILES (the folder of the files to install), ICON, PICTURE and OUTPUT.
 Target amd64-unicode
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -19,7 +19,7 @@ SpaceTexts none
 ManifestDPIAware true
 ManifestSupportedOS Win10
 InstallDir "$LOCALAPPDATA\Programs\Huevox"
-; A newer version goes where the older one is.
+; A newer version replaces the older one in its folder.
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" InstallLocation
 
 VIProductVersion "${VERSION}.0"
@@ -87,13 +87,13 @@ SectionEnd
 Section "un.Huevox"
     SectionIn RO
     !insertmacro RefuseWhileRunning remove
-    ; By name: the folder may hold palettes by now.
+    ; By name: by now the folder may contain palettes.
     Delete "$INSTDIR\Huevox.exe"
     Delete "$INSTDIR\huevox.chm"
     Delete "$INSTDIR\LICENSE.txt"
     Delete "$INSTDIR\README.txt"
     Delete "$INSTDIR\THIRD-PARTY.txt"
-    ; The process that has started this one may take a moment to end.
+    ; The process that started this one may take a moment to end.
     ${For} $0 1 50
         Delete "$INSTDIR\uninstall.exe"
         ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
