@@ -1,7 +1,7 @@
-# Tests that need Windows: run under Wine, on a display of their own (scripts/desktop).
+# Tests that need Windows: run under Wine, on their own display (scripts/desktop).
 add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
-# In one process with the code: the toolkit's contract, and what talks to the platform.
+# In one process with the code: the toolkit's contract, and code that calls Windows.
 add_executable(program_tests
     driver/Input.cpp
     driver/Legible.cpp
@@ -37,10 +37,10 @@ target_link_libraries(Planted PRIVATE huevox_flags)
 add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_main)
-# To read the framework takes longer than to compile a test.
+# Reading the framework's headers takes longer than compiling a test.
 target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 
-# What acts on the running program from another process, by real keys and mouse.
+# Drives the running program from another process, with real keys and mouse.
 add_library(ui_driver STATIC
     driver/Dialogs.cpp
     driver/Huevox.cpp
@@ -54,7 +54,7 @@ add_library(ui_driver STATIC
     driver/UiTest.cpp
     driver/Usage.cpp)
 target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32 psapi)
-# Where the system scales what less aware programs see, whoever drives the program has to see the places that it sees.
+# Where the system scales what DPI-unaware programs see, a program that drives Huevox must see the same places as Huevox does.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
     HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
@@ -131,13 +131,13 @@ target_compile_definitions(installer_tests PRIVATE HUEVOX_EXE="Huevox.exe"
     HUEVOX_VERSION="${PROJECT_VERSION}" HUEVOX_NEWER_VERSION="${newer_version}")
 add_dependencies(installer_tests Huevox)
 
-# To make a test fast takes longer than to run it.
+# Optimising a test takes longer than running it.
 foreach(tests program_tests ui_tests installer_tests)
     target_compile_options(${tests} PRIVATE -O0 -U_FORTIFY_SOURCE)
 endforeach()
 
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
-# Only what hangs reaches the limit.
+# Only a test that hangs reaches the limit.
 set(patient TIMEOUT 3000 LABELS windows)
 set(alone RESOURCE_GROUPS "desktops:1" ${patient})
 suite_tests(program_tests program * ${alone})
@@ -159,7 +159,7 @@ add_test(NAME ui.on_two_monitors
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --monitors 2
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LeftMonitor.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
-# At 96 DPI these run with all the others. What looks at places and pixels, and of the rest what a click decides.
+# At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
 string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
     PickersJavaScript.Switching* Keyboard.AFrame*)
@@ -179,18 +179,18 @@ add_test(NAME program.with_few_fonts
         sans ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests> --gtest_filter=TextFit.*)
 set_tests_properties(program.with_few_fonts ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors
     PROPERTIES ${patient})
-# A share of the random users' time, each on a desktop of its own: together so many minutes as HUEVOX_SOAK_MINUTES says.
+# The random users, each on its own desktop, share the minutes that HUEVOX_SOAK_MINUTES gives.
 function(add_random_user name seed folder)
     add_test(NAME ${name}
         COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop
             ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:soak> --seed ${seed} --share-of-tests 2
         WORKING_DIRECTORY ${folder})
-    # They take longest and are started first.
+    # They take longest, so they start first.
     set_tests_properties(${name} PROPERTIES TIMEOUT 3000 COST 1000)
 endfunction()
 add_random_user(ui.random_user_1 1 ${PROJECT_BINARY_DIR})
 
-# What Wine can run of the 32-bit build needs a package more.
+# To run the 32-bit build, Wine needs one more package.
 execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/wine32 RESULT_VARIABLE without_32_bits)
 if(without_32_bits EQUAL 0)
     include(windows-x86.cmake)
