@@ -1,12 +1,12 @@
 #!/usr/bin/python3
 """Writes the report of a run: report.py GOALS TEMPLATE FIGURES
 
-FIGURES has a line each of name and value. TEMPLATE is text with
+FIGURES has a name and a value on each line. TEMPLATE is text with
     {name}, {name:,.0f}    the value, as str.format writes it
     {name/name:.2f}        one value in proportion to another
-    {mark name}            whether the figure keeps to its goal
+    {mark name}            whether the figure meets its goal
     {goals}                a table of all goals
-    %when name missed      (or met, or a value:) what follows until %end only then
+    %when name missed      (or met, or a value): the text up to %end is shown only then
 """
 import operator
 import re
@@ -37,7 +37,7 @@ def read_goals(text):
 
 
 def read_figures(text):
-    """Numbers where a value is one, else texts."""
+    """Values as numbers where they are numbers, else as text."""
     figures = {}
     for line in text.splitlines():
         name, value = line.split(maxsplit=1)
@@ -88,7 +88,7 @@ class Report:
 
 
 def complete_figures(figures):
-    """With what follows from the measured memory."""
+    """Adds the figures that follow from the measured memory."""
     own, stock, bare = (figures[f"idle.{program}.kb"] for program in ("huevox", "stock", "bare"))
     return figures | {"idle.huevox.ratio": own / bare, "idle.own.kb": own - stock}
 
