@@ -1,4 +1,4 @@
-// The least that a program with a window can be: what Huevox is measured against.
+// The smallest program with a window: what Huevox is measured against.
 #include "toolkit/platform/Platform.h"
 
 namespace {

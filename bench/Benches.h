@@ -1,4 +1,4 @@
-// Which benchmarks are there? Each tells its figures.
+// Which benchmarks are there? Each prints its figures.
 #pragma once
 
 #include "tests/driver/Figures.h"

@@ -17,7 +17,7 @@ void ChangeThroughProgram(HWND window, int value) {
     PaintAll(window);
 }
 
-/// The same five controls told directly: what the platform asks for however a program is written.
+/// The same five controls set directly: what Windows costs however a program is written.
 void ChangeThroughPlatform(HWND window, int value) {
     const std::string text = std::to_string(value);
     const HWND container = ::GetDlgItem(window, IDC_picSampleContainer);
@@ -42,7 +42,7 @@ double ProcessorTime() {
     return milliseconds(kernel) + milliseconds(user);
 }
 
-/// Medians of a batch each.
+/// One median per batch.
 struct Costs {
     std::vector<double> wall;
     std::vector<double> processor;
@@ -51,7 +51,7 @@ struct Costs {
 struct Compared {
     Costs program;
     Costs platform;
-    Costs own;  ///< what the program takes on top of the platform
+    Costs own;  ///< what the program takes on top of Windows
 };
 
 void MeasureBatch(void (*change)(HWND, int), HWND window, int batch, Costs& costs) {
@@ -67,7 +67,7 @@ void MeasureBatch(void (*change)(HWND, int), HWND window, int batch, Costs& cost
     PumpAll();
 }
 
-/// So many changes through the program, in turn with as many told directly, so that both meet the same noise.
+/// Changes through the program, in turn with as many set directly, so that both meet the same noise.
 Compared Measure(HWND window, int changes, int batch) {
     Compared costs;
     for (int done = 0; done < changes; done += batch) {
@@ -79,7 +79,7 @@ Compared Measure(HWND window, int changes, int batch) {
     return costs;
 }
 
-/// Changes whose painting the platform leaves out, because the window is hidden.
+/// Changes whose painting Windows skips, because the window is hidden.
 void ChangeUnseen(HWND window, int changes) {
     ::ShowWindow(window, SW_HIDE);
     for (int i = 0; i < changes; ++i) {
@@ -96,7 +96,7 @@ void TellCosts(const std::string& name, const Costs& costs) {
     Tell(name + ".processor", Median(costs.processor));
 }
 
-/// What changes cost when there have been so many, and what the process has taken by then.
+/// What changes cost after that many, and what the process has taken by then.
 void TellUpTo(const std::string& name, int changes, const Compared& costs, const Usage& usage) {
     Tell(name + ".changes", changes);
     Tell(name + ".ms", Median(costs.program.wall));

@@ -1,4 +1,4 @@
-// Does the program give back what its windows have taken?
+// Does the program release what its windows have taken?
 #include <array>
 #include <cstdlib>
 
@@ -54,7 +54,7 @@ void OpenAndCloseDialog(HWND form, int number) {
     if (!closing.wasOpen || ::FindWindowA(dialog.name, nullptr)) std::abort();
 }
 
-/// What is left of many openings, after each window has been open a few times.
+/// What many openings leave behind, after each window has been open a few times.
 void TellLosses(const std::string& name, void (*openAndClose)(HWND, int), const RunningProgram& running,
                 int count) {
     for (int i = 0; i < 10; ++i) openAndClose(running.form(), i);

@@ -1,4 +1,4 @@
-// How long does opening a large palette file take beside reading it?
+// How long does opening a large palette file take, compared with reading it?
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -42,7 +42,7 @@ double Milliseconds(void (*work)()) {
     return NowInMilliseconds() - before;
 }
 
-/// Tells the cost of one kind of file, and returns the milliseconds that opening it takes.
+/// Prints the cost of one kind of file, and returns the milliseconds that opening it takes.
 double TellFile(const std::string& kind, std::size_t kilobytes, std::string_view filler, int rounds) {
     ReplaceTextFile(path, PaletteOfSize(kilobytes * kilobyte, filler));
     std::vector<double> plain;

@@ -1,4 +1,4 @@
-// How long does a palette window take to open beside an empty window of its size?
+// How long does a palette window take to open, compared with an empty window of its size?
 #include <array>
 #include <string>
 #include <vector>
@@ -27,11 +27,11 @@ struct Child {
     RECT place;
 };
 
-/// What is to be seen of a window from outside.
+/// What can be seen of a window from outside.
 struct Shape {
     RECT place{};
     std::vector<Child> children;
-    int windows = 0;  ///< with tool tip and all that stands in it
+    int windows = 0;  ///< with tool tip and everything in it
 };
 
 void RegisterEmptyClass() {
@@ -67,7 +67,7 @@ Shape ShapeOf(HWND window) {
 double TimeOfPicker(HWND form, const Picker& picker, Shape& shape) {
     const HWND button = ::GetDlgItem(form, picker.button);
     const double before = NowInMilliseconds();
-    // From the button's click on: how the platform paints a button that is pressed is no part of the window.
+    // Starts at the button's click: painting the pressed button is not part of the window.
     ::SendMessageA(form, WM_COMMAND, MAKEWPARAM(picker.button, BN_CLICKED), reinterpret_cast<LPARAM>(button));
     double time = NowInMilliseconds() - before;
     // Nor is looking for it.
@@ -96,7 +96,7 @@ void FillStockToolBar(HWND bar, HIMAGELIST images) {
     ::SendMessageA(bar, TB_ADDBUTTONSA, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
 }
 
-/// The platform's own control where there is one, else its simplest.
+/// The Windows control of that kind if there is one, else the simplest.
 void AddStockControl(HWND window, const Child& child, HIMAGELIST images) {
     const bool isToolBar = child.className == TOOLBARCLASSNAMEA;
     const DWORD style = isToolBar ? TBSTYLE_FLAT | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN : 0;

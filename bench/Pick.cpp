@@ -13,7 +13,7 @@ struct Drag {
     HWND preview;
 };
 
-/// The pointer runs along the marks, so that the colour changes now and then.
+/// The pointer moves along the marks, so that the colour changes now and then.
 POINT Place(const Drag& drag, int movement) {
     RECT area{};
     ::GetWindowRect(drag.sample, &area);
@@ -26,7 +26,7 @@ void MoveThroughProgram(const Drag& drag) {
     ::UpdateWindow(drag.preview);
 }
 
-/// What the platform alone takes to say where the pointer is and what is there.
+/// What Windows alone takes to tell where the pointer is and what colour is there.
 void MoveThroughPlatform(const Drag& /*drag*/) {
     static ScreenPixels pixels;
     POINT place{};

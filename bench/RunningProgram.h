@@ -9,13 +9,13 @@
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/platform/Platform.h"
 
-/// Dispatches all messages that are waiting.
+/// Dispatches all waiting messages.
 inline void PumpAll() {
     MSG message;
     while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
 }
 
-/// Tool tips are made when the pointer first comes into a window.
+/// Tool tips are made when the pointer first enters a window.
 inline void BringTips(HWND window) {
     ::SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
                    MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
@@ -23,7 +23,7 @@ inline void BringTips(HWND window) {
 
 inline double Kilobytes(const Usage& usage) { return static_cast<double>(usage.bytes) / 1024; }
 
-/// The main window as the user has it, shown and idle. It closes without a question, whatever was changed.
+/// The main window as the user has it, shown and idle. It closes without asking, whatever was changed.
 class RunningProgram {
 public:
     RunningProgram() {

@@ -1,4 +1,4 @@
-// How long does saving a palette take beside one plain write of as many bytes?
+// How long does saving a palette take, compared with one plain write of as many bytes?
 #include <cstdlib>
 #include <string>
 #include <vector>

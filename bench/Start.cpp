@@ -1,4 +1,4 @@
-// How long does a program take from its start until its window is shown and idle?
+// How long does a program take from its start until its window is visible and idle?
 #include <array>
 #include <string>
 #include <vector>
@@ -21,7 +21,7 @@ BOOL CALLBACK FindMainWindow(HWND window, LPARAM parameter) {
     return FALSE;
 }
 
-/// Starts the program, waits until its window is there and answers, and ends it. Milliseconds, or -1.
+/// Starts the program, waits until its window is there and answers, and ends it. Returns milliseconds, or -1.
 double TimeOfStart(const char* program) {
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;

@@ -1,5 +1,4 @@
-// A bare window that holds as many stock controls as Huevox has controls: what the platform alone asks for
-// them.
+// A bare window with as many stock controls as Huevox has controls: what Windows alone takes for them.
 #include "toolkit/platform/Platform.h"
 
 namespace {
@@ -16,7 +15,7 @@ struct Stock {
     int count;
 };
 
-/// All in the font that Huevox uses too.
+/// All in the font that Huevox uses.
 void AddControls(HWND window, HINSTANCE instance) {
     const HFONT font = ::CreateFontA(-12, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
                                      CLEARTYPE_QUALITY, 0, "Segoe UI");

@@ -1,5 +1,4 @@
-// Any template may stand in the settings: its placeholders are replaced one after another, and nothing else
-// is.
+// Any template may be in the settings: its placeholders are replaced one after another, and nothing else is.
 #include <array>
 #include <cstdio>
 #include <optional>

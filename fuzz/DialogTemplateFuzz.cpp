@@ -1,4 +1,4 @@
-// Any bytes may stand where a dialog template belongs: it is read as it is laid out, or refused as cut short.
+// Any bytes may be given as a dialog template: they are read field by field, or refused as cut short.
 #include <array>
 #include <span>
 #include <stdexcept>
@@ -11,7 +11,7 @@ namespace {
 const std::array<std::u16string, 6> systemClasses = {u"Button",  u"Edit",      u"Static",
                                                      u"ListBox", u"ScrollBar", u"ComboBox"};
 
-/// Reads little-endian numbers one after another, and remembers whether it came to the end too soon.
+/// Reads little-endian numbers one after another, and remembers whether the input ended too soon.
 struct Layout {
     std::string_view bytes;
     std::size_t at = 0;
@@ -64,7 +64,7 @@ void RequireItem(Layout& layout, const DialogTemplate* read, std::size_t index) 
     Require(item.className == expected.className && item.text == expected.text);
 }
 
-/// Walks through the template and compares it with what was read, nullptr for one that was refused.
+/// Walks through the template and compares it with what was read; nullptr if it was refused.
 void RequireSame(std::string_view bytes, const DialogTemplate* read) {
     Layout layout{bytes};
     layout.skip(8);

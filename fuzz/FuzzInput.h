@@ -13,7 +13,7 @@ inline void Require(bool condition) {
     if (!condition) std::abort();
 }
 
-/// Code pages: one without characters of two bytes, and one in which every high byte begins such a character.
+/// Code pages: one without two-byte characters, and one in which every high byte begins such a character.
 inline bool NoLeadByte(char) { return false; }
 inline bool HighLeadByte(char byte) { return (static_cast<unsigned char>(byte) & 0x80) != 0; }
 
@@ -33,7 +33,7 @@ inline std::vector<std::string_view> CharactersOf(std::string_view text, bool (*
     return characters;
 }
 
-/// The characters from first on, at most count of them, as one text again.
+/// At most count characters from first on, as one text again.
 inline std::string Joined(const std::vector<std::string_view>& characters, std::size_t first,
                           std::size_t count) {
     std::string text;
@@ -53,7 +53,7 @@ public:
         left.remove_prefix(1);
         return byte;
     }
-    /// What stands before the next line feed, or all that is left.
+    /// The text before the next line feed, or all that is left.
     std::string_view takeLine() {
         const std::string_view line = left.substr(0, left.find('\n'));
         left.remove_prefix(std::min(line.size() + 1, left.size()));

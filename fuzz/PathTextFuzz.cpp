@@ -1,4 +1,4 @@
-// Any text may be a path: taken apart, its pieces are whole characters and make up the path again.
+// Any text may be a path: its parts consist of whole characters, and put together they are the path again.
 #include "core/PathText.h"
 #include "fuzz/FuzzInput.h"
 

@@ -1,5 +1,4 @@
-// Anything may be stored: afterwards every setting in memory is acceptable, and what was unusable is
-// repaired.
+// Anything may be stored: afterwards every setting in memory is usable, and what was unusable is repaired.
 #include <array>
 
 #include "fuzz/FuzzInput.h"
@@ -29,7 +28,7 @@ bool IsOneOf(const std::string& text, int count) {
     return false;
 }
 
-/// How many of the stored values, in their order, can be used before one cannot.
+/// How many of the stored values, in their order, are usable before the first that is not.
 std::size_t CountUsable(const Store& store, LeadByteTest isLeadByte) {
     const auto isUsable = [&](std::size_t setting) {
         const std::string& text = store[setting];
@@ -55,7 +54,7 @@ void RequireAcceptable(const AppState& state, LeadByteTest isLeadByte) {
     Require(state.settings.standardFolder == desktop || IsFolder(state.settings.standardFolder));
 }
 
-/// The first settings are those that are stored.
+/// The first settings are the stored ones.
 void RequireTaken(const AppState& state, const Store& store, std::size_t count) {
     const std::array<std::string, 5> held = {
         state.settings.customFormat, std::to_string(state.settings.formatIndex),
@@ -96,7 +95,7 @@ void Try(Store store, int startIndex, bool jsNamesOnly, LeadByteTest isLeadByte)
         state, [&](std::string_view name, std::string_view text) { store[PlaceOf(name)] = text; });
     RequireRepaired(before, state, store);
     RequireAcceptable(state, isLeadByte);
-    // What a repair leaves behind needs no repair at the next start.
+    // What a repair stores needs no repair at the next start.
     Require(TakeSettings(state, read, checks));
 }
 

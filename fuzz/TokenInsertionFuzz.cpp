@@ -1,5 +1,4 @@
-// A placeholder may be put anywhere into any template: nothing is lost but what was selected, or nothing
-// happens.
+// A placeholder may be inserted anywhere in any template: only the selected text is lost, or nothing happens.
 #include "fuzz/FuzzInput.h"
 #include "settings/TokenInsertion.h"
 
