@@ -1,4 +1,4 @@
-"""Which changes are written down, and can they still be made?"""
+"""Which changes are listed, and can they still be made?"""
 import dataclasses
 import fnmatch
 import pathlib
@@ -14,7 +14,7 @@ class Change:
     old: list = dataclasses.field(default_factory=list)
     new: list = dataclasses.field(default_factory=list)
     tests: dict = dataclasses.field(default_factory=dict)  # the pattern of each kind
-    equal: str = ""  # why nobody can see it
+    equal: str = ""  # why it makes no visible difference
 
     def take(self, line):
         """One line of the entry."""
@@ -60,7 +60,7 @@ def chosen(changes, words):
 
 
 def tests_of(project):
-    """The names of all tests there are."""
+    """The names of all tests."""
     names = set()
     for source in (project / "tests").rglob("*.cpp"):
         found = re.findall(r"^TEST(_F)?\((\w+),\s*(\w+)\)", source.read_text(encoding="utf-8"), re.MULTILINE)

@@ -1,4 +1,4 @@
-"""Where are changes made and built? In a copy of the project's files, so that nobody's own are touched."""
+"""Where are changes made and built? In a copy of the project's files; the originals are not touched."""
 import os
 import pathlib
 import re
@@ -8,7 +8,7 @@ import subprocess
 presets = {"pure": "host", "program": "windows-x64", "ui": "windows-x64"}
 test_targets = {"pure": "pure_tests", "program": "program_tests", "ui": "ui_tests"}
 changing_targets = {"pure": "pure_tests", "program": "program_tests", "ui": "Huevox"}
-# What the tests use besides the programs of their own.
+# What the tests use besides their own programs.
 beside = ("huevox.chm", "tests/StandIn.exe", "tests/hhctrl.ocx", "tests/Planted.dll", "tests/ui_tests.exe")
 built = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "Huevox.exe"}
 
@@ -18,7 +18,7 @@ class DoesNotBuild(Exception):
 
 
 def without_patience(text):
-    """Tests that expect something in vain do so for seconds. So long nothing takes here."""
+    """Tests that wait in vain give up after seconds: nothing takes longer here."""
     return re.sub(rb"(hang = )300'000", rb"\g<1>4'000", text)
 
 
@@ -31,7 +31,7 @@ class Checkout:
         self.update()
 
     def update(self):
-        """Makes the copy what the project is; what is the same already keeps its time."""
+        """Makes the copy equal to the project; files that are the same already keep their time."""
         listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=self.project, check=True,
                                 capture_output=True, text=True).stdout.splitlines()
         files = {name for name in listed if (self.project / name).is_file()}
@@ -81,7 +81,7 @@ class Checkout:
             self.build(preset, {changing_targets[kind] for kind in used if presets[kind] == preset})
 
     def programs(self, used, name):
-        """A folder with the programs as they are now, in which tests can run while others are built."""
+        """A folder with the current programs, in which tests can run while the next change is built."""
         folder = self.project / "build/mutants" / name
         shutil.rmtree(folder, ignore_errors=True)
         (folder / "tests").mkdir(parents=True)

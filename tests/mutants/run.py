@@ -1,4 +1,4 @@
-"""Makes the changes that are written down and says what the tests say: see scripts/mutants."""
+"""Makes the listed changes and reports whether the tests catch them: see scripts/mutants."""
 import concurrent.futures
 import pathlib
 import shutil
@@ -21,7 +21,7 @@ def check():
 
 
 def together(changes):
-    """The tests that could tell, in as few runs as they bear: those of one process leave something to each other."""
+    """The tests that should catch the changes, in as few runs as possible: tests in one process can affect each other."""
     patterns = {(kind, change.tests[kind]) for change in changes for kind in change.tests}
     ui = ":".join(sorted(pattern for kind, pattern in patterns if kind == "ui"))
     others = [{kind: pattern} for kind, pattern in sorted(patterns) if kind != "ui"]
@@ -29,7 +29,7 @@ def together(changes):
 
 
 def baseline(checkout, tests, changes):
-    """What fails without any change would be taken for a change that is caught."""
+    """A test that fails without any change would make a change look caught."""
     checkout.make(None)
     used = sorted({kind for change in changes for kind in change.tests})
     checkout.configure(used)
@@ -88,7 +88,7 @@ def main(words):
             failures.append(f"{kind}: {text}")
         print(f"{kind:9}{text}", flush=True)
 
-    # While one is tested the next is built.
+    # While one is tested, the next is built.
     with concurrent.futures.ThreadPoolExecutor(1) as tester:
         running = None
         for number, change in enumerate(changes):

@@ -1,4 +1,4 @@
-"""Do the tests tell? Runs them until the first that fails."""
+"""Do the tests catch a change? Runs them until the first that fails."""
 import os
 import pathlib
 import re
@@ -11,8 +11,8 @@ import time
 programs = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "tests/ui_tests.exe"}
 # Program tests look for files beside them.
 folders = {"pure": ".", "program": "tests", "ui": "."}
-longest = 120  # seconds; changed programs that take longer hang
-soon = 10  # and tests that take longer to end when they have failed
+longest = 120  # seconds; a changed program that takes longer hangs
+soon = 10  # so do tests that take longer than this to end after a failure
 
 
 class Tests:
@@ -21,7 +21,7 @@ class Tests:
         self.prefix = os.environ["WINEPREFIX"]
 
     def tell(self, tests, folder, limit=longest):
-        """What tells the change, or None: a test that fails, or the sudden or missing end of all of them."""
+        """What catches the change: a failing test, or the sudden or missing end of the run; None if nothing does."""
         for kind in ("pure", "program", "ui"):
             if kind in tests:
                 told = self.run(kind, tests[kind], folder, limit)
@@ -31,7 +31,7 @@ class Tests:
         return None
 
     def run(self, kind, pattern, folder, limit):
-        # What a test holds it gives back on its way out, whichever line of it has failed.
+        # A failure throws, so a test releases what it holds on its way out, whichever line failed.
         command = [folder / programs[kind], f"--gtest_filter={pattern}", "--gtest_throw_on_failure"]
         if kind != "pure":
             command.insert(0, self.wine)
@@ -66,7 +66,7 @@ class Tests:
         return timer
 
     def end(self, process):
-        """Ends the tests and what they have started."""
+        """Ends the tests and what they started."""
         try:
             os.killpg(process.pid, signal.SIGKILL)
         except ProcessLookupError:
@@ -76,7 +76,7 @@ class Tests:
         process.wait()
 
     def tidy(self):
-        """Removes what the tests that have ended would have removed."""
+        """Removes what the killed tests would have removed."""
         for path in pathlib.Path(self.prefix, "drive_c").glob("Huevox Palettes*"):
             subprocess.run(["chmod", "-R", "u+rwX", path], check=False)
             shutil.rmtree(path, ignore_errors=True)
@@ -92,7 +92,7 @@ class Tests:
         return True
 
     def processes(self):
-        """The numbers of the desktop's processes that a test has started, or that run one."""
+        """The ids of this desktop's processes that run a test or were started by one."""
         own = f"WINEPREFIX={self.prefix}".encode()
         for folder in pathlib.Path("/proc").glob("[0-9]*"):
             try:
