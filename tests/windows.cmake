@@ -25,6 +25,7 @@ add_executable(program_tests
     toolkit/controls/IconPixelsTest.cpp
     toolkit/controls/LabelTest.cpp
     toolkit/controls/ToolBarTest.cpp
+    toolkit/controls/UnloadedControlsTest.cpp
     toolkit/forms/FormTest.cpp
     toolkit/forms/FormUnloadTest.cpp
     toolkit/forms/ModalFormTest.cpp

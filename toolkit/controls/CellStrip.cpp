@@ -35,23 +35,23 @@ void CellStrip::setColors(std::span<const PackedColor> cellColors) {
     if (std::ranges::equal(colors, cellColors)) return;
     colors.assign(cellColors.begin(), cellColors.end());
     if (isFocused) tellCell();
-    if (!isHeld) repaint();
+    if (!isHeld) repaintCells();
 }
 
 void CellStrip::release() {
     isHeld = false;
-    repaint();
+    repaintCells();
 }
 
 /// All of a window that has never been painted is still to be.
-void CellStrip::repaint() const {
-    if (isPainted) ::InvalidateRect(handle(), nullptr, FALSE);
+void CellStrip::repaintCells() const {
+    if (isPainted) repaint();
 }
 
 void CellStrip::focus(bool isHere) {
     isFocused = isHere;
     if (isFocused) tellCell();
-    if (ShowsFocus(handle())) repaint();
+    if (ShowsFocus(handle())) repaintCells();
 }
 
 void CellStrip::setTips(std::vector<std::string> cellTips) {
@@ -84,7 +84,7 @@ LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFOCUS: focus(true); return 0;
         case WM_KILLFOCUS: focus(false); return 0;
         case WM_KEYDOWN: return onKey(wParam, lParam);
-        case WM_UPDATEUISTATE: repaint(); break;
+        case WM_UPDATEUISTATE: repaintCells(); break;
         default: break;
     }
     if (isUsable()) raiseMouse(message, lParam);
@@ -154,7 +154,7 @@ void CellStrip::moveFrame(int cell) {
     framedCell = cell;
     if (!isFocused) return;
     tellCell();
-    repaint();
+    repaintCells();
 }
 
 LRESULT CellStrip::onKey(WPARAM key, LPARAM lParam) {

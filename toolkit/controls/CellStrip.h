@@ -62,7 +62,7 @@ private:
     void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
     void release();
-    void repaint() const;
+    void repaintCells() const;
     void focus(bool isHere);
     LRESULT onKey(WPARAM key, LPARAM lParam);
     void moveFrame(int cell);

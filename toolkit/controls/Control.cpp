@@ -56,6 +56,11 @@ void Control::detaching() {
     original = nullptr;
 }
 
+void Control::repaint(bool withGround) const {
+    // Without a window it would be all windows on the screen.
+    if (handle()) ::InvalidateRect(handle(), nullptr, withGround);
+}
+
 void Control::registerOwnClass(const char* name) {
     WNDCLASSA own{};
     own.lpfnWndProc = &Control::proc;

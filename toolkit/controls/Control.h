@@ -35,7 +35,10 @@ public:
 protected:
     Form& form;
 
-    /// Sends the window a message of the platform.
+    /// Has the whole window painted anew; its ground as well, if Windows paints that.
+    void repaint(bool withGround = false) const;
+
+    /// Sends the window a message of Windows.
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::SendMessageA(handle(), message, wParam, lParam);
     }

@@ -29,7 +29,6 @@ private:
     void paint() const;
     void press();
     void release(POINT point);
-    void repaint() const { ::InvalidateRect(handle(), nullptr, FALSE); }
     RECT textArea() const;
     bool isOnText(POINT point) const;
 

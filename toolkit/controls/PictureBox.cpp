@@ -13,7 +13,7 @@ constexpr int roomToFrame = 3;  // from the edge to the frame, in pixels at 96 D
 void PictureBox::setBackColor(COLORREF color) {
     if (back == color) return;
     back = color;
-    ::InvalidateRect(handle(), nullptr, FALSE);
+    repaint();
 }
 
 void PictureBox::setText(std::string_view text) {
@@ -24,14 +24,14 @@ void PictureBox::setText(std::string_view text) {
 
 void PictureBox::setFocusFrame(bool isWanted) {
     isFocusFramed = isWanted;
-    ::InvalidateRect(handle(), nullptr, FALSE);
+    repaint();
 }
 
 LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: paint(); return 0;
-        case WM_UPDATEUISTATE: ::InvalidateRect(handle(), nullptr, FALSE); break;
+        case WM_UPDATEUISTATE: repaint(); break;
         case WM_CAPTURECHANGED: MouseCaptureLost.raise(); return 0;
         default: break;
     }
@@ -50,6 +50,11 @@ void PictureBox::paint() const {
     // Apart from the edge, which may be black or white as well.
     ::InflateRect(&area, -form.scaled(roomToFrame), -form.scaled(roomToFrame));
     PaintFocusFrame(handle(), painting.context(), area, form.scaled(1));
+}
+
+void PictureBox::captureMouse() {
+    // Without a window it would let go of what another has captured.
+    if (handle()) ::SetCapture(handle());
 }
 
 void PictureBox::raiseMouse(UINT message, WPARAM wParam) const {

@@ -33,7 +33,7 @@ public:
     /// What screen readers say of it.
     void setText(std::string_view text);
 
-    void captureMouse() { ::SetCapture(handle()); }
+    void captureMouse();
 
 private:
     void attached() override { receive(); }

@@ -54,7 +54,7 @@ void TextBox::setCaretToEnd() {
 void TextBox::setBackColor(std::optional<COLORREF> color) {
     if (back == color) return;
     back = color;
-    ::InvalidateRect(handle(), nullptr, TRUE);
+    repaint(true);
 }
 
 void TextBox::onCommand(int /*id*/, int code) {
