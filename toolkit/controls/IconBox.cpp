@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "toolkit/platform/Contexts.h"
 #include "toolkit/platform/Handles.h"
 #include "toolkit/platform/Painting.h"
 
@@ -20,24 +21,22 @@ int DrawingFor(int size) {
 class Drawn {
 public:
     Drawn(HDC like, int icon, int size)
-        : context(::CreateCompatibleDC(like)), bitmap(::CreateCompatibleBitmap(like, size, size)) {
+        : context(::CreateCompatibleDC(like)),
+          bitmap(::CreateCompatibleBitmap(like, size, size)),
+          selected(context.get(), bitmap.get()) {
         const OwnedIcon drawing(static_cast<HICON>(::LoadImageA(
             ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(icon), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
-        previous = ::SelectObject(context.get(), bitmap.get());
         const RECT all = {0, 0, size, size};
         FillWithColor(context.get(), all, ::GetSysColor(COLOR_BTNFACE));
         ::DrawIconEx(context.get(), 0, 0, drawing.get(), size, size, 0, nullptr, DI_NORMAL);
     }
-    Drawn(const Drawn&) = delete;
-    Drawn& operator=(const Drawn&) = delete;
-    ~Drawn() { ::SelectObject(context.get(), previous); }
 
     HDC get() const { return context.get(); }
 
 private:
     Owned<HDC, &::DeleteDC> context;
     Owned<HBITMAP, &::DeleteObject> bitmap;
-    HGDIOBJ previous;
+    Selected selected;  // ends first: a selected bitmap cannot be deleted
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "toolkit/controls/Label.h"
 
 #include "toolkit/forms/Form.h"
+#include "toolkit/platform/Fonts.h"
 #include "toolkit/platform/WindowText.h"
 
 void Label::setText(std::string_view text) {
@@ -22,12 +23,7 @@ void Label::setFont(const char* face, int height) {
 
 void Label::rescaled() {
     if (ownFace.empty()) return;
-    LOGFONTA wanted{};
-    wanted.lfHeight = -form.scaled(ownHeight);
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    wanted.lfQuality = CLEARTYPE_QUALITY;
-    ownFace.copy(wanted.lfFaceName, LF_FACESIZE - 1);
-    font = OwnedFont(::CreateFontIndirectA(&wanted));
+    font = FontOfHeight(ownFace, form.scaled(ownHeight));
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
 }
 

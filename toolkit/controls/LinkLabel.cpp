@@ -6,7 +6,8 @@
 #include <cstdlib>
 
 #include "toolkit/forms/Form.h"
-#include "toolkit/forms/FormWindow.h"
+#include "toolkit/platform/Contexts.h"
+#include "toolkit/platform/Fonts.h"
 #include "toolkit/platform/Painting.h"
 #include "toolkit/platform/WindowText.h"
 
@@ -31,19 +32,6 @@ COLORREF LinkColor() {
     const int difference = Brightness(link) - Brightness(::GetSysColor(COLOR_BTNFACE));
     return std::abs(difference) < leastDifference ? ::GetSysColor(COLOR_BTNTEXT) : link;
 }
-
-/// A font in use in a context.
-class Selected {
-public:
-    Selected(HDC context, HFONT font) : context(context), previous(::SelectObject(context, font)) {}
-    Selected(const Selected&) = delete;
-    Selected& operator=(const Selected&) = delete;
-    ~Selected() { ::SelectObject(context, previous); }
-
-private:
-    HDC context;
-    HGDIOBJ previous;
-};
 
 }  // namespace
 
@@ -80,10 +68,7 @@ LRESULT LinkLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void LinkLabel::underline(HFONT plain) {
-    LOGFONTA wanted{};
-    ::GetObjectA(plain, sizeof wanted, &wanted);
-    wanted.lfUnderline = TRUE;
-    font = OwnedFont(::CreateFontIndirectA(&wanted));
+    font = Underlined(plain);
     repaint();
 }
 
@@ -119,16 +104,13 @@ void LinkLabel::paint() const {
 
 /// From the left and top of the label.
 RECT LinkLabel::textArea() const {
-    const HDC context = ::GetDC(handle());
+    const WindowContext context(handle());
     RECT client{};
     ::GetClientRect(handle(), &client);
     const int room = form.scaled(focusRoom);
     RECT area = {room, room, client.right - room, client.bottom - room};
-    {
-        const Selected underlined(context, font.get());
-        ::DrawTextA(context, text().c_str(), -1, &area, oneLine | DT_CALCRECT);
-    }
-    ::ReleaseDC(handle(), context);
+    const Selected underlined(context.get(), font.get());
+    ::DrawTextA(context.get(), text().c_str(), -1, &area, oneLine | DT_CALCRECT);
     area.right = std::min(area.right, client.right - room);
     return area;
 }

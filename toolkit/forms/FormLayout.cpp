@@ -1,5 +1,6 @@
 #include "toolkit/forms/FormLayout.h"
 
+#include "toolkit/platform/Fonts.h"
 #include "toolkit/platform/WindowPlace.h"
 
 void FormLayout::begin(const DialogTemplate& layout, int dpi) {

@@ -1,9 +1,7 @@
 #include "toolkit/forms/FormWindow.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <map>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -33,36 +31,6 @@ void RegisterFormClass(const char* name, DWORD exStyle, WNDPROC proc) {
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     windowClass.lpszClassName = name;
     ::RegisterClassExA(&windowClass);
-}
-
-bool IsFace(HDC context, std::string_view face) {
-    std::array<char, LF_FACESIZE> selected{};
-    ::GetTextFaceA(context, selected.size(), selected.data());
-    return face == selected.data();
-}
-
-OwnedFont SegoeUi(int dpi) {
-    LOGFONTA wanted{};
-    wanted.lfHeight = -::MulDiv(9, dpi, 72);
-    wanted.lfWeight = FW_NORMAL;
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    wanted.lfQuality = CLEARTYPE_QUALITY;
-    constexpr std::string_view face = "Segoe UI";
-    face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
-    OwnedFont font(::CreateFontIndirectA(&wanted));
-    const HDC screen = ::GetDC(nullptr);
-    const HGDIOBJ previous = ::SelectObject(screen, font.get());
-    const bool isThere = IsFace(screen, face);
-    ::SelectObject(screen, previous);
-    ::ReleaseDC(nullptr, screen);
-    return isThere ? std::move(font) : OwnedFont();
-}
-
-OwnedFont PlatformsFont(int dpi) {
-    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
-    metrics.cbSize = sizeof metrics;
-    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
-    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
 }
 
 }  // namespace
@@ -114,13 +82,4 @@ HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place,
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.id)), Instance(), nullptr);
     ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     return control;
-}
-
-HFONT MessageFont(int dpi) {
-    // All forms share them: to find out whether a font is there takes longer than to create a control.
-    static std::map<int, OwnedFont> fonts;
-    OwnedFont& font = fonts[dpi];
-    if (!font) font = SegoeUi(dpi);
-    if (!font) font = PlatformsFont(dpi);
-    return font.get();
 }

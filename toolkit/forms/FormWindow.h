@@ -30,7 +30,3 @@ Area CenteredPlace(HWND owner, const SIZE& frame);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);
-
-/// Segoe UI in 9 points where there is one, else the font that the platform shows messages in. It stays as
-/// long as the program runs.
-HFONT MessageFont(int dpi);

@@ -1,0 +1,57 @@
+#include "toolkit/platform/Fonts.h"
+
+#include <array>
+#include <map>
+
+#include "toolkit/platform/Contexts.h"
+
+namespace {
+
+bool IsFace(HDC context, std::string_view face) {
+    std::array<char, LF_FACESIZE> selected{};
+    ::GetTextFaceA(context, selected.size(), selected.data());
+    return face == selected.data();
+}
+
+OwnedFont SegoeUi(int dpi) {
+    constexpr std::string_view face = "Segoe UI";
+    OwnedFont font = FontOfHeight(face, ::MulDiv(9, dpi, 72));
+    const WindowContext screen(nullptr);
+    const Selected selected(screen.get(), font.get());
+    return IsFace(screen.get(), face) ? std::move(font) : OwnedFont();
+}
+
+OwnedFont WindowsMessageFont(int dpi) {
+    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
+    metrics.cbSize = sizeof metrics;
+    ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+}  // namespace
+
+HFONT MessageFont(int dpi) {
+    // All forms share them: to find out whether a font is there takes longer than to create a control.
+    static std::map<int, OwnedFont> fonts;
+    OwnedFont& font = fonts[dpi];
+    if (!font) font = SegoeUi(dpi);
+    if (!font) font = WindowsMessageFont(dpi);
+    return font.get();
+}
+
+OwnedFont FontOfHeight(std::string_view face, int pixels) {
+    LOGFONTA wanted{};
+    wanted.lfHeight = -pixels;
+    wanted.lfWeight = FW_NORMAL;
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    wanted.lfQuality = CLEARTYPE_QUALITY;
+    face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    return OwnedFont(::CreateFontIndirectA(&wanted));
+}
+
+OwnedFont Underlined(HFONT plain) {
+    LOGFONTA wanted{};
+    ::GetObjectA(plain, sizeof wanted, &wanted);
+    wanted.lfUnderline = TRUE;
+    return OwnedFont(::CreateFontIndirectA(&wanted));
+}
