@@ -23,7 +23,7 @@ frmJavaScript::frmJavaScript(const Settings& settings, ChannelEditors& channels)
       tbrSortTools(*this, IDC_tbrSortTools),
       lblJavaScriptColor(*this, IDC_lblJavaScriptColor) {
     Load.bind(this, &frmJavaScript::Form_Load);
-    Command.bind(this, &frmJavaScript::tbrSortTools_ButtonClick);
+    tbrSortTools.ButtonClick.bind(this, &frmJavaScript::tbrSortTools_ButtonClick);
     lblJavaScriptColor.MouseDown.bind(this, &frmJavaScript::lblJavaScriptColor_MouseDown);
     lblJavaScriptColor.setPlaces(JavaScriptPlaces());
     setBackground(COLOR_WINDOW);
@@ -47,7 +47,7 @@ void frmJavaScript::tbrSortTools_ButtonClick(int button) {
     switch (button) {
         case IDM_Alphabetically: FillAlphabetically(); break;
         case IDM_DotNet: FillDotNetOrder(); break;
-        default: Form_Command(button); break;
+        default: break;
     }
 }
 

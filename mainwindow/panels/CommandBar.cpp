@@ -29,7 +29,8 @@ constexpr std::array<ToolButton, 14> toolButtons = {{
 }  // namespace
 
 CommandBar::CommandBar(Form& form) : form(form), tbrTools(form, IDC_tbrTools) {
-    form.Command.bind(this, &CommandBar::Form_Command);
+    form.Command.bind(this, &CommandBar::RunCommand);
+    tbrTools.ButtonClick.bind(this, &CommandBar::RunCommand);
 }
 
 void CommandBar::Prepare() {
@@ -52,6 +53,6 @@ bool CommandBar::IsEnabled(int command) const {
     return found != commands.end() && found->second.isEnabled;
 }
 
-void CommandBar::Form_Command(int command) {
+void CommandBar::RunCommand(int command) {
     if (IsEnabled(command)) commands[command].chosen.raise();
 }

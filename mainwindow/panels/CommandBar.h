@@ -29,7 +29,7 @@ private:
         bool isEnabled = true;
     };
 
-    void Form_Command(int command);
+    void RunCommand(int command);
     bool IsEnabled(int command) const;
 
     Form& form;

@@ -120,5 +120,5 @@ void ToolBar::showTips(ToolTips& toolTips) const {
 }
 
 void ToolBar::onCommand(int id, int /*code*/) {
-    if (::IsWindowEnabled(form.handle())) form.Command.raise(id);
+    if (::IsWindowEnabled(form.handle())) ButtonClick.raise(id);
 }

@@ -9,6 +9,7 @@
 
 #include "toolkit/controls/Control.h"
 #include "toolkit/controls/IconPixels.h"
+#include "toolkit/forms/Event.h"
 
 /// A button with the number of its command; 0 makes it a separator.
 struct ToolButton {
@@ -18,11 +19,13 @@ struct ToolButton {
     bool isChoice = false;  ///< of neighbouring choices at most one is pressed, and stays so
 };
 
-/// Buttons that raise the form's Command, each with a picture and a tool tip, which it has while it is
-/// disabled too. Where the bar is a tab stop, arrows go from button to button, Space and Enter press one.
+/// Buttons with a picture each and a tool tip, which a button has while it is disabled too. Where the bar is
+/// a tab stop, arrows go from button to button, Space and Enter press one.
 class ToolBar : public Control {
 public:
     using Control::Control;
+
+    Event<int> ButtonClick;  ///< the command of the button; nothing while the form is disabled
 
     /// Puts the buttons on the bar, all of them enabled, the choice of that command pressed.
     void fill(std::span<const ToolButton> buttons, int pressed = 0);

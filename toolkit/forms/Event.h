@@ -1,6 +1,7 @@
 // How does something that happened reach its handler?
 #pragma once
 
+#include <cassert>
 #include <functional>
 #include <utility>
 
@@ -12,9 +13,12 @@ class Event {
 public:
     template <class Target, class Owner>
     void bind(Target* target, void (Owner::*method)(Args...)) {
-        handler = [target, method](Args... args) { (target->*method)(args...); };
+        bind([target, method](Args... args) { (target->*method)(args...); });
     }
-    void bind(std::function<void(Args...)> function) { handler = std::move(function); }
+    void bind(std::function<void(Args...)> function) {
+        assert(!isBound());  // the first handler would never be heard of again
+        handler = std::move(function);
+    }
 
     bool isBound() const { return static_cast<bool>(handler); }
 

@@ -32,7 +32,7 @@ public:
     Event<> Deactivate;        ///< at once
     Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
     Event<> Unload;
-    Event<int> Command;  ///< a menu item, a shortcut or a tool-bar button was chosen
+    Event<int> Command;  ///< a menu item or a shortcut was chosen
 
     /// Creates the window, still hidden, and raises Load. Throws what Load throws, and std::runtime_error
     /// when the platform refuses a window.

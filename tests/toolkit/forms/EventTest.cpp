@@ -60,3 +60,10 @@ TEST_F(EventTest, AHandlerMayAnswerThroughAReference) {
     event.raise(answer);
     EXPECT_TRUE(answer);
 }
+
+TEST_F(EventTest, ASecondHandlerIsRefused) {
+    Listener listener;
+    Event<int> event;
+    event.bind(&listener, &Listener::hear);
+    EXPECT_DEATH(event.bind(&listener, &Listener::fail), "isBound");
+}
