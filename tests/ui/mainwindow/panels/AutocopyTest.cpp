@@ -134,11 +134,14 @@ TEST_F(Autocopy, AClipboardHeldOpenIsLeftAloneUntilTheNextChange) {
         Press(VK_RIGHT);
         // The letters are refreshed by the tick that would copy.
         ASSERT_BECOMES(huevox.text(Property(0)), "");
-        ::SendMessageA(huevox.window(), WM_NULL, 0, 0);  // answered when the tick is over
+        // A key waits until the tick is over; a message of another program is let in on its way.
+        Press(VK_TAB);
+        ASSERT_TRUE(Eventually([&] { return huevox.focus() != huevox.control(IDC_hsbGreen); }));
     }
     EXPECT_TRUE(Throughout(1000, [] { return ClipboardText() == "theirs"; }));
     EXPECT_TRUE(huevox.isRunning());
     EXPECT_EQ(huevox.dialogCount(), 0);
+    huevox.focusSlider(IDC_hsbGreen);
     Press(VK_RIGHT);
     EXPECT_BECOMES(ClipboardText(), "#FF0200");
 }
