@@ -15,7 +15,7 @@ void OptionButton::turnOn() {
 }
 
 void OptionButton::onCommand(int /*id*/, int code) {
-    // The platform also tells of a click on the button that is on already.
+    // Windows also reports a click on the button that is on already.
     if (code != BN_CLICKED || !isEnabled() || value()) return;
     turnOn();
     Click.raise();

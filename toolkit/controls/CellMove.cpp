@@ -11,8 +11,7 @@ struct Middle {
 
 Middle MiddleOf(const Area& area) { return {(area.left + area.right) / 2, (area.top + area.bottom) / 2}; }
 
-/// How far the cell at other lies from the one at start in the direction of step; less than 1 when it does
-/// not.
+/// How far other lies from start in the direction of step; less than 1 when it lies elsewhere.
 int Distance(const Middle& start, const Middle& other, CellStep step) {
     switch (step) {
         case CellStep::left:

@@ -7,6 +7,6 @@
 
 enum class CellStep { left, right, up, down, first, last };
 
-/// The nearest cell in that direction in the same row or column; first and last are those of the row. Where
-/// there is none, from itself. Cells may stand in any order and overlap.
+/// The nearest cell in that direction in the same row or column; first and last are those of the row. Returns
+/// from where there is none. Cells may overlap and come in any order.
 int NextCell(std::span<const Area> cells, int from, CellStep step);

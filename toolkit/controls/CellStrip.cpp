@@ -43,7 +43,7 @@ void CellStrip::release() {
     repaintCells();
 }
 
-/// All of a window that has never been painted is still to be.
+/// A window that has never been painted will be anyway.
 void CellStrip::repaintCells() const {
     if (isPainted) repaint();
 }
@@ -61,7 +61,7 @@ void CellStrip::setTips(std::vector<std::string> cellTips) {
 
 void CellStrip::showTips(ToolTips& toolTips) const {
     const std::size_t count = std::min(places.size(), tips.size());
-    // The first tip that has the pointer is shown, and of cells that overlap the later lies on top.
+    // The first tip under the pointer is shown, and of overlapping cells the later one lies on top.
     for (std::size_t cell = count; cell-- > 0;)
         toolTips.set(handle(), static_cast<int>(cell), placeOf(cell), tips[cell]);
 }
@@ -94,7 +94,7 @@ LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 void CellStrip::raiseMouse(UINT message, LPARAM lParam) {
     const int cell = cellAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
     if (message == WM_LBUTTONUP) {
-        // Forgets the pressed cell by way of the capture that it ends.
+        // The end of the capture forgets the pressed cell.
         const int clicked = cell >= 0 ? pressedCell : -1;
         ::ReleaseCapture();
         if (clicked >= 0) Click.raise(clicked);
@@ -137,7 +137,7 @@ void CellStrip::paintCells(HDC context) const {
         FillWithColor(context, placeOf(cell), static_cast<COLORREF>(colors[cell]));
 }
 
-/// Wide enough to be seen around the narrowest cell.
+/// Wide enough to show around the narrowest cell.
 void CellStrip::paintFrame(HDC context) const {
     RECT frame = placeOf(framedCell);
     const int narrow = form.scaled(narrowestFrame) - static_cast<int>(frame.right - frame.left);

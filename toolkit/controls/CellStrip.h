@@ -18,21 +18,20 @@ class CellStrip : public Control {
 public:
     using Control::Control;
 
-    // Nothing is raised while the strip, or what it stands in, is disabled.
+    // Nothing is raised while the strip or its container is disabled.
     Event<int, int> MouseDown;  ///< the cell under the pointer and the button that was pressed
     Event<int> Click;           ///< the cell that was pressed, when the left button was released on the strip
 
     static void registerClass() { registerOwnClass("CellStrip"); }
 
-    /// One colour a cell for as many cells as there are places; shows them at the next paint. A new window
-    /// has neither colours nor tips.
+    /// One colour for each place, shown at the next paint. A new window has neither colours nor tips.
     void setColors(std::span<const PackedColor> cellColors);
 
-    /// Places in twips from the left and top of the strip, which they cover; a later cell lies over an
-    /// earlier one.
+    /// The cells' places in twips from the left and top of the strip. Together they cover the strip; a later
+    /// cell lies over an earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
-    /// Its outermost pixels are an edge, for strips that do not fill their window.
+    /// Draws an edge over the outermost pixels, for strips that do not fill their window.
     void setEdged() { isEdged = true; }
 
     /// The cell that the keyboard begins with; it stays while the strip has the focus.
@@ -41,7 +40,7 @@ public:
     /// One tool tip a cell.
     void setTips(std::vector<std::string> cellTips);
 
-    /// New colours are shown at once at the end of a scope, and not one after another within it.
+    /// Holds back painting for a scope, so that several changes of colours are shown together at its end.
     class Held {
     public:
         explicit Held(CellStrip& strip) : strip(strip) { strip.isHeld = true; }
@@ -58,7 +57,7 @@ private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
     void paintCells(HDC context) const;
-    /// As the form's, while there are no colours.
+    /// The form's background, while there are no colours.
     void paintBackground(const Painting& painting) const;
     void raiseMouse(UINT message, LPARAM lParam);
     void release();
@@ -83,5 +82,5 @@ private:
     bool isHeld = false;
     bool isEdged = false;
     bool isPainted = false;
-    bool isFocused = false;  ///< as the platform says; asking it each time takes it longer than to paint
+    bool isFocused = false;  ///< kept, because asking Windows takes longer than painting
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Where a window finds the control that receives its messages.
+/// The controls that receive their windows' messages.
 std::unordered_map<HWND, Control*> receivers;
 
 }  // namespace
@@ -57,7 +57,7 @@ void Control::detaching() {
 }
 
 void Control::repaint(bool withGround) const {
-    // Without a window it would be all windows on the screen.
+    // Windows takes no window for all windows on the screen.
     if (handle()) ::InvalidateRect(handle(), nullptr, withGround);
 }
 
@@ -83,7 +83,7 @@ void Control::subclass() {
 
 LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto receiver = receivers.find(window);
-    // A window of an own class sends its first messages before its control is attached.
+    // A window of the program's own classes sends its first messages before its control is attached.
     if (receiver == receivers.end()) return ::DefWindowProcA(window, message, wParam, lParam);
     return receiver->second->onMessage(message, wParam, lParam);
 }

@@ -19,15 +19,16 @@ public:
     ~Control() override;
 
     bool isEnabled() const { return ::IsWindowEnabled(handle()) != FALSE; }
-    /// Whether it and all that it stands in is enabled: what is not gets no mouse, but messages of others.
+    /// Whether it and its containers are enabled. A disabled control gets no mouse input, but other programs
+    /// can still send it messages.
     bool isUsable() const;
     bool hasFocus() const { return handle() && ::GetFocus() == handle(); }
 
-    /// When it has the focus and is disabled, the focus moves on to the next control.
+    /// Moves the focus on to the next control if the disabled one had it.
     void setEnabled(bool isEnabled);
-    /// When it has the focus and is hidden, the focus moves on to the next control.
+    /// Moves the focus on to the next control if the hidden one had it.
     void setVisible(bool isVisible);
-    /// As the Tab key does: the platform selects a box's whole text and sees to the default button.
+    /// As the Tab key does: Windows selects the whole text of a box and updates the default button.
     void setFocus();
 
     void setToolTip(std::string_view text);
@@ -35,20 +36,20 @@ public:
 protected:
     Form& form;
 
-    /// Has the whole window painted anew; its ground as well, if Windows paints that.
+    /// Repaints the whole window, and its background where Windows paints that.
     void repaint(bool withGround = false) const;
 
-    /// Sends the window a message of Windows.
+    /// Sends a message to the control's window.
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::SendMessageA(handle(), message, wParam, lParam);
     }
 
-    /// Registers a window class without behaviour of its own, for controls that draw themselves.
+    /// Registers a window class for controls that draw themselves.
     static void registerOwnClass(const char* name);
 
-    /// Makes onMessage the receiver of the messages of a window whose class is the program's own.
+    /// Sends the messages of the window, whose class is the program's own, to onMessage.
     void receive();
-    /// The same for a window of the platform's.
+    /// The same for a window of one of Windows' own classes.
     void subclass();
 
     virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,4 +1,4 @@
-// How do controls of one kind act as an array?
+// How is a row of controls of one kind used as an array?
 #pragma once
 
 #include <array>

@@ -17,7 +17,7 @@ int DrawingFor(int size) {
         std::clamp(std::bit_ceil(static_cast<unsigned>(size)), smallestDrawing, largestDrawing));
 }
 
-/// A drawing on the ground of the form, in memory.
+/// A drawing on the form's background, in memory.
 class Drawn {
 public:
     Drawn(HDC like, int icon, int size)
@@ -55,7 +55,7 @@ void IconBox::paint() const {
     ::GetClientRect(handle(), &area);
     const int drawing = DrawingFor(area.right);
     const Drawn drawn(painting.context(), icon, drawing);
-    // Each pixel is the mean of what it stands for.
+    // Each pixel becomes the mean of those it replaces.
     ::SetStretchBltMode(painting.context(), HALFTONE);
     ::SetBrushOrgEx(painting.context(), 0, 0, nullptr);
     ::StretchBlt(painting.context(), 0, 0, area.right, area.bottom, drawn.get(), 0, 0, drawing, drawing,

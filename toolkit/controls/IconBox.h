@@ -3,8 +3,8 @@
 
 #include "toolkit/controls/Control.h"
 
-/// A square window of class "PictureBox". Its picture is the icon's drawing of just that size or a larger one
-/// made smaller, never one made larger, as long as there is any.
+/// A square window of class "PictureBox". It shows the icon's drawing of its size, or a larger one scaled
+/// down; a drawing is scaled up only when there is none large enough.
 class IconBox : public Control {
 public:
     /// icon is the number of an icon with drawings of 64, 128 and 256 pixels.

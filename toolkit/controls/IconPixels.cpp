@@ -40,8 +40,7 @@ Drawing FindDrawing(int icon, int wantedSize) {
 
 }  // namespace
 
-// Read from the resources: to make an icon only to ask it for its colours again takes the platform
-// milliseconds each.
+// Read straight from the resources: making an icon only to read its colours back takes milliseconds each.
 OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize, int imageSize) {
     std::vector<Drawing> drawings;
     for (const int icon : icons) drawings.push_back(FindDrawing(icon, wantedSize));
@@ -56,7 +55,7 @@ OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize, int imag
     info.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
     const OwnedBitmap strip(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!strip) throw std::runtime_error("the platform refused a bitmap");
+    if (!strip) throw std::runtime_error("Windows refused a bitmap");
     const std::ptrdiff_t stride = static_cast<std::ptrdiff_t>(count) * image;
     const int room = (image - size) / 2;
     for (int row = 0; row < size; ++row) {

@@ -8,8 +8,8 @@
 
 using OwnedImages = Owned<HIMAGELIST, &::ImageList_Destroy>;
 
-/// The pictures of the icon resources with these numbers, in this order, all of one size: that of the icons'
-/// drawings which is nearest to wantedSize pixels, in the middle of images of imageSize. The icons have one
-/// byte a pixel and opacity in the palette's fourth byte, as resources/icons/index-colours makes them. Throws
+/// The pictures of the icon resources with these numbers, in this order, each centred in an image of
+/// imageSize pixels. The drawing nearest to wantedSize pixels is taken. The icons have one byte a pixel and
+/// opacity in the palette's fourth byte, as resources/icons/index-colours makes them. Throws
 /// std::runtime_error for an icon that is missing or of another kind.
 OwnedImages ImagesFromIcons(std::span<const int> icons, int wantedSize, int imageSize);

@@ -11,7 +11,7 @@ void Label::setText(std::string_view text) {
 }
 
 void Label::attached() {
-    shown = WindowText(handle());  // the template's, whatever an earlier window has shown
+    shown = WindowText(handle());  // the template's, not what an earlier window showed
     if (isField) subclass();
 }
 
@@ -34,7 +34,7 @@ HBRUSH Label::onColor(HDC context) {
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
-/// A field shows text as it is: no character of it is a key that leads somewhere, "&H" of Alt+H for instance.
+/// A field shows its text as it is: "&H" in it is no shortcut that Alt+H could follow.
 LRESULT Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return message == WM_GETDLGCODE ? 0 : Control::onMessage(message, wParam, lParam);
 }

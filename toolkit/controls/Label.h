@@ -14,10 +14,10 @@ public:
     const std::string& text() const { return shown; }
     void setText(std::string_view text);
 
-    /// Shows the text in a font of its own, of that height in pixels at 96 DPI. While the form is loaded.
+    /// Shows the text in this font; height in pixels at 96 DPI. Call it while the form is loaded.
     void setFont(const char* face, int height);
 
-    /// Paints itself in the colours of a field, not of the form. Before the form is loaded.
+    /// Uses the colours of a field instead of the form's. Call it before the form is loaded.
     void lookLikeField() { isField = true; }
 
 private:

@@ -25,7 +25,7 @@ int Brightness(COLORREF color) {
     return (299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color)) / 1000;
 }
 
-/// The system's colour of links, or that of text where a link could not be read.
+/// The system's link colour, or its text colour where a link would be illegible.
 COLORREF LinkColor() {
     constexpr int leastDifference = 100;
     const COLORREF link = ::GetSysColor(COLOR_HOTLIGHT);
@@ -96,7 +96,7 @@ void LinkLabel::paint() const {
         ::DrawTextA(context, text().c_str(), -1, &area, oneLine);
     }
     if (!hasFocus()) return;
-    // The dots are the difference of the context's two colours.
+    // Windows draws the dots in the difference of the context's two colours.
     ::SetTextColor(context, ::GetSysColor(COLOR_BTNTEXT));
     ::InflateRect(&area, form.scaled(focusRoom), form.scaled(focusRoom));
     ::DrawFocusRect(context, &area);

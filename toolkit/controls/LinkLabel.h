@@ -14,11 +14,11 @@ class LinkLabel : public Control {
 public:
     using Control::Control;
 
-    Event<> Click;  ///< nothing while the label, or what it stands in, is disabled
+    Event<> Click;  ///< not raised while the label or its container is disabled
 
     static void registerClass() { registerOwnClass("LinkLabel"); }
 
-    /// What stands there now: another program may have changed it.
+    /// The text as it is now: another program may have changed it.
     std::string text() const;
     void setText(std::string_view text);
 

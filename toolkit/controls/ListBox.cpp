@@ -10,7 +10,7 @@ void ListBox::addItem(std::string_view text) {
 void ListBox::setIndex(int index) {
     const int before = this->index();
     send(LB_SETCURSEL, static_cast<WPARAM>(index));
-    // cppcheck-suppress knownConditionTrueFalse  // it asks the window, which the call before has changed
+    // cppcheck-suppress knownConditionTrueFalse  // the call before has changed what the window answers
     if (this->index() != before) Click.raise();
 }
 
@@ -24,7 +24,7 @@ LRESULT ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_LBUTTONDOWN) hasToldOfClick = false;
     const LRESULT result = Control::onMessage(message, wParam, lParam);
     if (message == WM_LBUTTONUP && !hasToldOfClick) {
-        // A click on the current row changes no selection, so some platforms are silent about it.
+        // A click on the current row does not change the selection, so Wine does not report it.
         const LRESULT row = send(LB_ITEMFROMPOINT, 0, lParam);
         if (HIWORD(row) == 0 && LOWORD(row) == index()) Click.raise();
         hasToldOfClick = true;

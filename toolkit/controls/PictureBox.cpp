@@ -47,13 +47,13 @@ void PictureBox::paint() const {
     ::GetClientRect(handle(), &area);
     PaintEdge(painting.context(), area);
     if (!isFocusFramed) return;
-    // Apart from the edge, which may be black or white as well.
+    // Away from the edge, which may be black or white too.
     ::InflateRect(&area, -form.scaled(roomToFrame), -form.scaled(roomToFrame));
     PaintFocusFrame(handle(), painting.context(), area, form.scaled(1));
 }
 
 void PictureBox::captureMouse() {
-    // Without a window it would let go of what another has captured.
+    // Without a window this would release another window's capture.
     if (handle()) ::SetCapture(handle());
 }
 

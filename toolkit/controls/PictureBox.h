@@ -8,26 +8,26 @@
 #include "toolkit/controls/Control.h"
 #include "toolkit/forms/Event.h"
 
-/// A window of class "PictureBox"; it can hold other controls. With a colour of its own it has an edge, so
-/// that it is seen on a form of the same colour.
+/// A window of class "PictureBox"; it can hold other controls. Once it has a colour of its own it has an edge
+/// too, so that it shows on a form of the same colour.
 class PictureBox : public Control {
 public:
     using Control::Control;
     using Control::hold;
 
-    // The mouse over the box, or anywhere while the box has captured it. Nothing is raised while the box, or
-    // what it stands in, is disabled.
+    // The mouse over the box, or anywhere while the box has captured it. Nothing is raised while the box or
+    // its container is disabled.
     Event<int> MouseDown;      ///< the button that was pressed
     Event<int> MouseMove;      ///< the buttons that are held
     Event<int> MouseUp;        ///< the button that was released
-    Event<> MouseCaptureLost;  ///< the mouse was captured and is not any more
+    Event<> MouseCaptureLost;  ///< the box had captured the mouse and has lost it
 
     static void registerClass() { registerOwnClass("PictureBox"); }
 
     COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_BTNFACE)); }
     void setBackColor(COLORREF color);
 
-    /// Shows that the focus is on the control that goes with the box.
+    /// Draws a frame while the control that belongs to the box has the focus.
     void setFocusFrame(bool isWanted);
 
     /// What screen readers say of it.
@@ -41,7 +41,7 @@ private:
     void paint() const;
     void raiseMouse(UINT message, WPARAM wParam) const;
 
-    std::optional<COLORREF> back;  // until it has one, as the form's
+    std::optional<COLORREF> back;  // the form's colour until one is set
     std::string spoken;
     bool isFocusFramed = false;
 };

@@ -37,7 +37,7 @@ void ScrollBar::dragTo(int position) {
     Scroll.raise();
 }
 
-/// A drag has told of every value on its way as Scroll; its end is the Change.
+/// A drag has raised Scroll for every value on its way; Change is raised at its end.
 void ScrollBar::dropAt(int position) {
     const bool hasMoved = moveTo(position);
     if (std::exchange(isDragged, false) || hasMoved) Change.raise();

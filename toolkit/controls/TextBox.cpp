@@ -58,15 +58,14 @@ void TextBox::setBackColor(std::optional<COLORREF> color) {
 }
 
 void TextBox::onCommand(int /*id*/, int code) {
-    // Whether the platform tells of a text set by the program is its own affair: setText raises Change
-    // itself.
+    // Windows may or may not report a text that the program sets; setText raises Change itself.
     if (code != EN_CHANGE || isSettingText) return;
     known.reset();
     Change.raise();
 }
 
 HBRUSH TextBox::onColor(HDC context) {
-    // A back colour of the program's own is light, so its text must not follow a theme that may be too.
+    // The program's own back colours are light, so text on them must not follow a theme with light text.
     ::SetTextColor(context, back ? RGB(0, 0, 0) : ::GetSysColor(COLOR_WINDOWTEXT));
     ::SetBkColor(context, backColor());
     ::SetDCBrushColor(context, backColor());

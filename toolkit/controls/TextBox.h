@@ -9,8 +9,8 @@
 #include "toolkit/controls/Control.h"
 #include "toolkit/forms/Event.h"
 
-/// In characters from 0: the first that is selected, and the one behind the last. Without a selection both
-/// are where the caret stands.
+/// Positions in characters, from 0: the first selected one and the one after the last. Without a selection
+/// both are the caret's.
 struct Selection {
     std::size_t start;
     std::size_t end;
@@ -31,19 +31,19 @@ public:
     std::string text() const;
     /// Raises Change when the text differs.
     void setText(std::string_view text);
-    /// Limits what is typed and pasted, not setText.
+    /// Limits typing and pasting, but not setText.
     void setMaxLength(int characters) { send(EM_LIMITTEXT, characters); }
 
     void selectAll() { send(EM_SETSEL, 0, -1); }
-    /// Selects the whole text if the Tab key is what has brought the focus here.
+    /// Selects the whole text if the focus has come by the Tab key.
     void selectAllIfTabbed();
     Selection selection() const;
-    /// Selects and shows the end of the selection.
+    /// Selects, and scrolls to the end of the selection.
     void setSelection(const Selection& wanted);
     void setCaretToEnd();
 
     COLORREF backColor() const { return back.value_or(::GetSysColor(COLOR_WINDOW)); }
-    /// A light colour, under black text; or nothing for the system's colours of fields.
+    /// A light colour, shown under black text; none for the system's colours of fields.
     void setBackColor(std::optional<COLORREF> color);
 
 private:
@@ -54,7 +54,7 @@ private:
     LRESULT onCharacter(WPARAM character, LPARAM lParam);
     void onRelease(LPARAM position);
 
-    mutable std::optional<std::string> known;  // the window's text, as far as it has been asked for
+    mutable std::optional<std::string> known;  // the window's text, once it has been read
     std::optional<COLORREF> back;
     bool isSettingText = false;
     bool isDoubleClick = false;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int pictureSize = 16;
 constexpr int buttonSize = 24;
-constexpr int topRoom = 3;  // what the platform leaves above a picture, at every scaling
+constexpr int topRoom = 3;  // what Windows leaves above a picture, at every scaling
 constexpr int gapSize = 8;  // of a separator
 
 BYTE StyleOf(const ToolButton& button) {

@@ -16,18 +16,18 @@ struct ToolButton {
     int command;
     int icon;
     std::string_view tip;
-    bool isChoice = false;  ///< of neighbouring choices at most one is pressed, and stays so
+    bool isChoice = false;  ///< of adjacent choices one at most is pressed, and stays pressed
 };
 
-/// Buttons with a picture each and a tool tip, which a button has while it is disabled too. Where the bar is
-/// a tab stop, arrows go from button to button, Space and Enter press one.
+/// Buttons with a picture and a tool tip each; a disabled button shows its tip too. Where the bar is a tab
+/// stop, the arrow keys move from button to button, and Space and Enter press one.
 class ToolBar : public Control {
 public:
     using Control::Control;
 
-    Event<int> ButtonClick;  ///< the command of the button; nothing while the form is disabled
+    Event<int> ButtonClick;  ///< the button's command; not raised while the form is disabled
 
-    /// Puts the buttons on the bar, all of them enabled, the choice of that command pressed.
+    /// Puts the buttons on the bar, all enabled, with the choice of that command pressed.
     void fill(std::span<const ToolButton> buttons, int pressed = 0);
 
     void setButtonEnabled(int command, bool isEnabled) { send(TB_ENABLEBUTTON, command, isEnabled); }
@@ -45,7 +45,7 @@ private:
     void showTips(ToolTips& toolTips) const override;
     void onCommand(int id, int code) override;
 
-    // They outlive the window: a form that is opened again has its pictures already.
+    // They outlive the window, so that a form that is opened again need not make its pictures again.
     OwnedImages images;
     int drawnSize = 0;
     std::vector<int> icons;

@@ -23,7 +23,7 @@ public:
         return number;
     }
 
-    /// A text, or a number that stands for one: those come back as a text of the one character.
+    /// A text, or a number in place of one, which comes back as a text of that one character.
     std::u16string readName() {
         std::u16string name;
         auto unit = read<char16_t>();

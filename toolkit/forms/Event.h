@@ -7,7 +7,7 @@
 
 #include "toolkit/platform/Trap.h"
 
-/// One thing that can happen, with at most one handler.
+/// Something that can happen, with one handler at most.
 template <class... Args>
 class Event {
 public:
@@ -16,7 +16,7 @@ public:
         bind([target, method](Args... args) { (target->*method)(args...); });
     }
     void bind(std::function<void(Args...)> function) {
-        assert(!isBound());  // the first handler would never be heard of again
+        assert(!isBound());  // the first handler would silently never run again
         handler = std::move(function);
     }
 

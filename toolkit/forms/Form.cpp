@@ -37,12 +37,12 @@ void Form::createFrame(const DialogTemplate& dialog) {
     const Area place = firstPlace(layout.frameSize());
     CreateFormWindow(name, dialog, place, owner, &Form::proc);
     formBeingCreated = nullptr;
-    if (!window) throw std::runtime_error("the platform refused a window");
+    if (!window) throw std::runtime_error("Windows refused a window");
     loadedForms.push_back(this);
     modalHold.join(window);
     layout.attach(window);
     const SIZE frame = layout.frameSize();
-    // Its monitor has another scaling, or the platform has cut off a window that is larger than the screen.
+    // Its monitor has another scaling, or Windows has cut off a window larger than the screen.
     if (PlaceOf(window) != Area{place.left, place.top, place.left + frame.cx, place.top + frame.cy})
         PlaceAt(window, firstPlace(frame));
 }
@@ -53,7 +53,7 @@ void Form::createControl(const TemplateItem& item) {
     FormPart* part = parts.withId(static_cast<int>(item.id));
     const FormPart* container = part ? part->container : nullptr;
     const HWND created = layout.create(container ? container->window : window, item);
-    if (!created) throw std::runtime_error("the platform refused a control");
+    if (!created) throw std::runtime_error("Windows refused a control");
     if (part) part->attach(created);
     if (::SendMessageA(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
         ::SendMessageA(window, DM_SETDEFID, item.id, 0);
@@ -94,7 +94,7 @@ void Form::close() {
     if (!window) return;
     state = State::unloading;
     Unload.raise();
-    // Before the window goes, or the focus would fall to another program.
+    // Before the window goes; otherwise the focus falls to another program.
     if (owner) ::EnableWindow(owner, TRUE);
     ::DestroyWindow(window);
 }
@@ -130,8 +130,7 @@ void Form::tipChanged(const FormPart& part) {
 }
 
 void Form::focusLeaves(HWND leaving) {
-    // Posted, so that the next control is looked for when the handler has enabled and disabled all that it
-    // will.
+    // Posted, so that the next control is chosen after the handler has finished enabling and disabling.
     if (leaving && ::GetFocus() == leaving)
         ::PostMessageA(window, focusLeftMessage, 0, reinterpret_cast<LPARAM>(leaving));
 }

@@ -1,4 +1,4 @@
-// What is a window of the program, from its load to its unload?
+// How does a window of the program live, from its load to its unload?
 #pragma once
 
 #include <memory>
@@ -27,7 +27,7 @@ public:
     virtual ~Form();
 
     Event<> Load;
-    /// After the platform's own activation, or before the click that activates; never while loading.
+    /// After Windows' own activation, or before the click that activates; never while loading.
     Event<> Activate;
     Event<> Deactivate;        ///< at once
     Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
@@ -35,13 +35,13 @@ public:
     Event<int> Command;  ///< a menu item or a shortcut was chosen
 
     /// Creates the window, still hidden, and raises Load. Throws what Load throws, and std::runtime_error
-    /// when the platform refuses a window.
+    /// when Windows refuses a window.
     void load();
     void show(int showCommand);
     /// Loads the form, shows it over another and returns when it has been unloaded. Meanwhile no other form
     /// takes input. The first control has the focus unless Load has given it to one.
     void showModal(const Form& over);
-    /// Raises Activate now, in place of one that is on its way.
+    /// Raises Activate now, instead of an activation that is still pending.
     void activate();
     /// Raises QueryUnload and, unless it was cancelled, Unload; then the window goes. The program ends with
     /// the last.
@@ -51,17 +51,17 @@ public:
 
     bool isLoaded() const { return state == State::loaded; }
     HWND handle() const { return window; }
-    /// Whether the keys go to this form.
+    /// Whether this form gets the keyboard's input.
     bool isFront() const { return isActive; }
-    /// The owner for a message box: the window, or, while it is not on the screen, what it is to stand over.
+    /// The owner for a message box: this window or, while it is not visible, the one it will stand over.
     HWND messageOwner() const { return ::IsWindowVisible(window) ? window : owner; }
 
     std::string text() const;
     void setText(std::string_view caption);
-    /// The pointer over the form and while it has captured the mouse; nullptr for the controls' own.
+    /// The pointer's shape over the form and while it captures the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
-    /// One of the system's colours, COLOR_WINDOW for instance, in place of that of dialogs.
+    /// A system colour, COLOR_WINDOW for instance, instead of that of dialogs.
     void setBackground(int systemColor) { background = systemColor; }
 
     /// Pixels at 96 DPI in pixels of this window.
@@ -72,17 +72,17 @@ public:
     /// For controls: while they live, they are parts of the form.
     void join(FormPart& part) { parts.add(part); }
     void leave(const FormPart& part) { parts.remove(part); }
-    /// The part has other tool tips now.
+    /// The part's tool tips have changed.
     void tipChanged(const FormPart& part);
     /// The window of a part is about to be disabled or hidden: if it has the focus, the next control gets it.
     void focusLeaves(HWND leaving);
 
-    /// Shortcuts and keyboard navigation: true when the message is used up.
+    /// Handles shortcuts and keyboard navigation. True when the message is done with.
     static bool preTranslate(MSG& message);
 
 protected:
-    /// Where the window comes to the screen, which is that large with its frame: in the middle of its owner
-    /// or of the work area.
+    /// Where the window first appears; frame is its whole size. In the middle of its owner or of the work
+    /// area.
     virtual Area firstPlace(const SIZE& frame);
 
 private:

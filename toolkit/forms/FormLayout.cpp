@@ -31,7 +31,7 @@ void FormLayout::rescale(int dpi, const POINT& corner) {
     scaling = dpi;
     const SIZE frame = frameSize();
     PlaceAt(window, {corner.x, corner.y, corner.x + frame.cx, corner.y + frame.cy});
-    fit();  // not every platform scales the frame of a window that is on the screen
+    fit();  // Wine does not scale the frame of a window that is on the screen
     for (const Placed& control : controls) {
         const RECT place = placeOf(control.units, ::GetParent(control.window));
         ::SetWindowPos(control.window, nullptr, place.left, place.top, place.right - place.left,

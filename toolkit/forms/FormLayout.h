@@ -24,14 +24,13 @@ public:
     SIZE frameSize() const { return frameSize(scaling); }
     SIZE frameSize(int dpi) const;
 
-    /// Creates a control at its place. Returns nullptr when the platform refuses.
+    /// Creates a control at its place. Returns nullptr when Windows refuses.
     HWND create(HWND parent, const TemplateItem& item);
 
-    /// Another scaling from now on: everything comes to its place, the window with its left top corner at
-    /// corner.
+    /// Changes the scaling: moves everything to its place, and the window's top left to corner.
     void rescale(int dpi, const POINT& corner);
 
-    /// Gives the window the size that the template says, if somebody else has given it another.
+    /// Restores the template's size if the window has been given another one.
     void fit() const;
 
 private:

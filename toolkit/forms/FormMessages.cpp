@@ -16,8 +16,8 @@ BOOL CALLBACK PassOn(HWND child, LPARAM message) {
     return TRUE;
 }
 
-/// The form's focus moves on from a control that has left, unless another control has it by now, or this one
-/// is back.
+/// Moves the form's focus on from a control that was disabled or hidden, unless another control has it by now
+/// or that one is usable again.
 void MoveFocusOn(HWND form, HWND left) {
     const HWND focus = ::GetFocus();
     if (focus && focus != form && focus != left) return;
@@ -28,7 +28,7 @@ void MoveFocusOn(HWND form, HWND left) {
 
 }  // namespace
 
-/// What a form does about the platform's messages.
+/// What a form does with messages from Windows.
 class Form::Receiver {
 public:
     explicit Receiver(Form& form) : form(form) {}
@@ -104,7 +104,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return ::DefDlgProcA(window, message, wParam, lParam);
 }
 
-/// While a modal window has disabled the form, its commands are ignored by every way in.
+/// A form that a modal window has disabled ignores commands from every source.
 LRESULT Form::Receiver::onCommand(int id, int code, HWND sender) {
     if (FormPart* part = form.parts.withWindow(sender)) {
         part->onCommand(id, code);
@@ -120,7 +120,7 @@ LRESULT Form::Receiver::onScroll(int code, int position, HWND sender) {
 }
 
 LRESULT Form::Receiver::onColor(HDC context, HWND sender) {
-    // The brush of a colour may be another one when the user has changed the theme.
+    // Asked for each time: the brush changes with the user's theme.
     if (sender == form.window) return reinterpret_cast<LRESULT>(::GetSysColorBrush(form.background));
     FormPart* part = form.parts.withWindow(sender);
     return part ? reinterpret_cast<LRESULT>(part->onColor(context)) : 0;
@@ -145,7 +145,7 @@ LRESULT Form::Receiver::onEndSession(bool isEnding) {
     return 0;
 }
 
-/// The platform asks how large the window will be at another scaling.
+/// Windows asks how large the window will be at another scaling.
 LRESULT Form::Receiver::onScalingWanted(int dpi, SIZE& size) {
     size = form.layout.frameSize(dpi);
     return TRUE;
@@ -166,10 +166,10 @@ void Form::Receiver::onActivate(int how) {
     if (how == WA_INACTIVE) {
         form.Deactivate.raise();
     } else if (how == WA_CLICKACTIVE) {
-        // Before the click reaches its control: what the user chooses by it comes last.
+        // Before the click reaches its control, so that what the user chooses by it comes last.
         form.activate();
     } else {
-        // The message arrives inside the platform's own work, the closing of a message box for instance.
+        // The message arrives while Windows is still busy, closing a message box for instance.
         form.isActivatePending = true;
         ::PostMessageA(form.window, activatedMessage, 0, 0);
     }
@@ -191,8 +191,8 @@ void Form::Receiver::onEnable(bool isEnabled) {
     if (form.toolTips) form.toolTips->setShown(isEnabled);
 }
 
-/// The mouse is over the form: the first time for a tool tip to be of use. True when the form gives the
-/// pointer its shape.
+/// The mouse is over the form; until it has been, no tool tip is of use. True when the form sets the
+/// pointer's shape.
 bool Form::Receiver::onMouse() {
     if (!form.toolTips && form.isLoaded()) {
         form.toolTips = std::make_unique<ToolTips>(form.window);

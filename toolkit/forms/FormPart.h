@@ -5,7 +5,7 @@
 
 class ToolTips;
 
-/// A control as its form sees it. The form gives it its window and passes on what concerns it.
+/// A control as its form sees it. The form creates its window and passes on its messages.
 class FormPart {
 public:
     FormPart(const FormPart&) = delete;
@@ -19,7 +19,7 @@ protected:
     explicit FormPart(int id) : id(id) {}
     virtual ~FormPart() = default;
 
-    /// From the creation of its window on, member is a child of this one. Before the form is loaded.
+    /// Makes member's window a child of this one's. Call it before the form is loaded.
     void hold(FormPart& member) const { member.container = this; }
 
 private:

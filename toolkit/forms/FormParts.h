@@ -14,12 +14,12 @@ public:
     void add(FormPart& part) { parts.push_back(&part); }
     void remove(const FormPart& part) { std::erase(parts, &part); }
 
-    /// nullptr when the form has a window of that id, or that window, without a control.
+    /// nullptr when no control has that id or window.
     FormPart* withId(int id) const;
     FormPart* withWindow(HWND window) const;
 
     void showTips(ToolTips& toolTips) const;
-    /// The form has another scaling, and its controls are in their new places.
+    /// Tells them that the scaling has changed and that they are in their new places.
     void rescaled() const;
     void detachAll() const;
 

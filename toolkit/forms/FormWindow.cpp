@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int programIcon = 1;  // the lowest number, which the platform takes for the program's picture too
+constexpr int programIcon = 1;  // the lowest number, which Windows takes as the program's icon too
 
 HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
 
@@ -24,7 +24,7 @@ void RegisterFormClass(const char* name, DWORD exStyle, WNDPROC proc) {
     windowClass.lpfnWndProc = proc;
     windowClass.cbWndExtra = DLGWINDOWEXTRA;
     windowClass.hInstance = Instance();
-    // A tool window shows its picture nowhere.
+    // A tool window shows its icon nowhere.
     const bool hasPicture = !(exStyle & WS_EX_TOOLWINDOW);
     windowClass.hIcon = hasPicture ? ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon)) : nullptr;
     windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
@@ -43,7 +43,7 @@ DialogTemplate LoadDialogTemplate(const char* name) {
     return ParseDialogTemplate({bytes, ::SizeofResource(Instance(), found)});
 }
 
-// Not by the dialog manager, which would create it of another size, at another place.
+// Not by the dialog manager, which would choose another size and place.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
                       WNDPROC proc) {
     RegisterFormClass(name, layout.exStyle, proc);
@@ -53,7 +53,7 @@ HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area
     const HWND window =
         ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style, place.left,
                           place.top, place.width(), place.height(), owner, menu.get(), Instance(), nullptr);
-    if (window) menu.release();  // it is the window's own from now on
+    if (window) menu.release();  // the window owns it now
     return window;
 }
 

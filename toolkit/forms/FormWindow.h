@@ -11,11 +11,11 @@ DialogTemplate LoadDialogTemplate(const char* name);
 
 /// Creates the form's own window, hidden and without controls, of the window class name with that procedure,
 /// owned by owner if that is not nullptr. The procedure gets its first message before this returns. Returns
-/// nullptr when the platform refuses.
+/// nullptr when Windows refuses.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
                       WNDPROC proc);
 
-/// What a window's frame consists of.
+/// What decides how wide a window's frame is.
 struct FrameStyle {
     DWORD style = 0;
     DWORD exStyle = 0;
@@ -28,5 +28,5 @@ SIZE FrameSize(const FrameStyle& frame, int clientWidth, int clientHeight, int d
 /// In the middle of the owner, but on its monitor; without an owner, of the work area.
 Area CenteredPlace(HWND owner, const SIZE& frame);
 
-/// Creates one control at place, in pixels of parent. Returns nullptr when the platform refuses.
+/// Creates one control at place, in pixels of parent. Returns nullptr when Windows refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);

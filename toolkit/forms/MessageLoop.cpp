@@ -23,7 +23,7 @@ void RunModalLoop(const Form& form) {
     MSG message{};
     while (form.isLoaded()) {
         if (::GetMessageA(&message, nullptr, 0, 0) <= 0) {
-            ::PostQuitMessage(static_cast<int>(message.wParam));  // it is the program's own loop that ends
+            ::PostQuitMessage(static_cast<int>(message.wParam));  // for the program's own loop
             return;
         }
         Deliver(message);
@@ -31,7 +31,7 @@ void RunModalLoop(const Form& form) {
 }
 
 void Yield() {
-    constexpr int limit = 1000;  // a window that never calls itself painted must not hold the program up
+    constexpr int limit = 1000;  // a window that never validates itself must not hang the program
     MSG message;
     for (int count = 0; count < limit; ++count) {
         if (!::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;

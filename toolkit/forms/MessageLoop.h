@@ -6,10 +6,9 @@ class Form;
 /// Runs until the last form is gone. Returns the program's exit code.
 int RunMessageLoop();
 
-/// Runs until the form is unloaded, or the program is to end.
+/// Runs until the form is unloaded or the program has been told to end.
 void RunModalLoop(const Form& form);
 
-/// Lets messages that other windows have sent and painting through; the user's input, timers and posted
-/// messages wait for the end of the running handler. So no handler re-enters another with an older colour in
-/// hand.
+/// Handles painting and messages that other windows have sent. The user's input, timers and posted messages
+/// wait until the running handler returns, so no handler re-enters another that holds an older colour.
 void Yield();

@@ -13,7 +13,7 @@ bool IsOwned(HWND window, HWND by) {
 }  // namespace
 
 void ModalHold::join(HWND form) {
-    // The oldest of several is let go last.
+    // Of several modal windows the oldest closes last.
     const auto waiting = std::ranges::find_if(members, [form](const Member& member) {
         return !::IsWindowEnabled(member.window) && !IsOwned(form, member.window);
     });
@@ -34,7 +34,7 @@ void ModalHold::changed(HWND form, bool isEnabled) {
         return;
     }
     const auto self = std::ranges::find(members, form, &Member::window);
-    if (self == members.end() || self->holder) return;  // held itself: its holder has seen to the others
+    if (self == members.end() || self->holder) return;  // its holder has disabled the others already
     for (Member& member : members) {
         if (member.window == form || !::IsWindowEnabled(member.window) || IsOwned(member.window, form))
             continue;

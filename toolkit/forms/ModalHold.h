@@ -5,15 +5,15 @@
 
 #include "toolkit/platform/Platform.h"
 
-/// The platform disables the owner of a modal window only. While a form is disabled, this holds the others
-/// disabled too, except those that it owns, which are the modal window and what that opens.
+/// Windows disables only the owner of a modal window. While a form is disabled, this disables the others too,
+/// except those that it owns: the modal window and whatever that opens.
 class ModalHold {
 public:
-    /// A form has got a window: it is held as well when a modal window is waiting.
+    /// A form has a window now. It is disabled at once while a modal window waits.
     void join(HWND form);
-    /// A form's window goes; what it held is let go.
+    /// A form's window is going: whatever it held disabled is enabled again.
     void leave(HWND form);
-    /// A form has been enabled or disabled, by the platform or by this.
+    /// A form has been enabled or disabled, by Windows or by this class.
     void changed(HWND form, bool isEnabled);
 
 private:

@@ -1,4 +1,4 @@
-// How does a form hear that time has passed?
+// How does a form do something at intervals?
 #pragma once
 
 #include "toolkit/forms/Event.h"
@@ -6,7 +6,7 @@
 
 class Form;
 
-/// Ticks from the creation of the form's window until its end. Ticks count only once loading has ended.
+/// Runs while the form has a window; ticks are raised only after loading.
 class Timer {
 public:
     Timer(Form& form, UINT_PTR id, UINT milliseconds);

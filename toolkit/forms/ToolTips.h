@@ -12,9 +12,9 @@ public:
 
     /// The tip of a control; an empty text removes it.
     void set(HWND control, const std::string& text) const;
-    /// The tip of a part of a control, which the control knows by a number.
+    /// The tip of an area of a control; part is the control's own number for it.
     void set(HWND control, int part, const RECT& area, const std::string& text) const;
-    /// While they are not shown, one that is on the screen goes as well.
+    /// Switching them off also hides the one that is showing.
     void setShown(bool isShown) const;
 
 private:

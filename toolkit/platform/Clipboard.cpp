@@ -42,7 +42,7 @@ std::wstring Widened(std::string_view text) {
 
 void PutTextOnClipboard(HWND owner, std::string_view text) {
     const std::string bytes(text);
-    // Left to the platform, the Unicode text would be made by the code page of the keyboard's language.
+    // Windows would make the Unicode text with the code page of the keyboard's language.
     const std::wstring wide = Widened(text);
     const OpenedClipboard clipboard(owner);
     if (!clipboard) return;

@@ -5,6 +5,6 @@
 
 #include "toolkit/platform/Platform.h"
 
-/// Clears the clipboard and puts text on it, as ANSI and as Unicode text of the same characters. Does nothing
-/// when another program holds the clipboard open; a failure later on leaves what has been done.
+/// Clears the clipboard and puts text on it, both as ANSI and as Unicode. Does nothing while another program
+/// holds the clipboard open; a later failure leaves what has been done so far.
 void PutTextOnClipboard(HWND owner, std::string_view text);

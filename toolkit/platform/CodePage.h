@@ -1,4 +1,4 @@
-// What does the code page that texts are in say of their bytes?
+// Which bytes begin a character of two in the system's code page?
 #pragma once
 
 #include "toolkit/platform/Platform.h"

@@ -1,9 +1,9 @@
-// Who gives a device context back, and puts back what was selected into it?
+// Who releases a device context and restores what was selected into it?
 #pragma once
 
 #include "toolkit/platform/Platform.h"
 
-/// The context of a window for a scope; nullptr stands for the whole screen.
+/// A window's device context for a scope; nullptr means the whole screen.
 class WindowContext {
 public:
     explicit WindowContext(HWND window) : window(window), context(::GetDC(window)) {}
@@ -18,7 +18,7 @@ private:
     HDC context;
 };
 
-/// A font, bitmap, pen or brush in use in a context for a scope; then the one before it is back.
+/// Selects a font, bitmap, pen or brush for a scope.
 class Selected {
 public:
     Selected(HDC context, HGDIOBJ object) : context(context), previous(::SelectObject(context, object)) {}

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-/// Sets a flag to a value for a scope; on every way out it is what it was before.
+/// Sets a flag for a scope and restores it on every way out.
 template <bool value>
 class FlagGuard {
 public:

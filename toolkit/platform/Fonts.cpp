@@ -22,7 +22,7 @@ OwnedFont SegoeUi(int dpi) {
 }
 
 OwnedFont WindowsMessageFont(int dpi) {
-    NONCLIENTMETRICSW metrics{};  // the call knows no other form of the record
+    NONCLIENTMETRICSW metrics{};  // the call takes only this form
     metrics.cbSize = sizeof metrics;
     ::SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
     return OwnedFont(::CreateFontIndirectW(&metrics.lfMessageFont));
@@ -31,7 +31,7 @@ OwnedFont WindowsMessageFont(int dpi) {
 }  // namespace
 
 HFONT MessageFont(int dpi) {
-    // All forms share them: to find out whether a font is there takes longer than to create a control.
+    // All forms share them: checking for a font takes longer than creating a control.
     static std::map<int, OwnedFont> fonts;
     OwnedFont& font = fonts[dpi];
     if (!font) font = SegoeUi(dpi);

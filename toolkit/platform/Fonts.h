@@ -6,13 +6,12 @@
 #include "toolkit/platform/Handles.h"
 #include "toolkit/platform/Platform.h"
 
-/// Segoe UI in 9 points where there is one, else the font that Windows shows messages in. It stays as long as
-/// the program runs.
+/// Segoe UI in 9 points where it is installed, else the font of Windows' messages. It lives as long as the
+/// program.
 HFONT MessageFont(int dpi);
 
-/// The face in that height of its characters, in pixels; where there is no such face, what Windows takes for
-/// it.
+/// A font with characters of that height in pixels. Without such a face Windows picks another.
 OwnedFont FontOfHeight(std::string_view face, int pixels);
 
-/// The same font with a line below its text.
+/// The same font, underlined.
 OwnedFont Underlined(HFONT plain);

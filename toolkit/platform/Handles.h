@@ -1,11 +1,11 @@
-// Who closes a platform handle? The value that holds it.
+// Who closes a handle of Windows? The value that owns it.
 #pragma once
 
 #include <utility>
 
 #include "toolkit/platform/Platform.h"
 
-/// Owns a handle of the platform and gives it back with close.
+/// Owns a handle and closes it by calling close.
 template <class Handle, auto close>
 class Owned {
 public:
@@ -25,7 +25,7 @@ public:
     Handle get() const { return handle; }
     explicit operator bool() const { return handle != Handle{}; }
 
-    /// Gives the handle away: another owner, the system clipboard for instance, closes it.
+    /// Gives the handle away to another owner, such as the clipboard.
     Handle release() { return std::exchange(handle, {}); }
 
 private:

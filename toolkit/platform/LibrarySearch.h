@@ -1,6 +1,6 @@
-// Where does the platform look for a library that is loaded by its name alone?
+// Where does Windows look for a library that is loaded by name only?
 #pragma once
 
-/// From now on in the system's folder only: neither in the program's own folder nor in the current one, which
-/// file dialogs move to wherever palettes lie. To be called before anything is loaded.
+/// Restricts the search to the system's folder: not the program's, and not the current one, which file
+/// dialogs move to wherever palettes are. Call it before anything is loaded.
 void SearchSystemFolderOnly();

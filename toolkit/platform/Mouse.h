@@ -1,15 +1,15 @@
-// Which buttons of the mouse does a message of the platform tell of?
+// Which mouse buttons does a message report?
 #pragma once
 
 #include "toolkit/platform/Platform.h"
 
-/// The codes of the buttons; several that are held are added.
+/// The codes of the buttons. Those of several held buttons are added.
 inline constexpr int leftButton = 1;
 inline constexpr int rightButton = 2;
 inline constexpr int middleButton = 4;
 inline constexpr int otherButton = 8;
 
-/// The button that was pressed, or 0 when the message tells of no press.
+/// The button that was pressed, or 0 when the message is no press.
 constexpr int PressedButton(UINT message) {
     switch (message) {
         case WM_LBUTTONDOWN: return leftButton;
@@ -20,7 +20,7 @@ constexpr int PressedButton(UINT message) {
     }
 }
 
-/// The button that was released, or 0 when the message tells of no release.
+/// The button that was released, or 0 when the message is no release.
 constexpr int ReleasedButton(UINT message) {
     switch (message) {
         case WM_LBUTTONUP: return leftButton;
@@ -31,7 +31,7 @@ constexpr int ReleasedButton(UINT message) {
     }
 }
 
-/// The buttons that are held while a message about the mouse is sent.
+/// The buttons held down, from the keys of a mouse message.
 constexpr int HeldButtons(WPARAM keys) {
     return ((keys & MK_LBUTTON) != 0 ? leftButton : 0) | ((keys & MK_RBUTTON) != 0 ? rightButton : 0) |
            ((keys & MK_MBUTTON) != 0 ? middleButton : 0) |

@@ -3,7 +3,7 @@
 
 #include "toolkit/platform/Platform.h"
 
-/// The platform's permission to paint what is out of date of a window.
+/// BeginPaint and EndPaint around the painting of a window.
 class Painting {
 public:
     explicit Painting(HWND window) : window(window) { ::BeginPaint(window, &paint); }
@@ -19,17 +19,17 @@ private:
     PAINTSTRUCT paint{};
 };
 
-/// The line that tells an area of any colour from what is around it.
+/// A line that sets an area of any colour off from what surrounds it.
 inline void PaintEdge(HDC context, const RECT& area) {
     ::FrameRect(context, &area, ::GetSysColorBrush(COLOR_3DSHADOW));
 }
 
-/// A window may hide where the focus is until the keyboard is used.
+/// Windows may hide the focus until the keyboard is used.
 inline bool ShowsFocus(HWND window) {
     return !(::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
 }
 
-/// Where the focus is. Black around white, so that it is seen on any colour; each line has that width.
+/// Shows the focus: black around white, to be visible on any colour; width is that of each line.
 inline void PaintFocusFrame(HWND window, HDC context, RECT frame, int width) {
     if (!ShowsFocus(window)) return;
     for (const int color : {BLACK_BRUSH, WHITE_BRUSH}) {
@@ -40,9 +40,9 @@ inline void PaintFocusFrame(HWND window, HDC context, RECT frame, int width) {
     }
 }
 
-/// Fills area without a brush of its own.
+/// Fills area without making a brush.
 inline void FillWithColor(HDC context, const RECT& area, COLORREF color) {
-    // An empty text on an opaque ground: cheaper than a brush that changes its colour each time.
+    // An empty text on an opaque background is cheaper than a brush whose colour changes each time.
     ::SetBkColor(context, color);
     ::ExtTextOutW(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
 }

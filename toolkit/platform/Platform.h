@@ -1,4 +1,4 @@
-// Where do the platform's own declarations come from? From here, and nowhere else.
+// Where do Windows' own declarations come from? From here and nowhere else.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// How is a window kept from painting while a routine fills it?
+// How is a window kept from painting while it is being filled?
 #pragma once
 
 #include "toolkit/platform/Platform.h"

@@ -1,4 +1,4 @@
-// How is a function of the platform reached whose library is loaded only when somebody needs it?
+// How is a Windows function called whose library is loaded only on demand?
 #pragma once
 
 #include "toolkit/platform/Platform.h"
@@ -6,7 +6,7 @@
 /// The library stays loaded from then on. Throws std::runtime_error when there is no such function.
 FARPROC FindSystemFunction(const char* library, const char* name);
 
-/// The same with the type that the platform declares it with.
+/// The same, with the type that Windows' headers declare.
 template <class Declared>
 Declared* SystemFunction(const char* library, const char* name) {
     return reinterpret_cast<Declared*>(reinterpret_cast<void*>(FindSystemFunction(library, name)));

@@ -3,10 +3,10 @@
 
 #include <utility>
 
-/// Where an exception ends that no handler expected. The program sets it once, before its first window.
+/// Called for an exception that no handler expected. Set once, before the first window.
 inline void (*errorTrap)() = nullptr;
 
-/// Runs body. This is the one place where unexpected exceptions stop: none crosses a frame of the platform.
+/// Runs body. This is the one place where unexpected exceptions stop: none passes through Windows.
 template <class Body>
 void Trapped(Body&& body) {
     try {

@@ -1,11 +1,11 @@
-// How many pixels is a length that stands in twips?
+// How many pixels is a length in twips?
 #pragma once
 
 /// 1,440 twips are an inch: 15 are a pixel at 96 DPI.
 inline constexpr int twipsPerInch = 1440;
 inline constexpr int twipsPerPixel = 15;
 
-/// A rectangle in twips or in pixels; right and bottom are the first that lie outside.
+/// A rectangle in twips or pixels; right and bottom are the first outside.
 struct Area {
     int left = 0;
     int top = 0;

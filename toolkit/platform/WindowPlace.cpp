@@ -16,7 +16,7 @@ Area PlaceOf(HWND window) {
 }
 
 void PlaceAt(HWND window, const Area& place) {
-    // Or the platform would cut a window off that is larger than the screen.
+    // Otherwise Windows cuts off a window that is larger than the screen.
     constexpr UINT uncut = SWP_NOSENDCHANGING;
     ::SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
                    SWP_NOZORDER | SWP_NOACTIVATE | uncut);

@@ -13,9 +13,8 @@ void PlaceAt(HWND window, const Area& place);
 /// Moves the window to the left and top of place; its size stays.
 void MoveTo(HWND window, const Area& place);
 
-/// What the monitor that the window is on, or is nearest to, has free for windows; without a window, the
-/// first one.
+/// The work area of the monitor that the window is on or nearest to; without a window, of the primary one.
 Area WorkAreaAt(HWND window);
 
-/// Whether a window at place has its caption, by which the user moves it, on a monitor.
+/// Whether the caption of a window at place is on a monitor, so that the user can move it.
 bool IsReachable(const Area& place);

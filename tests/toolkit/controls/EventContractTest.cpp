@@ -202,7 +202,7 @@ TEST_F(EventContract, FormIsDeactivatedAndActivatedAroundAMessageBox) {
     });
     MsgBox(&form, "text", MB_OK, "Box");
     user.join();
-    // The platform's own activation is over before the form's begins.
+    // Windows' own activation is over before the form's begins.
     EXPECT_EQ(events, (std::vector<std::string>{"Deactivate"}));
     EXPECT_TRUE(PumpUntil([&] { return events.size() == 2; }));
     EXPECT_EQ(events.back(), "Activate");

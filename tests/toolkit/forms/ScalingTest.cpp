@@ -24,7 +24,7 @@ protected:
     }
     void TearDown() override { Form::unloadAll(); }
 
-    /// What the platform does when the user drags a window over. Wine leaves the frame as it was.
+    /// What Windows does when the user drags a window over. Wine leaves the frame as it was.
     static void moveTo(const Form& form, int dpi, POINT corner) {
         SIZE size{};
         EXPECT_TRUE(::SendMessageA(form.handle(), WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&size)));
@@ -162,7 +162,7 @@ TEST_F(Scaling, ToolBarPicturesAreThoseOfTheScalingAndInTheMiddle) {
         int width = 0;
         int height = 0;
         ::ImageList_GetIconSize(images, &width, &height);
-        EXPECT_EQ(height, twips.scaled(24) - 6);  // the platform leaves 3 pixels above it
+        EXPECT_EQ(height, twips.scaled(24) - 6);  // Windows leaves 3 pixels above it
         const auto [first, last] = PaintedRows(images, height);
         EXPECT_LE(last - first, size);
         EXPECT_GE(last - first, size * 3 / 4);
