@@ -17,9 +17,10 @@ public:
 protected:
     explicit SwatchWindow(const char* name);
 
-private:
     /// Escape closes the window.
-    void Form_Command(int command);
+    virtual void Form_Command(int command);
+
+private:
     void Form_Activate();
     void Form_Unload();
     Area firstPlace(const SIZE& frame) override;

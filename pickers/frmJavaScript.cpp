@@ -43,6 +43,11 @@ void frmJavaScript::Form_Load() {
     }
 }
 
+void frmJavaScript::Form_Command(int command) {
+    tbrSortTools_ButtonClick(command);
+    SwatchWindow::Form_Command(command);
+}
+
 void frmJavaScript::tbrSortTools_ButtonClick(int button) {
     switch (button) {
         case IDM_Alphabetically: FillAlphabetically(); break;

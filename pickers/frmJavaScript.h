@@ -14,6 +14,8 @@ public:
 
 private:
     void Form_Load();
+    /// Another program may send the number of a button without the tool bar.
+    void Form_Command(int command) override;
     void tbrSortTools_ButtonClick(int button);
     void lblJavaScriptColor_MouseDown(int index, int button);
 

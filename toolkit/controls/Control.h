@@ -16,7 +16,7 @@ public:
     Control(Form& form, int id);
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
-    ~Control() override;
+    virtual ~Control();
 
     bool isEnabled() const { return ::IsWindowEnabled(handle()) != FALSE; }
     /// Whether it and its containers are enabled. A disabled control gets no mouse input, but other programs

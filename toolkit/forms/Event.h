@@ -13,10 +13,11 @@ class Event {
 public:
     template <class Target, class Owner>
     void bind(Target* target, void (Owner::*method)(Args...)) {
-        bind([target, method](Args... args) { (target->*method)(args...); });
+        assertUnbound();
+        handler = [target, method](Args... args) { (target->*method)(args...); };
     }
     void bind(std::function<void(Args...)> function) {
-        assert(!isBound());  // the first handler would silently never run again
+        assertUnbound();
         handler = std::move(function);
     }
 
@@ -33,5 +34,8 @@ public:
     }
 
 private:
+    /// A first handler would silently never run again.
+    void assertUnbound() const { assert(!isBound()); }
+
     std::function<void(Args...)> handler;
 };

@@ -17,7 +17,7 @@ public:
 protected:
     /// id is the control's number in the form's template.
     explicit FormPart(int id) : id(id) {}
-    virtual ~FormPart() = default;
+    ~FormPart() = default;
 
     /// Makes member's window a child of this one's. Call it before the form is loaded.
     void hold(FormPart& member) const { member.container = this; }
