@@ -61,17 +61,19 @@ consteval ColorTables BuildColorTables() {
     return tables;
 }
 
-bool Contains(const auto& table, PackedColor color) { return std::ranges::find(table, color) != table.end(); }
+bool Contains(const auto& table, const Color& color) {
+    return std::ranges::find(table, Pack(color)) != table.end();
+}
 
 }  // namespace
 
 constinit const ColorTables colorTables = BuildColorTables();
 
-bool IsWebsafe(PackedColor color) { return Contains(colorTables.websafeColor, color); }
-bool IsFailsafe(PackedColor color) { return Contains(colorTables.failsafeColor, color); }
-bool IsJavaScriptColor(PackedColor color) { return Contains(colorTables.jsColor, color); }
+bool IsWebsafe(const Color& color) { return Contains(colorTables.websafeColor, color); }
+bool IsFailsafe(const Color& color) { return Contains(colorTables.failsafeColor, color); }
+bool IsJavaScriptColor(const Color& color) { return Contains(colorTables.jsColor, color); }
 
-std::string ColorPropertyLetters(PackedColor color) {
+std::string ColorPropertyLetters(const Color& color) {
     std::string letters;
     if (IsWebsafe(color)) letters += 'W';
     if (IsFailsafe(color)) letters += 'F';

@@ -28,12 +28,12 @@ struct ColorTables {
 extern const ColorTables colorTables;
 
 /// Membership is exact equality with an entry.
-bool IsWebsafe(PackedColor color);
-bool IsFailsafe(PackedColor color);
-bool IsJavaScriptColor(PackedColor color);
+bool IsWebsafe(const Color& color);
+bool IsFailsafe(const Color& color);
+bool IsJavaScriptColor(const Color& color);
 
 /// "W" for websafe, "F" for failsafe, "J" for a JavaScript colour, in that order: from "" to "WFJ".
-std::string ColorPropertyLetters(PackedColor color);
+std::string ColorPropertyLetters(const Color& color);
 
 /// The JavaScript name of the colour, or "" when it has none. Of each pair of equal colours it is the second:
 /// "cyan", never "aqua"; "magenta", never "fuchsia".

@@ -83,11 +83,12 @@ void frmMain::mnuToolsOptions_Click() { options.showModal(*this); }
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);
-    marks.PaintSelected(red, green, blue);
-    channels.ShowValues(red, green, blue);
+    const Color color = ColorOf(red, green, blue);
+    marks.PaintSelected(color);
+    channels.ShowValues(color);
     if (turn.isOvertaken()) return;
-    colorBar.Refill(red, green, blue);
-    autocopy.ShowColorCode(red, green, blue);
+    colorBar.Refill(color);
+    autocopy.ShowColorCode(color);
     if (turn.isOvertaken()) return;
     marks.HighlightRenamed();
 }

@@ -122,7 +122,7 @@ void PaletteCommands::ShowPalette(const Palette& palette) {
     marks.Select(0);
     const Color first = state.marks.markColor[0];
     channels.SetSliders(first);
-    target.SetSelectedColor(first.red, first.green, first.blue);
+    target.SetSelectedColor(first);
     marks.RefreshProperties();
     marks.WhitenNames();
     marks.EnableSelectedSample();

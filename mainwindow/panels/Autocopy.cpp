@@ -48,9 +48,8 @@ void Autocopy::DisablePaste() {
     commands.SetTip(IDM_mnuEditPasteColor, messages::pasteDisabledTip);
 }
 
-void Autocopy::ShowColorCode(int red, int green, int blue) {
+void Autocopy::ShowColorCode(const Color& color) {
     const Turn turn(turns);
-    const Color color = ColorOf(red, green, blue);
     if (state.jsNamesOnly) {
         lblClipboard.setText(JavaScriptName(color));
     } else {
@@ -68,8 +67,7 @@ void Autocopy::ShowNotation(const Color& color) {
 
 void Autocopy::RestoreNotation() {
     if (!state.jsNamesOnly) lstAutocopy.setIndex(state.savedFormatIndex);
-    const Color color = channels.SliderColor();
-    ShowColorCode(color.red, color.green, color.blue);
+    ShowColorCode(channels.SliderColor());
 }
 
 void Autocopy::KeepNotation() {
@@ -79,8 +77,7 @@ void Autocopy::KeepNotation() {
 
 void Autocopy::lstAutocopy_Click() {
     const Cleared notAnEdit(edit.userColorChange);
-    const Color color = channels.SliderColor();
-    target.SetSelectedColor(color.red, color.green, color.blue);
+    target.SetSelectedColor(channels.SliderColor());
 }
 
 void Autocopy::chkJSNamesOnly_Click() {
@@ -96,7 +93,7 @@ void Autocopy::chkJSNamesOnly_Click() {
         lstAutocopy.setIndex(state.savedFormatIndex);
     }
     const Color color = state.marks.selectedColor();
-    ShowColorCode(color.red, color.green, color.blue);
+    ShowColorCode(color);
 }
 
 void Autocopy::tmrClip_Tick() {

@@ -26,7 +26,7 @@ public:
     void DisablePaste();
 
     /// Writes the preview; the clipboard follows on the third tick from here.
-    void ShowColorCode(int red, int green, int blue);
+    void ShowColorCode(const Color& color);
 
     /// The notation comes back when the window is activated, and is kept when it is deactivated.
     void RestoreNotation();

@@ -76,13 +76,13 @@ void ChannelEditors::ShowSliders() {
 
 void ChannelEditors::hsbColor_Change() {
     edit.clipTicks.reset();
-    if (edit.sliderSync) target.SetSelectedColor(hsbRed.value(), hsbGreen.value(), hsbBlue.value());
+    if (edit.sliderSync) target.SetSelectedColor(SliderColor());
 }
 
-void ChannelEditors::ShowValues(int red, int green, int blue) {
+void ChannelEditors::ShowValues(const Color& color) {
     {
         const Cleared notTyping(edit.editorSync);
-        const std::array<int, 3> values = {red, green, blue};
+        const std::array<int, 3> values = {color.red, color.green, color.blue};
         for (int channel = 0; channel < 3; ++channel) {
             const int value = values[channel];
             txtSet(channel).setText(optSetDec.value() ? std::to_string(value) : std::string(HexPairs[value]));
@@ -119,7 +119,7 @@ void ChannelEditors::cmdSetColor_Click() {
 
 void ChannelEditors::optSetMode_Click() {
     // Counts as the user's change of colour: a name that was given before is highlighted.
-    target.SetSelectedColor(hsbRed.value(), hsbGreen.value(), hsbBlue.value());
+    target.SetSelectedColor(SliderColor());
 }
 
 void ChannelEditors::ApplyDecimalValues() {

@@ -31,7 +31,7 @@ public:
     void ShowSliders();
 
     /// Writes the colour into the typed values; what was typed and not yet applied is gone.
-    void ShowValues(int red, int green, int blue);
+    void ShowValues(const Color& color);
 
 private:
     using ParseChannel = std::int16_t (*)(std::string_view text);

@@ -17,12 +17,12 @@ ColorBar::ColorBar(Form& form, ChannelEditors& channels)
     lblColorBar.setPlaces(std::move(steps));
 }
 
-void ColorBar::Refill(int red, int green, int blue) {
+void ColorBar::Refill(const Color& color) {
     std::array<PackedColor, barSteps> colors;
-    barColor = ColorRamp(ColorOf(red, green, blue));
+    barColor = ColorRamp(color);
     std::ranges::transform(barColor, colors.begin(), Pack);
     lblColorBar.setColors(colors);
-    lblColorBar.setFirstCell(std::min({red, green, blue}));  // the step of the colour itself
+    lblColorBar.setFirstCell(BarStepOf(color));
 }
 
 void ColorBar::lblColorBar_Click(int step) {

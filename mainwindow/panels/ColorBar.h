@@ -12,7 +12,7 @@ class ColorBar {
 public:
     ColorBar(Form& form, ChannelEditors& channels);
 
-    void Refill(int red, int green, int blue);
+    void Refill(const Color& color);
 
 private:
     void lblColorBar_Click(int step);

@@ -60,6 +60,10 @@ void ColorMarks::Select(int mark) {
     marks.selectedMark = mark;
 }
 
+Color ColorMarks::SampleColor(int mark) const {
+    return Unpack(static_cast<PackedColor>(picSample(mark).backColor()));
+}
+
 MarkNames ColorMarks::Names() const {
     MarkNames names;
     for (int mark = 0; mark < markCount; ++mark) names[mark] = Name(mark);
@@ -89,8 +93,7 @@ void ColorMarks::RefreshProperties() {
     }
 }
 
-void ColorMarks::PaintSelected(int red, int green, int blue) {
-    const Color color = ColorOf(red, green, blue);
+void ColorMarks::PaintSelected(const Color& color) {
     picSample(marks.selectedMark).setBackColor(Pack(color));
     DescribeSample(marks.selectedMark);
     marks.markColor[marks.selectedMark] = color;
@@ -98,7 +101,7 @@ void ColorMarks::PaintSelected(int red, int green, int blue) {
 
 /// For those who hear the window: the name and the colour.
 void ColorMarks::DescribeSample(int mark) {
-    picSample(mark).setText(Name(mark) + " " + HexText(Unpack(SampleColor(mark))));
+    picSample(mark).setText(Name(mark) + " " + HexText(SampleColor(mark)));
 }
 
 void ColorMarks::HighlightRenamed() {
@@ -120,8 +123,7 @@ void ColorMarks::optColor_Click(int mark) {
         EnableSelectedSample();
         Yield();
     }
-    const Color color = channels.SliderColor();
-    target.SetSelectedColor(color.red, color.green, color.blue);
+    target.SetSelectedColor(channels.SliderColor());
 }
 
 // The button is too small for a frame of its own.

@@ -25,7 +25,7 @@ public:
     void ApplyPalette(const Palette& palette);
     /// Selects a mark without applying its colour.
     void Select(int mark);
-    PackedColor SampleColor(int mark) const { return static_cast<PackedColor>(picSample(mark).backColor()); }
+    Color SampleColor(int mark) const;
     std::string Name(int mark) const { return txtName(mark).text(); }
     MarkNames Names() const;
     /// Names and colours as they stand.
@@ -41,7 +41,7 @@ public:
     void LetSamplesBePressed(bool isLet) { picSampleContainer.setEnabled(isLet); }
     void RefreshProperties();
 
-    void PaintSelected(int red, int green, int blue);
+    void PaintSelected(const Color& color);
     /// After a change of colour by the user: the selected mark's name may not fit any more.
     void HighlightRenamed();
 

@@ -7,8 +7,10 @@
 
 inline constexpr int barSteps = 256;
 
-/// Step i adds i - m to each channel, m being the smallest channel, and limits it to 0..255: step m is the
-/// colour itself, step 255 is white.
+/// The step that shows the colour itself: its smallest channel.
+int BarStepOf(const Color& color);
+
+/// Step i adds i - BarStepOf(color) to each channel and limits it to 0..255; step 255 is white.
 std::array<Color, barSteps> ColorRamp(const Color& color);
 
 /// Left edge of step i in pixels at 96 DPI, 0 to 731. A step is barStepWidth wide and lies over its left

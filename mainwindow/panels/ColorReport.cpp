@@ -27,8 +27,8 @@ std::string Question(std::string_view name) {
 
 }  // namespace
 
-ColorReport ReportColor(PackedColor color, std::string_view name) {
-    const std::string_view javaScriptName = JavaScriptName(Unpack(color));
+ColorReport ReportColor(const Color& color, std::string_view name) {
+    const std::string_view javaScriptName = JavaScriptName(color);
     ColorReport report;
     report.text = IsWebsafe(color) ? messages::websafeColor : messages::notWebsafeColor;
     report.text += paragraph;
@@ -40,8 +40,8 @@ ColorReport ReportColor(PackedColor color, std::string_view name) {
     return report;
 }
 
-std::string_view FindJavaScriptName(PackedColor color) {
-    const std::string_view name = JavaScriptName(Unpack(color));
-    const bool isFound = !name.empty() && color != colorTables.jsColor.front();
+std::string_view FindJavaScriptName(const Color& color) {
+    const std::string_view name = JavaScriptName(color);
+    const bool isFound = !name.empty() && Pack(color) != colorTables.jsColor.front();
     return isFound ? name : messages::notJavaScript;
 }

@@ -12,8 +12,8 @@ struct ColorReport {
 };
 
 /// Whether the colour is websafe, failsafe and a JavaScript colour. name is what its mark is called now.
-ColorReport ReportColor(PackedColor color, std::string_view name);
+ColorReport ReportColor(const Color& color, std::string_view name);
 
 /// What Find JavaScript Names calls a mark of that colour: its JavaScript name, or the placeholder for
 /// colours without one. The first name, aliceblue, is never found.
-std::string_view FindJavaScriptName(PackedColor color);
+std::string_view FindJavaScriptName(const Color& color);

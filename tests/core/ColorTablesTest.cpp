@@ -23,8 +23,8 @@ std::string Hex(PackedColor packed) {
 
 std::string NameOf(std::string_view nameHex) { return std::string(nameHex.substr(0, nameHex.find(' '))); }
 
-constexpr PackedColor silver = 0xC0C0C0;
-constexpr PackedColor middleGrey = 0x808080;
+constexpr Color silver = ColorOf(0xC0, 0xC0, 0xC0);
+constexpr Color middleGrey = ColorOf(0x80, 0x80, 0x80);
 
 }  // namespace
 
@@ -113,39 +113,39 @@ TEST(JavaScriptTables, DotNetOrderRunsFromGreysToPinks) {
     EXPECT_EQ(order[139], "lightpink #FFB6C1");
 }
 
-TEST(Membership, DarkGrey333333IsWebsafe) { EXPECT_TRUE(IsWebsafe(0x333333)); }
+TEST(Membership, DarkGrey333333IsWebsafe) { EXPECT_TRUE(IsWebsafe(ColorOf(0x33, 0x33, 0x33))); }
 
 TEST(Membership, Grey808080IsFailsafeButNotWebsafe) {
-    EXPECT_EQ(colorTables.failsafeColor[7], middleGrey);
+    EXPECT_EQ(colorTables.failsafeColor[7], Pack(middleGrey));
     EXPECT_TRUE(IsFailsafe(middleGrey));
     EXPECT_FALSE(IsWebsafe(middleGrey));
 }
 
 TEST(Membership, SilverIsFailsafeAndJavaScriptButNotWebsafe) {
-    EXPECT_EQ(colorTables.failsafeColor[14], silver);
+    EXPECT_EQ(colorTables.failsafeColor[14], Pack(silver));
     EXPECT_TRUE(IsFailsafe(silver));
     EXPECT_TRUE(IsJavaScriptColor(silver));
-    EXPECT_EQ(JavaScriptName(Unpack(silver)), "silver");
+    EXPECT_EQ(JavaScriptName(silver), "silver");
     EXPECT_FALSE(IsWebsafe(silver));
 }
 
 TEST(Membership, Cyan00FFFFIsInAllThreeTables) {
-    const PackedColor cyan = Pack(ColorOf(0, 255, 255));
-    EXPECT_EQ(colorTables.failsafeColor[10], cyan);
+    const Color cyan = ColorOf(0, 255, 255);
+    EXPECT_EQ(colorTables.failsafeColor[10], Pack(cyan));
     EXPECT_EQ(ColorPropertyLetters(cyan), "WFJ");
-    EXPECT_EQ(JavaScriptName(Unpack(cyan)), "cyan");
+    EXPECT_EQ(JavaScriptName(cyan), "cyan");
 }
 
 TEST(Membership, AlmostBlack010101IsInNoTable) {
-    EXPECT_EQ(ColorPropertyLetters(0x010101), "");
-    EXPECT_EQ(JavaScriptName(Unpack(0x010101)), "");
+    EXPECT_EQ(ColorPropertyLetters(ColorOf(1, 1, 1)), "");
+    EXPECT_EQ(JavaScriptName(ColorOf(1, 1, 1)), "");
 }
 
 TEST(ColorPropertyLetters, StandInTheOrderWFJ) {
-    EXPECT_EQ(ColorPropertyLetters(0x333333), "W");
+    EXPECT_EQ(ColorPropertyLetters(ColorOf(0x33, 0x33, 0x33)), "W");
     EXPECT_EQ(ColorPropertyLetters(middleGrey), "FJ");
-    EXPECT_EQ(ColorPropertyLetters(Pack(ColorOf(0xFA, 0xFA, 0xD2))), "J");
-    EXPECT_EQ(ColorPropertyLetters(Pack(ColorOf(255, 0, 0))), "WFJ");
+    EXPECT_EQ(ColorPropertyLetters(ColorOf(0xFA, 0xFA, 0xD2)), "J");
+    EXPECT_EQ(ColorPropertyLetters(ColorOf(255, 0, 0)), "WFJ");
 }
 
 TEST(JavaScriptName, IsTheSecondOfEachPairOfEqualColors) {

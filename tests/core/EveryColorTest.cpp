@@ -18,7 +18,8 @@ TEST(Membership, OfAllColorsExactlyThoseOfTheTables) {
     int websafe = 0;
     int failsafe = 0;
     int javaScript = 0;
-    for (PackedColor color = 0; color < allColors; ++color) {
+    for (PackedColor packed = 0; packed < allColors; ++packed) {
+        const Color color = Unpack(packed);
         websafe += IsWebsafe(color);
         failsafe += IsFailsafe(color);
         javaScript += IsJavaScriptColor(color);

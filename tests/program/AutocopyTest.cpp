@@ -18,7 +18,9 @@ struct AutocopyForm : Form, ColorTarget {
     }
     ~AutocopyForm() override { unload(); }
 
-    void SetSelectedColor(int red, int green, int blue) override { view.ShowColorCode(red, green, blue); }
+    void SetSelectedColor(int red, int green, int blue) override {
+        view.ShowColorCode(ColorOf(red, green, blue));
+    }
     std::string preview() const { return TextOf(::GetDlgItem(handle(), IDC_lblClipboard)); }
     void choose(int index) {
         ::SendMessageA(::GetDlgItem(handle(), IDC_lstAutocopy), LB_SETCURSEL, index, 0);
@@ -47,12 +49,12 @@ protected:
 
 TEST_F(Preview, WithoutAChosenNotationStaysAsItIsButStartsTheCountdownAgain) {
     form->choose(0);
-    form->view.ShowColorCode(1, 2, 3);
+    form->view.ShowColorCode(ColorOf(1, 2, 3));
     ASSERT_EQ(form->preview(), "#010203");
     form->choose(-1);
     form->edit.clipTicks.count();
     form->edit.clipTicks.count();
-    form->view.ShowColorCode(4, 5, 6);
+    form->view.ShowColorCode(ColorOf(4, 5, 6));
     EXPECT_EQ(form->preview(), "#010203");
     EXPECT_FALSE(form->edit.clipTicks.count());
     EXPECT_FALSE(form->edit.clipTicks.count());
@@ -62,9 +64,9 @@ TEST_F(Preview, WithoutAChosenNotationStaysAsItIsButStartsTheCountdownAgain) {
 TEST_F(Preview, InJavaScriptNamesModeIgnoresTheNotation) {
     form->state.jsNamesOnly = true;
     form->choose(0);
-    form->view.ShowColorCode(0, 255, 255);
+    form->view.ShowColorCode(ColorOf(0, 255, 255));
     EXPECT_EQ(form->preview(), "cyan");
-    form->view.ShowColorCode(1, 2, 3);
+    form->view.ShowColorCode(ColorOf(1, 2, 3));
     EXPECT_EQ(form->preview(), "");
 }
 

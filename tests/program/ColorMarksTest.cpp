@@ -29,7 +29,7 @@ struct MarksForm : Form, ColorTarget {
     ~MarksForm() override { unload(); }
 
     void SetSelectedColor(int red, int green, int blue) override {
-        view.PaintSelected(red, green, blue);
+        view.PaintSelected(ColorOf(red, green, blue));
         view.HighlightRenamed();
     }
 

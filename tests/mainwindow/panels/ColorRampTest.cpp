@@ -30,6 +30,7 @@ TEST(ColorRamp, AnyChannelMayBeTheSmallest) {
         for (const Color& color :
              {ColorOf(smallest, other, 255), ColorOf(other, 255, smallest), ColorOf(255, smallest, other)}) {
             const auto ramp = ColorRamp(color);
+            ASSERT_EQ(BarStepOf(color), smallest);
             ASSERT_EQ(ramp[smallest], color);
             ASSERT_EQ(ramp[255], ColorOf(255, 255, 255));
         }

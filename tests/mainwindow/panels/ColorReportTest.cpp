@@ -24,12 +24,10 @@ std::string Question(const std::string& name) {
 }
 
 ColorReport Report(int red, int green, int blue, std::string_view name) {
-    return ReportColor(Pack(ColorOf(red, green, blue)), name);
+    return ReportColor(ColorOf(red, green, blue), name);
 }
 
-std::string_view Found(int red, int green, int blue) {
-    return FindJavaScriptName(Pack(ColorOf(red, green, blue)));
-}
+std::string_view Found(int red, int green, int blue) { return FindJavaScriptName(ColorOf(red, green, blue)); }
 
 /// Of a colour with two names, the report tells both and offers the first only.
 void ExpectTwins(ColorReport (*report)(std::string_view name), const std::string& first,
@@ -100,7 +98,7 @@ TEST(ColorReport, KnowsTheFirstAndTheLastName) {
 TEST(ColorReport, NoChannelMayBeOff) {
     const std::string negative = notWebsafe + gap + notFailsafe + gap + notJavaScriptColor;
     for (const Color& color : {ColorOf(254, 255, 255), ColorOf(255, 254, 255), ColorOf(255, 255, 254)}) {
-        EXPECT_EQ(ReportColor(Pack(color), "").text, negative);
+        EXPECT_EQ(ReportColor(color, "").text, negative);
     }
 }
 
