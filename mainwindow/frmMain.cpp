@@ -44,7 +44,7 @@ void frmMain::Form_Load() {
         channels.Prepare();
         marks.Prepare();
         palettes.ShowNewPalette();
-        autocopy.DisablePaste();
+        autocopy.EnablePaste();
     }
     edit.userColorChange = true;
     edit.sliderSync = true;

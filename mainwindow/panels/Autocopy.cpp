@@ -43,9 +43,11 @@ void Autocopy::FillNotations() {
     for (const Notation& notation : notations) lstAutocopy.addItem(notation.caption);
 }
 
-void Autocopy::DisablePaste() {
-    commands.SetEnabled(IDM_mnuEditPasteColor, false);
-    commands.SetTip(IDM_mnuEditPasteColor, messages::pasteDisabledTip);
+void Autocopy::EnablePaste() {
+    const bool isEnabled = copiedColor.has_value();
+    commands.SetEnabled(IDM_mnuEditPasteColor, isEnabled);
+    commands.SetTip(IDM_mnuEditPasteColor,
+                    isEnabled ? messages::pasteEnabledTip : messages::pasteDisabledTip);
 }
 
 void Autocopy::ShowColorCode(const Color& color) {
@@ -107,8 +109,7 @@ void Autocopy::CopyPreviewToClipboard() { PutTextOnClipboard(form.handle(), lblC
 
 void Autocopy::mnuEditCopyColor_Click() {
     copiedColor = state.marks.selectedColor();
-    commands.SetEnabled(IDM_mnuEditPasteColor, true);
-    commands.SetTip(IDM_mnuEditPasteColor, messages::pasteEnabledTip);
+    EnablePaste();
 }
 
 void Autocopy::mnuEditPasteColor_Click() {

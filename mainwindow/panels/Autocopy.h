@@ -23,7 +23,8 @@ public:
 
     /// At load: fills the list.
     void FillNotations();
-    void DisablePaste();
+    /// At load, and when a colour has been copied: without one there is nothing to paste.
+    void EnablePaste();
 
     /// Writes the preview; the clipboard follows on the third tick from here.
     void ShowColorCode(const Color& color);

@@ -89,15 +89,15 @@ void ChannelEditors::ShowValues(const Color& color) {
         }
         Yield();
     }
-    cmdSetColor.setEnabled(false);
+    areValuesWaiting = false;
+    EnableControls();
 }
 
 void ChannelEditors::txtSet_Change() {
     if (!edit.editorSync) return;
-    cmdSetColor.setEnabled(true);
-    // The mode stays as it is while typed values wait to be applied.
-    optSetDec.setEnabled(false);
-    optSetHex.setEnabled(false);
+    areValuesWaiting = true;
+    isModeLocked = true;
+    EnableControls();
 }
 
 void ChannelEditors::txtSet_GotFocus(int channel) { txtSet(channel).selectAllIfTabbed(); }
@@ -160,7 +160,13 @@ void ChannelEditors::Refuse(TextBox& failing, const char* refusal) {
 }
 
 void ChannelEditors::EndTyping() {
-    cmdSetColor.setEnabled(false);
-    optSetDec.setEnabled(true);
-    optSetHex.setEnabled(true);
+    areValuesWaiting = false;
+    isModeLocked = false;
+    EnableControls();
+}
+
+void ChannelEditors::EnableControls() {
+    cmdSetColor.setEnabled(areValuesWaiting);
+    optSetDec.setEnabled(!isModeLocked);
+    optSetHex.setEnabled(!isModeLocked);
 }

@@ -49,6 +49,7 @@ private:
     bool ParseValues(ParseChannel parse, const char* refusal, Color& color);
     void Refuse(TextBox& failing, const char* refusal);
     void EndTyping();
+    void EnableControls();
 
     Form& form;
     EditState& edit;
@@ -63,4 +64,6 @@ private:
     OptionGroup mode;
     OptionButton optSetDec;
     OptionButton optSetHex;
+    bool areValuesWaiting = false;  ///< what was typed is to be applied
+    bool isModeLocked = false;      ///< from the first typed character until Set or Enter
 };
