@@ -48,7 +48,6 @@ void frmMain::Form_Load() {
     }
     edit.userColorChange = true;
     edit.sliderSync = true;
-    edit.clipTicks.reset();
 }
 
 void frmMain::CheckColorDepth() {

@@ -59,7 +59,7 @@ void Autocopy::ShowColorCode(const Color& color) {
         if (turn.isOvertaken()) return;
         ShowNotation(color);
     }
-    edit.clipTicks.reset();
+    clipTicks.reset();
 }
 
 void Autocopy::ShowNotation(const Color& color) {
@@ -99,7 +99,7 @@ void Autocopy::chkJSNamesOnly_Click() {
 }
 
 void Autocopy::tmrClip_Tick() {
-    if (!edit.clipTicks.count()) return;
+    if (!clipTicks.count()) return;
     marks.RefreshProperties();
     Yield();
     CopyPreviewToClipboard();

@@ -5,6 +5,7 @@
 
 #include "core/Color.h"
 #include "mainwindow/panels/ChannelEditors.h"
+#include "mainwindow/panels/ClipTicks.h"
 #include "mainwindow/panels/ColorMarks.h"
 #include "mainwindow/panels/CommandBar.h"
 #include "mainwindow/panels/EditState.h"
@@ -55,6 +56,7 @@ private:
     CheckBox chkJSNamesOnly;
     Label lblClipboard;
     Timer tmrClip;
+    ClipTicks clipTicks;
     std::optional<Color> copiedColor;
     unsigned turns = 0;
 };

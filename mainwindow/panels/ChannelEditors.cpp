@@ -75,13 +75,12 @@ void ChannelEditors::ShowSliders() {
 }
 
 void ChannelEditors::hsbColor_Change() {
-    edit.clipTicks.reset();
     if (edit.sliderSync) target.SetSelectedColor(SliderColor());
 }
 
 void ChannelEditors::ShowValues(const Color& color) {
     {
-        const Cleared notTyping(edit.editorSync);
+        const Cleared notTyping(editorSync);
         const std::array<int, 3> values = {color.red, color.green, color.blue};
         for (int channel = 0; channel < 3; ++channel) {
             const int value = values[channel];
@@ -94,7 +93,7 @@ void ChannelEditors::ShowValues(const Color& color) {
 }
 
 void ChannelEditors::txtSet_Change() {
-    if (!edit.editorSync) return;
+    if (!editorSync) return;
     areValuesWaiting = true;
     isModeLocked = true;
     EnableControls();

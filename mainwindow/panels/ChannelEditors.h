@@ -64,6 +64,7 @@ private:
     OptionGroup mode;
     OptionButton optSetDec;
     OptionButton optSetHex;
+    bool editorSync = true;         ///< a change of a typed value is the user's
     bool areValuesWaiting = false;  ///< what was typed is to be applied
     bool isModeLocked = false;      ///< from the first typed character until Set or Enter
 };

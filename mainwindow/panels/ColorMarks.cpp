@@ -140,12 +140,12 @@ void ColorMarks::txtName_Change(int mark) {
 }
 
 void ColorMarks::txtName_Click(int mark) {
-    if (edit.nameBoxLeft) txtName(mark).selectAll();
-    edit.nameBoxLeft = false;
+    if (nameBoxLeft) txtName(mark).selectAll();
+    nameBoxLeft = false;
 }
 
 void ColorMarks::txtName_DblClick(int mark) { txtName(mark).selectAll(); }
 
 void ColorMarks::txtName_GotFocus(int mark) { txtName(mark).selectAllIfTabbed(); }
 
-void ColorMarks::txtName_LostFocus(int /*mark*/) { edit.nameBoxLeft = true; }
+void ColorMarks::txtName_LostFocus(int /*mark*/) { nameBoxLeft = true; }

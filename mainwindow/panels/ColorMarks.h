@@ -68,4 +68,5 @@ private:
     PictureBox picSampleContainer;
     ControlArray<PictureBox, markCount> picSample;
     ControlArray<Label, markCount> lblColorProp;
+    bool nameBoxLeft = true;  ///< a name box has lost the focus since the last click into one
 };

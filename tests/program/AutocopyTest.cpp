@@ -25,6 +25,13 @@ struct AutocopyForm : Form, ColorTarget {
     void choose(int index) {
         ::SendMessageA(::GetDlgItem(handle(), IDC_lstAutocopy), LB_SETCURSEL, index, 0);
     }
+    /// Whether the timer's next tick copies: the letters are refreshed before.
+    bool copiesAtNextTick() const {
+        const HWND letters = ::GetDlgItem(handle(), IDC_lblColorProp);
+        ::SetWindowTextA(letters, "not yet");
+        ::SendMessageA(handle(), WM_TIMER, IDC_tmrClip, 0);
+        return TextOf(letters) != "not yet";
+    }
 
     AppState state;
     EditState edit;
@@ -52,13 +59,13 @@ TEST_F(Preview, WithoutAChosenNotationStaysAsItIsButStartsTheCountdownAgain) {
     form->view.ShowColorCode(ColorOf(1, 2, 3));
     ASSERT_EQ(form->preview(), "#010203");
     form->choose(-1);
-    form->edit.clipTicks.count();
-    form->edit.clipTicks.count();
+    EXPECT_FALSE(form->copiesAtNextTick());
+    EXPECT_FALSE(form->copiesAtNextTick());
     form->view.ShowColorCode(ColorOf(4, 5, 6));
     EXPECT_EQ(form->preview(), "#010203");
-    EXPECT_FALSE(form->edit.clipTicks.count());
-    EXPECT_FALSE(form->edit.clipTicks.count());
-    EXPECT_TRUE(form->edit.clipTicks.count());
+    EXPECT_FALSE(form->copiesAtNextTick());
+    EXPECT_FALSE(form->copiesAtNextTick());
+    EXPECT_TRUE(form->copiesAtNextTick());
 }
 
 TEST_F(Preview, InJavaScriptNamesModeIgnoresTheNotation) {
