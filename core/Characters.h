@@ -1,4 +1,4 @@
-// Where do the characters of a text begin and end, in a code page where some take two bytes?
+// Where do characters begin and end in a code page where some take two bytes?
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 /// other character, a backslash for instance.
 using LeadByteTest = bool (*)(char byte);
 
-/// The length in bytes of the character at a place before the end of the text.
+/// The length in bytes of the character at that place, which is before the end of the text.
 std::size_t CharacterLength(std::string_view text, std::size_t at, LeadByteTest isLeadByte);
 
 std::size_t CharacterCount(std::string_view text, LeadByteTest isLeadByte);
@@ -19,5 +19,5 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadB
 /// The last character; "" for "".
 std::string_view LastCharacter(std::string_view text, LeadByteTest isLeadByte);
 
-/// Without the blanks on each side.
+/// The text without leading and trailing blanks.
 std::string_view TrimBlanks(std::string_view text);

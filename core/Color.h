@@ -12,7 +12,7 @@ struct Color {
     friend constexpr bool operator==(const Color&, const Color&) = default;
 };
 
-/// red + 256 x green + 65536 x blue: the platform's colour reference, red in the low byte.
+/// red + 256 x green + 65536 x blue: a Windows colour reference, red in the low byte.
 using PackedColor = std::int32_t;
 
 constexpr Color ColorOf(int red, int green, int blue) { return {.red = red, .blue = blue, .green = green}; }

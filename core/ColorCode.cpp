@@ -19,7 +19,7 @@ std::string_view Blue(const Color& color) { return HexPairs[color.blue]; }
 
 std::string Long(const Color& color) { return std::to_string(Pack(color)); }
 
-/// Blue, green, red: the byte order of the platform's colour reference.
+/// Blue, green, red: the byte order of a Windows colour reference.
 std::string ReferenceHex(const Color& color) { return Joined({Blue(color), Green(color), Red(color)}); }
 
 std::string Decimals(const Color& color, std::string_view separator) {

@@ -18,7 +18,7 @@ extern const std::array<Notation, 12> notations;
 inline constexpr int notationCount = static_cast<int>(std::tuple_size_v<decltype(notations)>);
 inline constexpr int customNotation = notationCount - 1;
 
-/// The colour (channels 0 to 255) in the notation of that format index; nothing for an index that none has.
+/// The colour (channels 0 to 255) in the notation of that format index; nothing when none has it.
 /// customFormat is the template of "Custom".
 std::optional<std::string> ColorCode(int formatIndex, const Color& color, std::string_view customFormat);
 

@@ -17,7 +17,7 @@ constexpr int PairValue(std::string_view hex, std::size_t at) {
     return 16 * DigitValue(hex[at]) + DigitValue(hex[at + 1]);
 }
 
-/// text ends in the six digits of a colour in web order.
+/// text ends in six hexadecimal digits: red, green, blue.
 constexpr PackedColor PackedFromHex(std::string_view text) {
     const std::string_view hex = text.substr(text.size() - hexLength);
     return Pack(ColorOf(PairValue(hex, 0), PairValue(hex, 2), PairValue(hex, 4)));

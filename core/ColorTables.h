@@ -7,7 +7,7 @@
 
 #include "core/Color.h"
 
-/// The reference colours. Entries of one index describe one colour within each group of tables; a
+/// The reference colours. Within a group, entries with the same index describe the same colour. A
 /// name-and-hex text is the name, one blank, "#" and six upper-case digits.
 struct ColorTables {
     std::array<Color, 216> websafeChannels;  ///< blue runs fastest, then green, then red
@@ -35,6 +35,6 @@ bool IsJavaScriptColor(const Color& color);
 /// "W" for websafe, "F" for failsafe, "J" for a JavaScript colour, in that order: from "" to "WFJ".
 std::string ColorPropertyLetters(const Color& color);
 
-/// The JavaScript name of the colour, or "" when it has none. Of each pair of equal colours it is the second:
-/// "cyan", never "aqua"; "magenta", never "fuchsia".
+/// The JavaScript name of the colour, or "" when it has none. Where two names share a colour, it is the
+/// second: "cyan", never "aqua"; "magenta", never "fuchsia".
 std::string_view JavaScriptName(const Color& color);

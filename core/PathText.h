@@ -7,14 +7,14 @@
 
 #include "core/Characters.h"
 
-/// Where the delimiter stands last; npos when it is empty or does not occur.
+/// Where the delimiter occurs last; npos when it is empty or does not occur.
 std::size_t LastPlaceOf(std::string_view delimiter, std::string_view text, LeadByteTest isLeadByte);
 
 /// The text after the last delimiter; the whole text when the delimiter is empty or does not occur.
 std::string_view GetFileNamePart(std::string_view text, std::string_view delimiter, LeadByteTest isLeadByte);
 
-/// The text up to and with its last backslash; "" when there is none.
+/// The text up to and including its last backslash; "" when there is none.
 std::string_view FolderPart(std::string_view path, LeadByteTest isLeadByte);
 
-/// The path, with ".txt" behind it unless there is a dot after its last backslash.
+/// The path, with ".txt" appended unless there is a dot after its last backslash.
 std::string WithExtension(std::string_view path, LeadByteTest isLeadByte);

@@ -6,7 +6,7 @@
 
 #include "toolkit/platform/Platform.h"
 
-/// The platform's help viewer. It is looked for when it is first needed, in the folder of the system only.
+/// The help viewer of Windows. It is looked for when it is first needed, in the system's folder only.
 class HTMLHelp {
 public:
     /// Full path of the compiled help file.
@@ -17,8 +17,7 @@ public:
     const std::string& TopicURL() const { return topic; }
     void setTopicURL(std::string_view page) { topic = page; }
 
-    /// Throws std::runtime_error when there is no viewer. A file or page that is missing is the viewer's to
-    /// report.
+    /// Throws std::runtime_error when there is no viewer. The viewer itself reports a missing file or page.
     void DisplayTopicURL();
 
     /// Closes every help window. Without a viewer there is none.

@@ -8,5 +8,5 @@ class Form;
 inline constexpr const char* welcomeTopic = "huevox1.htm";
 inline constexpr const char* customFormatTopic = "huevox10.htm";
 
-/// Shows a page of the help file that lies beside the program, or tells over form that it cannot.
+/// Shows a page of the help file that lies beside the program, or says over form that it cannot.
 void ShowHelpTopic(HTMLHelp& help, const char* topic, const Form& form);

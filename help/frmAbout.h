@@ -7,8 +7,7 @@
 #include "toolkit/controls/LinkLabel.h"
 #include "toolkit/forms/Form.h"
 
-/// Says what the program is, whose it is and where there is more of it. Enter, Escape and the close box are
-/// OK.
+/// Says what the program is, who made it and where there is more. Enter, Escape and the close box mean OK.
 class frmAbout final : public Form {
 public:
     frmAbout();

@@ -19,7 +19,7 @@ struct FileDialogs::Kind {
 
 namespace {
 
-/// Blanks and two NULs, with a NUL in front: the dialog would offer the blanks as a name.
+/// Blanks and two NULs, after a NUL: without it the dialog would offer the blanks as a name.
 template <std::size_t size>
 std::array<char, size> EmptyBuffer() {
     std::array<char, size> buffer{};
@@ -73,9 +73,9 @@ std::string FileDialogs::Show(const Kind& kind) {
     record.Flags = kind.flags;
     record.lpstrDefExt = "txt\0";
 
-    // Its library brings those of printing along, which most runs of the program never need.
+    // Loaded only now: its library loads those for printing too, which most runs never need.
     const auto show = SystemFunction<decltype(::GetOpenFileNameA)>("comdlg32.dll", kind.function);
-    // Whether the dialog itself moves the current folder, and when, differs from platform to platform.
+    // Whether the dialog itself changes the current folder, and when, depends on the version of Windows.
     const std::string folderBefore = CurrentFolder();
     if (!show(&record)) {
         ::SetCurrentDirectoryA(folderBefore.c_str());
@@ -87,7 +87,7 @@ std::string FileDialogs::Show(const Kind& kind) {
     return kind.isForExistingFiles && IsFile(path) ? path : WithExtension(path, IsLeadByte);
 }
 
-/// No folder is called "True" or "False": the platform then chooses one.
+/// No folder is called "True" or "False", so Windows then chooses one.
 void FileDialogs::ReplaceUnusableFolder() {
     if (IsValidFolder(state.settings.standardFolder)) return;
     const bool isDesktopKnown = GetDesktopFolder(state.desktopFolder);

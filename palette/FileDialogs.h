@@ -6,8 +6,8 @@
 #include "support/AppState.h"
 #include "toolkit/forms/Form.h"
 
-/// The platform's dialogs, opened in the standard folder. Each returns the full path that the user chose, and
-/// has made its folder the current one; or "", and the current folder is what it was.
+/// The file dialogs of Windows, opened in the standard folder. Each returns the full path that the user chose
+/// and makes its folder the current one; or returns "" and leaves the current folder as it was.
 class FileDialogs {
 public:
     FileDialogs(const Form& owner, AppState& state);

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr std::string_view crLf = "\r\n";
-constexpr std::size_t mostText = std::size_t{64} * 1024 * 1024;  // no palette has so long lines
+constexpr std::size_t mostText = std::size_t{64} * 1024 * 1024;  // no palette has lines that long
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// What of a long file does a reader of palettes need?
+// Which lines of a long file does the palette reader need?
 #pragma once
 
 #include <cstddef>
@@ -6,17 +6,17 @@
 #include <string_view>
 #include <vector>
 
-/// Takes a text block by block, keeps its first lines and counts the others. Only CR LF ends a line; what
+/// Takes a text block by block, keeps its first lines and counts all of them. Only CR LF ends a line; what
 /// follows the last CR LF is a line unless it is empty.
 class FirstLines {
 public:
     FirstLines(std::size_t mostKept, std::size_t mostCounted)
         : mostKept(mostKept), mostCounted(mostCounted) {}
 
-    /// Takes the next block. False when nothing that follows would make a difference any more.
+    /// Takes the next block. False once nothing that follows can make a difference.
     bool take(std::string_view block);
 
-    /// The lines that are kept, for as long as this value lives and takes no more.
+    /// The kept lines, valid until this value takes another block or ends.
     std::vector<std::string_view> kept() const;
     /// How many lines there are, at most mostCounted.
     std::size_t count() const;

@@ -66,7 +66,7 @@ void PaletteCommands::mnuFileSave_Click() {
     const std::string title = form.text();
     const std::string name = title.substr(std::min(messages::titlePrefix.size(), title.size()));
     if (name == messages::newPaletteName) return mnuFileSaveAs_Click();
-    // Where the last file dialog was; the current folder may be another since, when that one is gone.
+    // Where the last file dialog was; the current folder may be another one if that is gone.
     Save(dialogs.chosenFolder() + name);
 }
 
@@ -129,7 +129,7 @@ void PaletteCommands::ShowPalette(const Palette& palette) {
 }
 
 bool PaletteCommands::Save(const std::string& path) {
-    // A file that is open, be it here, cannot be replaced.
+    // A file that is still open, even in this program, cannot be replaced.
     filesLeftOpen.clear();
     const bool isSaved = Reported(form, messages::couldNotSave, [&] {
         const Palette saved = AsSaved(marks.Shown());

@@ -35,7 +35,7 @@ private:
     void mnuFileSaveAs_Click();
 
     bool IsChanged() const;
-    /// False when the user would rather keep what there is.
+    /// False when the user would rather keep the current palette.
     bool OfferToSave();
     void AskToSavePalette();
     void Open(const std::string& path);

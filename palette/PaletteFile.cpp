@@ -20,7 +20,7 @@ constexpr std::string_view dataHeader = "[Huevox data]";
 constexpr std::size_t dataLine = 4;
 constexpr std::size_t marksInFile = markCount;
 
-/// A layout that is read and not written any more: the lines of a mark come again after every period lines.
+/// A layout that is read but no longer written: every mark takes period lines.
 struct OlderGeneration {
     std::string_view header;
     std::size_t period;  // cppcheck-suppress unusedStructMember
@@ -42,7 +42,7 @@ std::string ChannelLine(const Color& color) {
     return std::to_string(color.red) + ',' + std::to_string(color.green) + ',' + std::to_string(color.blue);
 }
 
-/// One line a notation, and "Custom:" without a blank when it comes to nothing.
+/// One line per notation; "Custom:" has no blank after it when its code is empty.
 void AddCodeBlock(std::string& text, const std::string& name, const Color& color,
                   std::string_view customFormat) {
     AddLine(text, "");
@@ -103,7 +103,7 @@ std::optional<std::string_view> WithoutEnds(std::string_view text, LeadByteTest 
     return rest->substr(0, rest->size() - LastCharacter(*rest, isLeadByte).size());
 }
 
-/// A label, then "255, 0, 128)": what stands where a blank or the bracket belongs is dropped unseen.
+/// A label, then "255, 0, 128)": what stands in the place of a blank or the bracket is dropped unseen.
 std::optional<Color> ParseOlderColor(std::string_view line, LeadByteTest isLeadByte) {
     const std::size_t label = FirstCharacters(line, labelLength, isLeadByte).size();
     std::optional<ColorParts> parts = SplitColor(line.substr(label));

@@ -10,13 +10,13 @@
 #include "core/Characters.h"
 #include "support/Marks.h"
 
-/// The palette as a file keeps it: a name that only stands in until the next edit is no name.
+/// The palette as a file keeps it: the placeholder for "no JavaScript colour" becomes that for "no name".
 Palette AsSaved(Palette palette);
 
 /// The text of a file: 100 lines, each ended by CR LF. Channels are 0 to 255; no name contains CR LF.
 std::string WritePaletteFile(const Palette& palette, std::string_view customFormat);
 
-/// As many lines as the reader looks at in the longest of the four generations.
+/// The most lines that the reader looks at in any of the four generations.
 inline constexpr std::size_t linesLookedAt = 46;
 
 /// The palette of a file of any of the four generations; nothing when it is none of them. Names are cut to

@@ -12,7 +12,7 @@ namespace {
 constexpr DWORD blockSize = 256 * 1024;
 
 void Check(bool hasSucceeded) {
-    if (!hasSucceeded) throw std::runtime_error("the platform refused a file");
+    if (!hasSucceeded) throw std::runtime_error("Windows refused a file");
 }
 
 OwnedFile Open(const std::string& path, DWORD access, DWORD sharing) {
@@ -27,15 +27,15 @@ bool IsReadOnly(const std::string& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
-/// A file of a new name, which goes unless it takes the place of another. While it is being written it even
-/// goes when the program is ended from outside.
+/// A file with a new name, deleted unless it takes the place of another; while it is being written, even when
+/// the program is ended from outside.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& folder) {
         constexpr UINT numbers = 0xFFFF;
-        // What has the name already may be another copy's.
+        // A file that already has the name may belong to another copy of the program.
         for (UINT attempt = 0; !file && attempt < numbers; ++attempt) {
-            // For 0 the platform would find a number, and make a file that stays.
+            // Given 0, Windows would choose the number and create a file that stays.
             const UINT number = 1 + (::GetCurrentProcessId() + attempt) % numbers;
             Check(::GetTempFileNameA(folder.c_str(), "hvx", number, name.data()) != 0);
             const HANDLE created = ::CreateFileA(name.data(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
@@ -62,7 +62,7 @@ public:
     }
 
     void takePlaceOf(const std::string& path) {
-        // Scanners and searches open a file for a moment; meanwhile it cannot be replaced.
+        // Virus scanners and indexers open a file for a moment; meanwhile it cannot be replaced.
         constexpr int attempts = 10;
         constexpr DWORD pause = 20;
         goWhenClosed(false);
@@ -104,7 +104,7 @@ void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view
 }
 
 void ReplaceTextFile(const std::string& path, std::string_view text) {
-    // The platform lets some users replace a file that nobody may write.
+    // Windows lets some users replace a read-only file.
     Check(!IsReadOnly(path));
     const std::string folder(FolderPart(path, IsLeadByte));
     TemporaryFile temporary(folder.empty() ? "." : folder);

@@ -1,4 +1,4 @@
-// How do texts get from and to the disk?
+// How is text read from disk and written to it?
 #pragma once
 
 #include <functional>
@@ -15,6 +15,6 @@ OwnedFile OpenForReading(const std::string& path);
 /// Hands the file's bytes on, block by block, until take returns false. Throws std::runtime_error.
 void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view block)>& take);
 
-/// Puts the text in the place of the file, or makes the file, in one step. Throws std::runtime_error; then
-/// what was there before is there still, whole.
+/// Replaces the file with the text, or creates it, in one step. Throws std::runtime_error; what was there
+/// before is then still there, whole.
 void ReplaceTextFile(const std::string& path, std::string_view text);

@@ -7,7 +7,7 @@
 
 // Each in the order of its reference table, in twips from the left and top of the first swatch.
 
-/// A block of six columns a green level, from left to right; in it red grows to the right and blue upwards.
+/// Six columns per green level, from left to right; within them red grows to the right and blue upwards.
 std::vector<Area> WebsafePlaces();
 
 /// One row, in which each swatch lies a little over its left neighbour.

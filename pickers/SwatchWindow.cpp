@@ -25,7 +25,7 @@ void SwatchWindow::Form_Command(int command) {
     if (command == IDC_cmdCancel) unload();
 }
 
-/// A window manager may have put the new window elsewhere on its way to the screen.
+/// A window manager may have put the new window elsewhere when it was shown.
 void SwatchWindow::Form_Activate() {
     if (newPlace) MoveTo(handle(), *newPlace);
     newPlace.reset();
@@ -39,7 +39,7 @@ Area SwatchWindow::firstPlace(const SIZE& frame) {
 }
 
 Area SwatchWindow::choosePlace(int width, int height) const {
-    // A monitor may have gone since.
+    // The monitor may be gone by now.
     if (lastPlace && IsReachable(*lastPlace))
         return {lastPlace->left, lastPlace->top, lastPlace->left + width, lastPlace->top + height};
     std::vector<Area> places(others.size());

@@ -1,4 +1,4 @@
-// How does a palette window come to the screen, and where?
+// How does a palette window open, and where?
 #pragma once
 
 #include <optional>
@@ -6,12 +6,11 @@
 
 #include "toolkit/forms/Form.h"
 
-/// A small window of swatches, whose template is in twips. While the program runs it comes back to where the
-/// user has put it.
+/// A small window of swatches, whose template is in twips. While the program runs, it reopens where
+/// the user left it.
 class SwatchWindow : public Form {
 public:
-    /// Brings the window forward; loads it before, beside its neighbors, when it is not on the
-    /// screen.
+    /// Brings the window to the front; if it is not on the screen, first loads it beside its neighbors.
     void open(std::span<const HWND> neighbors);
 
 protected:
@@ -26,7 +25,7 @@ private:
     Area firstPlace(const SIZE& frame) override;
     Area choosePlace(int width, int height) const;
 
-    std::span<const HWND> others;  ///< the windows that it is to stand beside, while it opens
+    std::span<const HWND> others;  ///< the windows to open beside, while it opens
     std::optional<Area> lastPlace;
     std::optional<Area> newPlace;  ///< until the window is first activated
 };

@@ -55,7 +55,7 @@ bool IsFolderOnDisk(const std::string& path) {
            (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-/// The platform would give a relative path such as ".." the type of the current drive.
+/// Windows would give a relative path such as ".." the type of the current drive.
 bool IsDrive(const std::string& text) {
     return text.size() == 2 && ::IsCharAlphaA(text[0]) != FALSE && text[1] == ':';
 }

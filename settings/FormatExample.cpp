@@ -4,7 +4,7 @@
 
 std::string FormatExample(int index, std::string_view customFormat) {
     std::string example = ColorCode(index, ColorOf(255, 204, 0), customFormat).value_or("");
-    // The two of HTML do without the sign that they begin with; a template is shown as it is.
+    // Both HTML notations are shown without their "#"; a template is shown as it is.
     if (index != customNotation && example.starts_with('#')) example.erase(0, 1);
     return example;
 }

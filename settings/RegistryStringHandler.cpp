@@ -39,7 +39,7 @@ std::string RegistryStringHandler::ReadString(HKEY MyHive, std::string_view strM
     std::string text(static_cast<std::size_t>(size) + 1, ' ');
     auto* bytes = reinterpret_cast<BYTE*>(text.data());
     if (::RegQueryValueExA(key.get(), name.c_str(), nullptr, &type, bytes, &size) != ERROR_SUCCESS) return "";
-    // A stored text need not end in a NUL: what the platform says it has returned is the text's limit.
+    // A stored text need not end in a NUL: it is no longer than the size that Windows has returned.
     text.resize(std::min<std::size_t>(size, text.find('\0')));
     return text;
 }

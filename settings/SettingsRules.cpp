@@ -19,7 +19,7 @@ bool IsShortEnough(std::string_view text, const TextChecks& checks) {
     return CharacterCount(text, checks.isLeadByte) <= customFormatLimit;
 }
 
-/// The desktop folder stands in unchecked, so that a first start never finds its settings unusable.
+/// "" stands for the desktop folder, unchecked, so that a first start never finds its settings unusable.
 bool IsFolder(std::string_view text, const TextChecks& checks) {
     return text.empty() || checks.isValidFolder(text);
 }

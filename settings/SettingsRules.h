@@ -24,7 +24,7 @@ inline constexpr std::string_view standardFolder = "StandardFolder";
 /// The length of the longest custom template, in characters.
 inline constexpr std::size_t customFormatLimit = 250;
 
-/// What the platform knows of a text.
+/// What only Windows can tell about a text.
 struct TextChecks {
     std::function<bool(std::string_view path)> isValidFolder;
     LeadByteTest isLeadByte;
@@ -50,6 +50,5 @@ using SettingWriter = std::function<void(std::string_view valueName, std::string
 /// first unusable value: those before it have been taken, it and those after it have not.
 bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks);
 
-/// Puts every setting back to its default and writes all of them. The start-up notation in memory keeps what
-/// it had.
+/// Puts every setting back to its default and writes them all. The start-up notation in memory is kept.
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write);

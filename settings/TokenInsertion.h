@@ -1,4 +1,4 @@
-// What becomes of a custom template when a placeholder is put into it?
+// What does a custom template become when a placeholder is inserted?
 #pragma once
 
 #include <cstddef>
@@ -10,10 +10,10 @@
 
 struct TokenInsertion {
     std::string text;   ///< the new template
-    std::size_t caret;  ///< behind the placeholder, in characters
+    std::size_t caret;  ///< after the placeholder, in characters
 };
 
-/// Puts token in the place of length characters of text from start on; both count from 0 and in characters.
+/// Replaces length characters of text from start on with token. start counts from 0, both in characters.
 /// Nothing when the template would become longer than one may be.
 std::optional<TokenInsertion> InsertedToken(std::string_view text, std::size_t start, std::size_t length,
                                             std::string_view token, LeadByteTest isLeadByte);

@@ -64,7 +64,7 @@ void frmCustomFormat::Form_Load() {
 }
 
 void frmCustomFormat::Form_Activate() {
-    // Only now: the platform selects the whole text when it gives a box the focus.
+    // Only now: Windows selects the whole text when it gives a box the focus.
     if (std::exchange(isOpening, false)) txtFormat.setCaretToEnd();
 }
 

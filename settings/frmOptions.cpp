@@ -79,7 +79,7 @@ void frmOptions::ShowExample() {
     lblExample.setText(DoubledAmpersands(example));
 }
 
-/// The label shortens a long path where it paints it.
+/// The label shortens a long path when it paints it; the tip shows it whole.
 void frmOptions::ShowFolder(const std::string& folder) {
     lblSelectedStandardFolder.setText(folder);
     lblSelectedStandardFolder.setToolTip(folder);

@@ -10,7 +10,7 @@
 #include "toolkit/controls/ListBox.h"
 #include "toolkit/forms/Form.h"
 
-/// Edits the settings but for the custom template. Nothing is taken over or stored before OK; the start-up
+/// Edits all settings but the custom template. Nothing is taken over or stored before OK; the start-up
 /// notation is stored only, for the next start.
 class frmOptions final : public Form {
 public:

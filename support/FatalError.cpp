@@ -18,7 +18,7 @@ bool errorExitInProgress = false;
 bool errorMessageShown = false;
 bool isTelling = false;  // the message is on the screen
 
-/// Message boxes and the platform's own dialogs run loops that the end of their owner alone does not leave.
+/// Message boxes and the dialogs of Windows run loops of their own, which do not end with their owner.
 BOOL CALLBACK EndModalDialog(HWND window, LPARAM) {
     std::array<char, 16> className{};
     ::GetClassNameA(window, className.data(), className.size());
@@ -44,8 +44,7 @@ void ArmErrorTrap() {
 bool IsErrorExitInProgress() { return errorExitInProgress; }
 
 void HandleFatalError() {
-    // A further error behind the message must not take it away from the user; the windows go when it is
-    // answered.
+    // A further error behind the message must not take it away; the windows go when it is answered.
     if (!errorTrapArmed || isTelling) return;
     errorExitInProgress = true;
     Quiet();

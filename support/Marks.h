@@ -22,7 +22,7 @@ struct Palette {
     friend bool operator==(const Palette&, const Palette&) = default;
 };
 
-/// The names that the marks bear now are the texts of their name boxes and are not kept here.
+/// The current names are the texts of the name boxes and are not kept here.
 struct Marks {
     int selectedMark = 0;
     MarkColors markColor;

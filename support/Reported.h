@@ -7,8 +7,7 @@
 #include "support/Messages.h"
 #include "toolkit/forms/MsgBox.h"
 
-/// Runs body. When it fails, the user is told so in one sentence and the program goes on. True when it did
-/// not.
+/// Runs body. When it fails, a message box shows the sentence and the program goes on. True on success.
 template <class Body>
 bool Reported(const Form& form, const char* sentence, Body&& body) {
     try {

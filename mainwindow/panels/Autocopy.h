@@ -30,7 +30,7 @@ public:
     /// Writes the preview; the clipboard follows on the third tick from here.
     void ShowColorCode(const Color& color);
 
-    /// The notation comes back when the window is activated, and is kept when it is deactivated.
+    /// The notation is kept when the window is deactivated, and restored when it is activated.
     void RestoreNotation();
     void KeepNotation();
 

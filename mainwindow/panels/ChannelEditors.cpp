@@ -61,7 +61,7 @@ Color ChannelEditors::SliderColor() const {
 }
 
 void ChannelEditors::HideSliders() {
-    // Looked for first: a hidden slider passes the focus on to the next.
+    // First of all: hiding a slider moves the focus on to the next.
     for (ScrollBar* slider : {&hsbRed, &hsbGreen, &hsbBlue}) {
         if (slider->hasFocus()) sliderWithFocus = slider;
     }
@@ -117,7 +117,7 @@ void ChannelEditors::cmdSetColor_Click() {
 }
 
 void ChannelEditors::optSetMode_Click() {
-    // Counts as the user's change of colour: a name that was given before is highlighted.
+    // Counts as a change of colour by the user: a name that the mark already has is highlighted.
     target.SetSelectedColor(SliderColor());
 }
 
@@ -136,7 +136,7 @@ void ChannelEditors::ApplyHexValues() {
     EndTyping();
 }
 
-/// Reads all three boxes. False when one is not allowed: the first of them has been refused.
+/// Reads all three boxes. False when a value is not allowed; the first such box has then been refused.
 bool ChannelEditors::ParseValues(ParseChannel parse, const char* refusal, Color& color) {
     std::array<int, 3> values{};
     for (int channel = 0; channel < 3; ++channel) {

@@ -21,16 +21,16 @@ public:
     /// At load: limits, tool tips, decimal mode.
     void Prepare();
 
-    /// Sets red, green and blue in this order. While sliders apply, each that changes applies the sliders'
-    /// colour.
+    /// Sets red, green and blue in this order. While sliders apply, each one that changes applies the
+    /// colour of all three.
     void SetSliders(const Color& color);
     Color SliderColor() const;
 
-    /// Makes room for what stands in the sliders' place for a while; then the focus is where it was.
+    /// Makes room for something else in the sliders' place; when they come back, the focus is where it was.
     void HideSliders();
     void ShowSliders();
 
-    /// Writes the colour into the typed values; what was typed and not yet applied is gone.
+    /// Writes the colour into the boxes; what was typed but not applied is lost.
     void ShowValues(const Color& color);
 
 private:

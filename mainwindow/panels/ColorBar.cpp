@@ -26,7 +26,7 @@ void ColorBar::Refill(const Color& color) {
 }
 
 void ColorBar::lblColorBar_Click(int step) {
-    // Each slider that changes refills the bar; the user sees only the last of it.
+    // Each slider that changes refills the bar; only the last fill is painted.
     const CellStrip::Held held(lblColorBar);
     channels.SetSliders(barColor[step]);
 }

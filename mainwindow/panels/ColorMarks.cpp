@@ -48,7 +48,7 @@ void ColorMarks::ApplyPalette(const Palette& palette) {
         picSample(mark).setBackColor(Pack(palette.colors[mark]));
         txtName(mark).setText(palette.names[mark]);
         DescribeSample(mark);
-        // What the box makes of the name: a palette that was just opened is unchanged.
+        // The name as the box shows it, so that a palette just opened counts as unchanged.
         marks.savedMarkName[mark] = txtName(mark).text();
         marks.markColor[mark] = palette.colors[mark];
         marks.savedMarkColor[mark] = palette.colors[mark];
@@ -99,7 +99,7 @@ void ColorMarks::PaintSelected(const Color& color) {
     marks.markColor[marks.selectedMark] = color;
 }
 
-/// For those who hear the window: the name and the colour.
+/// For screen readers: the name and the colour.
 void ColorMarks::DescribeSample(int mark) {
     picSample(mark).setText(Name(mark) + " " + HexText(SampleColor(mark)));
 }

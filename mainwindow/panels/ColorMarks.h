@@ -1,4 +1,4 @@
-// What does the window show of the six colour marks, and how is one selected and named?
+// How are the six colour marks shown, selected and named?
 #pragma once
 
 #include <string>
@@ -21,7 +21,7 @@ public:
     /// At load: limits of the name boxes.
     void Prepare();
 
-    /// Shows a new or opened palette, which counts as saved. The selected mark and the other views are left.
+    /// Shows a new or opened palette, which counts as saved. The selection and the other views stay.
     void ApplyPalette(const Palette& palette);
     /// Selects a mark without applying its colour.
     void Select(int mark);
@@ -36,13 +36,13 @@ public:
     void WhitenNames();
     /// Only the selected mark's sample can start a screen pick.
     void EnableSelectedSample();
-    /// What happens to the samples by the mouse is somebody else's to say.
+    /// For whoever handles the mouse on the samples.
     ControlArray<PictureBox, markCount>& Samples() { return picSample; }
     void LetSamplesBePressed(bool isLet) { picSampleContainer.setEnabled(isLet); }
     void RefreshProperties();
 
     void PaintSelected(const Color& color);
-    /// After a change of colour by the user: the selected mark's name may not fit any more.
+    /// After the user has changed the colour: the selected mark's name may no longer fit.
     void HighlightRenamed();
 
 private:

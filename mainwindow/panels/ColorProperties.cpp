@@ -17,7 +17,7 @@ ColorProperties::ColorProperties(const Form& form, const AppState& state, EditSt
 }
 
 void ColorProperties::mnuHelpColorProperties_Click() {
-    // The mark that was asked about, whatever becomes of the selection while the box is open.
+    // The mark that the user asked about, even if the selection changes while the box is open.
     const int mark = state.marks.selectedMark;
     const ColorReport report = ReportColor(marks.SampleColor(mark), marks.Name(mark));
     const auto show = [&](UINT buttons) {

@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* paragraph = "\r\n\r\n";
 
-/// The name and, of two names for one colour, the other.
+/// The name and, where the colour has two, the other.
 std::string DisplayName(std::string_view name) {
     std::string display(name);
     if (name == "cyan") display += messages::alsoKnownAsAqua;

@@ -8,7 +8,7 @@
 
 struct ColorReport {
     std::string text;              ///< ends in a question when a name is offered
-    std::string_view offeredName;  ///< "" when there is none, or when the mark bears it already
+    std::string_view offeredName;  ///< "" when there is none, or when the mark has it already
 };
 
 /// Whether the colour is websafe, failsafe and a JavaScript colour. name is what its mark is called now.

@@ -38,7 +38,7 @@ void CommandBar::Prepare() {
     for (const ToolButton& button : toolButtons) {
         if (!IsEnabled(button.command)) tbrTools.setButtonEnabled(button.command, false);
     }
-    // The menu is made with every item greyed.
+    // Every menu item starts greyed.
     for (const auto& [command, state] : commands) form.setMenuItemEnabled(command, state.isEnabled);
 }
 

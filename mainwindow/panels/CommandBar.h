@@ -8,7 +8,7 @@
 #include "toolkit/forms/Form.h"
 
 /// Menu items, shortcuts and tool-bar buttons of one command have one number, IDM_<menu item>. A command that
-/// nobody answers to, or that is disabled, cannot be run in any way.
+/// has no handler, or is disabled, cannot be run in any way.
 class CommandBar {
 public:
     explicit CommandBar(Form& form);
@@ -18,7 +18,7 @@ public:
         commands[command].chosen.bind(target, handler);
     }
 
-    /// At load: fills the tool bar, enables what is answered to.
+    /// At load: fills the tool bar, enables the commands that have a handler.
     void Prepare();
     void SetEnabled(int command, bool isEnabled);
     void SetTip(int command, const char* tip) { tbrTools.setButtonTip(command, tip); }

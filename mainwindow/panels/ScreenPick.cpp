@@ -54,7 +54,7 @@ void ScreenPick::picSample_MouseDown(int mark, int button) {
 void ScreenPick::picSample_MouseMove(int /*mark*/, int buttons) {
     if (buttons != leftButton) return;
     const POINT place = PointerPlace();
-    // The platform tells of a move as well when a window comes or goes under a pointer that rests.
+    // Windows also reports a move when a window appears or goes under a pointer that rests.
     if (pressPlace && IsSame(*pressPlace, place)) return;
     pressPlace.reset();
     pickedColor = screen.at(place);

@@ -1,4 +1,4 @@
-// How does the user take a colour from anywhere on the screen?
+// How does the user pick a colour anywhere on the screen?
 #pragma once
 
 #include <optional>

@@ -4,8 +4,8 @@
 #include "core/Color.h"
 #include "toolkit/platform/Platform.h"
 
-/// Asks for a new context of the screen at every reading and gives none back, up to a bound: long picking
-/// must not use up what the platform has of them. The platform takes them back when the program ends.
+/// Asks for a new device context of the screen at every reading and releases none, up to a limit, so that
+/// long picking does not use them all up. Windows takes them back when the program ends.
 class ScreenPixels {
 public:
     /// Any place on any monitor, in screen coordinates; what cannot be read is (255, 0, 0).

@@ -38,7 +38,7 @@ std::vector<std::string> CurrentLines() {
             "16,17,18"};
 }
 
-/// An older file whose colour line of mark 2 is another.
+/// An older file with another colour line for mark 2.
 std::string OlderWith(const std::string& colorLine, const std::string& nameLine = "[name]") {
     std::vector<std::string> lines = {"This is a Huevox Palette File. Do not edit.", ""};
     for (int mark = 0; mark < 6; ++mark) {
