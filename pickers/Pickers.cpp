@@ -1,5 +1,6 @@
 #include "pickers/Pickers.h"
 
+#include <array>
 #include <vector>
 
 #include "resources/resource.h"
@@ -22,9 +23,9 @@ Pickers::Pickers(Form& form, const Settings& settings, ChannelEditors& channels)
 }
 
 void Pickers::Open(SwatchWindow& picker) const {
+    const std::array<const SwatchWindow*, 3> pickers = {&websafe, &failsafe, &javaScript};
     std::vector<HWND> others = {form.handle()};
-    for (const Form* other : {static_cast<const Form*>(&websafe), static_cast<const Form*>(&failsafe),
-                              static_cast<const Form*>(&javaScript)}) {
+    for (const SwatchWindow* other : pickers) {
         if (other->isLoaded()) others.push_back(other->handle());
     }
     picker.open(others);
