@@ -13,7 +13,8 @@
 /// The palette as a file keeps it: the placeholder for "no JavaScript colour" becomes that for "no name".
 Palette AsSaved(Palette palette);
 
-/// The text of a file: 100 lines, each ended by CR LF. Channels are 0 to 255; no name contains CR LF.
+/// The text of a file: the marks, then each of them in every notation; every line ends in CR LF. Channels are
+/// 0 to 255; no name contains CR LF.
 std::string WritePaletteFile(const Palette& palette, std::string_view customFormat);
 
 /// The most lines that the reader looks at in any of the four generations.

@@ -13,6 +13,6 @@ inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
 /// Stores the text of one setting.
 void StoreSetting(const RegistryStringHandler& registry, std::string_view valueName, std::string_view text);
 
-/// Reads, checks and takes all five settings. If one is unusable, all go back to their defaults, in the
+/// Reads, checks and takes all settings. If one is unusable, all go back to their defaults, in the
 /// registry too, and the user is told over owner.
 void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner);

@@ -1,5 +1,6 @@
 #include "settings/SettingsRules.h"
 
+#include <array>
 #include <charconv>
 
 #include "core/ColorCode.h"
@@ -51,9 +52,7 @@ void HoldStandardFolder(AppState& state, std::string_view text) {
 }
 std::string StandardFolderText(const AppState& state) { return state.settings.standardFolder; }
 
-}  // namespace
-
-constinit const std::array<Setting, 5> allSettings = {{
+constexpr std::array rows = std::to_array<Setting>({
     {value_names::customFormat, "", IsShortEnough, HoldCustomFormat, CustomFormatText},
     {value_names::formatIndex, "0", IsNumber<notationCount - 1>, HoldFormatIndex, SavedFormatIndexText},
     {value_names::sortIndex, "0", IsNumber<1>, HoldNumber<&Settings::sortIndex>,
@@ -61,7 +60,11 @@ constinit const std::array<Setting, 5> allSettings = {{
     {value_names::promptToSave, "1", IsNumber<1>, HoldNumber<&Settings::promptToSave>,
      NumberText<&Settings::promptToSave>},
     {value_names::standardFolder, "", IsFolder, HoldStandardFolder, StandardFolderText},
-}};
+});
+
+}  // namespace
+
+constinit const std::span<const Setting> allSettings = rows;
 
 bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks) {
     for (const Setting& setting : allSettings) {

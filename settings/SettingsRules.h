@@ -1,16 +1,16 @@
 // Which settings are there, what is accepted for each, and what do they fall back to?
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "core/Characters.h"
 #include "support/AppState.h"
 
-/// What the settings are called where they are stored.
+/// What the settings that a dialog edits are called where they are stored.
 namespace value_names {
 
 inline constexpr std::string_view customFormat = "CustomFormat";
@@ -40,7 +40,7 @@ struct Setting {
 };
 
 /// In the order in which they are read and written.
-extern const std::array<Setting, 5> allSettings;
+extern const std::span<const Setting> allSettings;
 
 /// Reads the text of one stored value; "" for a value that is missing.
 using SettingReader = std::function<std::string(std::string_view valueName)>;

@@ -5,10 +5,10 @@
 
 #include "support/Marks.h"
 
-/// The five settings as they are held in memory, from the first load on.
+/// The settings as they are held in memory, from the first load on.
 struct Settings {
     std::string customFormat;
-    int formatIndex = 0;  ///< the notation that the program starts with, 0 to 11
+    int formatIndex = 0;  ///< the notation that the program starts with, a format index
     int sortIndex = 0;    ///< 0: alphabetical, 1: by hue
     int promptToSave = 0;
     std::string standardFolder;
