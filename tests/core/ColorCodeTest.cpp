@@ -62,7 +62,7 @@ TEST(ColorCode, AnIndexOutside0To11RendersNothing) {
     EXPECT_EQ(ColorCode(11, amber, "x"), "x");
 }
 
-TEST(ColorCode, AnEmptyTemplateRendersAnEmptyText) { EXPECT_EQ(Code(11, amber), ""); }
+TEST(ColorCode, AnEmptyTemplateRendersAnEmptyText) { EXPECT_EQ(Code(customNotation, amber), ""); }
 
 TEST(CustomFormat, PlaceholdersAreMatchedCaseSensitively) {
     EXPECT_EQ(ExpandCustomFormat("%UR%-%ur%", amber), "FF-%ur%");

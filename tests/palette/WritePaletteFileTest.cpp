@@ -1,14 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "tests/palette/PaletteTexts.h"
 
 namespace {
 
+/// Of the first mark.
 std::string CustomLine(const Palette& palette, std::string_view customFormat) {
-    const std::string text = WritePaletteFile(palette, customFormat);
-    return LinesOf(text)[29];
+    const std::vector lines = LinesOf(WritePaletteFile(palette, customFormat));
+    const auto isCustom = [](const std::string& line) { return line.starts_with("Custom:"); };
+    return *std::ranges::find_if(lines, isCustom);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace {
 
 std::string Example(int index) { return FormatExample(index, "template"); }
-std::string Custom(std::string_view customFormat) { return FormatExample(11, customFormat); }
+std::string Custom(std::string_view customFormat) { return FormatExample(customNotation, customFormat); }
 
 }  // namespace
 
