@@ -14,6 +14,7 @@
 #include "toolkit/controls/PictureBox.h"
 #include "toolkit/controls/TextBox.h"
 
+/// The six marks: their name boxes, option buttons, samples and letters.
 class ColorMarks {
 public:
     ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors& channels, ColorTarget& target);

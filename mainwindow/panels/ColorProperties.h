@@ -7,6 +7,7 @@
 #include "support/AppState.h"
 #include "toolkit/forms/Form.h"
 
+/// The commands Colour Properties and Find JavaScript Names.
 class ColorProperties {
 public:
     ColorProperties(const Form& form, const AppState& state, EditState& edit, CommandBar& commands,
