@@ -50,7 +50,7 @@ std::string Session::play(const Action& action) {
     const Extent extent = isAll ? Extent::everything : Extent::changes;
     std::string found;
     if (action.kind == Kind::start) {
-        start(action.value);
+        found = start(action.value);
     } else {
         found = program->hands->play(action, before);
     }
@@ -66,13 +66,13 @@ std::string Session::play(const Action& action) {
     return found;
 }
 
-void Session::start(int variant) {
+std::string Session::start(int variant) {
     // The program before may have ended while the clipboard was held.
     other.letGo();
     StoreSettings(SettingsOf(variant));
     MakeFiles();
     program = std::make_unique<Program>();
-    program->huevox.waitForWindow();
+    if (!program->huevox.waitForWindow()) return "start: no window";
     const HWND window = program->huevox.window();
     Hands::moveTo(window, {0, 0});
     DWORD id = 0;
@@ -82,6 +82,7 @@ void Session::start(int variant) {
     program->hands = std::make_unique<Hands>(program->huevox, *program->eyes, other, patience);
     figures.bits = BitsOf(program->process);
     ++figures.starts;
+    return "";
 }
 
 /// Waits until all that is seen is as the model has it.

@@ -63,7 +63,8 @@ private:
         bool hasShownFiles = false;
     };
 
-    void start(int variant);
+    /// Starts the program. "", or what is missing.
+    [[nodiscard]] std::string start(int variant);
     std::string agree(const Look& earlier, Extent extent);
     std::string filesDifference(const Files& before) const;
     std::string clipboardDifference(const Model& before);

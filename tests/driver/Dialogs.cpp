@@ -10,6 +10,7 @@ std::string MessageOf(HWND dialog) {
 }
 
 void Answer(HWND dialog, int button) {
+    ASSERT_TRUE(::IsWindow(dialog)) << "nothing to answer";
     const HWND owner = ::GetWindow(dialog, GW_OWNER);
     const DWORD thread = ::GetWindowThreadProcessId(dialog, nullptr);
     ::PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),

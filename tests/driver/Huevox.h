@@ -25,7 +25,7 @@ public:
     Huevox& operator=(const Huevox&) = delete;
     ~Huevox();
 
-    bool waitForWindow();
+    [[nodiscard]] bool waitForWindow();
     HWND window() const { return main; }
     /// The form of that name when it is on the screen, or nullptr, and how many there are.
     HWND form(const char* name) const;
@@ -38,13 +38,13 @@ public:
     /// Ends the program without a chance to do anything more.
     void kill() const;
     /// The exit code, when the program ends in time; -1 when it does not.
-    int waitForEnd() const;
+    [[nodiscard]] int waitForEnd() const;
     /// STILL_ACTIVE while the program runs.
     int exitCode() const;
 
     /// The message box or dialog that is on the screen, or nullptr. waitForDialog waits for one.
     HWND dialog() const;
-    HWND waitForDialog() const;
+    [[nodiscard]] HWND waitForDialog() const;
     int dialogCount() const;
 
     std::string text(int id) const;

@@ -190,6 +190,7 @@ void Click(POINT screen) {
 
 /// Once no other window lies over it.
 void Click(HWND window) {
+    ASSERT_TRUE(::IsWindow(window)) << "nothing to click";
     EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); }))
         << "covered by " << ClassOf(::WindowFromPoint(CenterOf(window)));
     Click(CenterOf(window));

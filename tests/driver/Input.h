@@ -8,7 +8,7 @@
 /// Presses and releases a key, with the modifier keys held meanwhile, once a window takes keys.
 void Press(WORD key, std::initializer_list<WORD> modifiers = {});
 /// Whether keys go to a window of that thread.
-bool TakesKeys(DWORD thread);
+[[nodiscard]] bool TakesKeys(DWORD thread);
 void KeyDown(WORD key);
 void KeyUp(WORD key);
 

@@ -36,7 +36,7 @@ public:
     void waitForReturn() const;
 
     /// Opens the folder picker by its access key and waits until it can be used.
-    HWND openPicker() const;
+    [[nodiscard]] HWND openPicker() const;
     /// Presses a key of the picker's, Enter or Escape, and waits until the dialog is back.
     void leavePicker(HWND picker, WORD key) const;
 

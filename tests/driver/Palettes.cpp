@@ -87,11 +87,12 @@ std::string PaletteOf(std::string_view name, std::string_view color) {
 
 HWND WaitForFileDialog(const Huevox& huevox, std::string_view title) {
     HWND dialog = nullptr;
-    EXPECT_TRUE(Eventually([&] {
+    const bool isReady = Eventually([&] {
         dialog = huevox.dialog();
         return dialog && TextOf(dialog) == title && NameField(dialog) && huevox.focus() == NameField(dialog);
-    })) << title;
-    return dialog;
+    });
+    EXPECT_TRUE(isReady) << title;
+    return isReady ? dialog : nullptr;
 }
 
 void AnswerQuestion(const Huevox& huevox, int button) {
@@ -112,9 +113,10 @@ void CloseMessage(const Huevox& huevox, std::string_view text) {
     WaitForReturn(huevox);
 }
 
-void TypePath(const Huevox& huevox, std::string_view path) {
-    const HWND field = NameField(huevox.dialog());
-    ASSERT_TRUE(field);
+void TypePath(const Huevox& huevox, std::string_view title, std::string_view path) {
+    const HWND dialog = WaitForFileDialog(huevox, title);
+    ASSERT_TRUE(dialog);
+    const HWND field = NameField(dialog);
     Type(path);
     ASSERT_BECOMES(TextOf(field), path);
     Press(VK_RETURN);
@@ -122,13 +124,15 @@ void TypePath(const Huevox& huevox, std::string_view path) {
 
 void ChoosePath(const Huevox& huevox, std::string_view title, std::string_view path) {
     const HWND dialog = WaitForFileDialog(huevox, title);
-    TypePath(huevox, path);
+    ASSERT_TRUE(dialog);
+    TypePath(huevox, title, path);
     EXPECT_TRUE(Eventually([&] { return !::IsWindow(dialog); }));
     WaitForReturn(huevox);
 }
 
 void CancelFileDialog(const Huevox& huevox, std::string_view title) {
     const HWND dialog = WaitForFileDialog(huevox, title);
+    ASSERT_TRUE(dialog);
     Press(VK_ESCAPE);
     EXPECT_TRUE(Eventually([&] { return !::IsWindow(dialog); }));
     WaitForReturn(huevox);

@@ -50,15 +50,15 @@ inline constexpr const char* notepadTitle = "Open Palette In Notepad";
 inline constexpr const char* question = "The palette has been changed. Do you want to save it?";
 inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
 
-/// Waits for a file dialog that is ready for typing.
-HWND WaitForFileDialog(const Huevox& huevox, std::string_view title);
+/// Waits for a file dialog that is ready for typing; nullptr when it does not come.
+[[nodiscard]] HWND WaitForFileDialog(const Huevox& huevox, std::string_view title);
 /// Waits for the question and gives the answer to it.
 void AnswerQuestion(const Huevox& huevox, int button);
 /// Waits for a message with that text and closes it.
 void CloseMessage(const Huevox& huevox, std::string_view text);
-/// Types a path into the file dialog and presses Enter.
-void TypePath(const Huevox& huevox, std::string_view path);
-/// The same, and waits until no dialog is left.
+/// Waits for a file dialog, types a path into it and presses Enter.
+void TypePath(const Huevox& huevox, std::string_view title, std::string_view path);
+/// The same, and waits until the file dialog is gone.
 void ChoosePath(const Huevox& huevox, std::string_view title, std::string_view path);
 /// Presses Escape and waits until the file dialog is gone.
 void CancelFileDialog(const Huevox& huevox, std::string_view title);

@@ -5,13 +5,16 @@
 
 namespace {
 
-bool OpenClipboardSoon() {
+[[nodiscard]] bool OpenClipboardSoon() {
     return Eventually([] { return ::OpenClipboard(nullptr) != FALSE; });
 }
 
 template <class Character>
 std::basic_string<Character> ClipboardData(UINT format) {
-    if (!OpenClipboardSoon()) return {};
+    if (!OpenClipboardSoon()) {
+        ADD_FAILURE() << "another program keeps the clipboard open";
+        return {};
+    }
     const HANDLE data = ::GetClipboardData(format);
     const auto* text = data ? static_cast<const Character*>(::GlobalLock(data)) : nullptr;
     std::basic_string<Character> result;

@@ -100,7 +100,7 @@ template <class Condition>
 
 /// Reads a value again and again until it is the expected one.
 template <class Read, class Expected>
-testing::AssertionResult Becomes(Read read, const Expected& expected) {
+[[nodiscard]] testing::AssertionResult Becomes(Read read, const Expected& expected) {
     auto actual = read();
     if (Eventually([&] { return (actual = read()) == expected; })) return testing::AssertionSuccess();
     return testing::AssertionFailure()

@@ -24,16 +24,16 @@ public:
     /// Not through a shell: the installer wants its folder without quotes.
     explicit Process(std::string commandLine);
     /// The program, once its window is there, started as by a click in the Start menu.
-    static Process FromStartMenu();
+    [[nodiscard]] static Process FromStartMenu();
     Process(Process&& other) noexcept;
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
     ~Process();
 
     /// Its exit code, when it ends in time.
-    std::optional<int> waitForEnd() const;
+    [[nodiscard]] std::optional<int> waitForEnd() const;
     /// Its window of that class that is on the screen, once there is one; nullptr when there is none in time.
-    HWND waitForWindow(const char* className) const;
+    [[nodiscard]] HWND waitForWindow(const char* className) const;
 
 private:
     Process() = default;
@@ -42,19 +42,19 @@ private:
 };
 
 /// Runs a setup or an uninstaller to its end. The exit code, or -1 when it does not end.
-int RunToEnd(const std::string& commandLine);
+[[nodiscard]] int RunToEnd(const std::string& commandLine);
 
 std::filesystem::path DefaultFolder();
 std::filesystem::path Shortcut();
 /// The program that the shortcut starts.
 std::filesystem::path ShortcutTarget();
 /// Removes the copy in this folder silently and waits until it is gone.
-bool Remove(const std::filesystem::path& folder, const std::string& extra = "");
+[[nodiscard]] bool Remove(const std::filesystem::path& folder, const std::string& extra = "");
 
 /// A value of a key of the user; "" when there is none. Numbers in decimal.
 std::string Value(const char* key, const char* name);
 bool HasKey(const char* key);
-bool MakeKey(const char* key);
+[[nodiscard]] bool MakeKey(const char* key);
 void StoreSetting();
 
 /// Every file in the folders where programs and their menu entries are, and every key of the user's software.

@@ -25,7 +25,9 @@ protected:
     }
     void TearDown() override {
         const fs::path folder = Value(uninstallKey, "InstallLocation");
-        if (!folder.empty()) Remove(folder);
+        if (!folder.empty()) {
+            EXPECT_TRUE(Remove(folder)) << folder;
+        }
         ::RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\Quorvane");
         fs::remove_all(folderWithBlanks.parent_path());
     }

@@ -49,7 +49,7 @@ TEST_F(SessionEnd, YesForANewPaletteAsksForAFileAndSavesIt) {
 TEST_F(SessionEnd, EndsTheProgramOverAnOpenFileDialog) {
     const Huevox huevox;
     PressOpen();
-    WaitForFileDialog(huevox, openTitle);
+    ASSERT_TRUE(WaitForFileDialog(huevox, openTitle));
     EXPECT_TRUE(MayEnd(huevox).get());
     ExpectEnd(huevox);
 }

@@ -53,8 +53,7 @@ TEST_F(ChangedNewPalette, SavedDuringClosingIsOnTheDisk) {
     ChangeColor(huevox);
     PressClose(huevox);
     AnswerQuestion(huevox, IDYES);
-    WaitForFileDialog(huevox, saveTitle);
-    TypePath(huevox, PathOf("Reds.txt"));
+    TypePath(huevox, saveTitle, PathOf("Reds.txt"));
     EXPECT_EQ(huevox.waitForEnd(), 0);
     EXPECT_NE(ContentOf(PathOf("Reds.txt")).find("255,1,0"), std::string::npos);
 }

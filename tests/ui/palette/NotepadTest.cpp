@@ -52,8 +52,7 @@ TEST_F(OpeningInNotepad, ThatDoesNotStartIsTold) {
     const WithoutNotepad none;
     const Huevox huevox;
     Press('I', {VK_CONTROL});
-    WaitForFileDialog(huevox, notepadTitle);
-    TypePath(huevox, PathOf("any.txt"));
+    TypePath(huevox, notepadTitle, PathOf("any.txt"));
     ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
     CloseMessage(huevox, "Could not open file in Notepad.");
     ExpectNewPalette(huevox);

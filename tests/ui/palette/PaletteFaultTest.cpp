@@ -135,8 +135,7 @@ TEST_F(RefusedSaving, InSaveAsKeepsTheTitle) {
     OpenAndChange(huevox);
     Press('F', {VK_MENU});
     Press('A');
-    WaitForFileDialog(huevox, saveTitle);
-    TypePath(huevox, PathOf("theirs.txt"));
+    TypePath(huevox, saveTitle, PathOf("theirs.txt"));
     ASSERT_BECOMES(huevox.dialogCount(), 2);
     Answer(huevox.dialog(), IDYES);
     ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));

@@ -127,16 +127,14 @@ TEST_F(SavingPalettes, AnExistingFileIsReplacedOnlyWhenTheUserSaysSo) {
     WriteContent(PathOf("Reds.txt"), "precious");
     const Huevox huevox;
     Press('S', {VK_CONTROL});
-    WaitForFileDialog(huevox, saveTitle);
-    TypePath(huevox, PathOf("Reds.txt"));
+    TypePath(huevox, saveTitle, PathOf("Reds.txt"));
     ASSERT_BECOMES(huevox.dialogCount(), 2);
     Answer(huevox.dialog(), IDNO);
     CancelFileDialog(huevox, saveTitle);
     EXPECT_EQ(ContentOf(PathOf("Reds.txt")), "precious");
     EXPECT_EQ(huevox.title(), "Huevox - New palette");
     Press('S', {VK_CONTROL});
-    WaitForFileDialog(huevox, saveTitle);
-    TypePath(huevox, PathOf("Reds.txt"));
+    TypePath(huevox, saveTitle, PathOf("Reds.txt"));
     ASSERT_BECOMES(huevox.dialogCount(), 2);
     Answer(huevox.dialog(), IDYES);
     EXPECT_BECOMES(huevox.title(), "Huevox - Reds.txt");
@@ -159,7 +157,7 @@ TEST_F(SavingPalettes, AnUnusableStandardFolderStillOpensTheDialog) {
     Press('S', {VK_CONTROL});
     const HWND dialog = WaitForFileDialog(huevox, saveTitle);
     ::MoveFileA("C:\\Huevox Palettes 2", paletteFolder);
-    TypePath(huevox, PathOf("Reds.txt"));
+    TypePath(huevox, saveTitle, PathOf("Reds.txt"));
     EXPECT_TRUE(Eventually([&] { return !::IsWindow(dialog); }));
     EXPECT_BECOMES(huevox.title(), "Huevox - Reds.txt");
 }

@@ -26,8 +26,7 @@ TEST_F(VanishingFiles, AFileThatAnotherProgramHasLockedEndsTheProgramWithTheOneM
     ASSERT_NE(locked, INVALID_HANDLE_VALUE);
     const Huevox huevox;
     PressOpen();
-    WaitForFileDialog(huevox, openTitle);
-    TypePath(huevox, OtherPathOf("mine.txt"));
+    TypePath(huevox, openTitle, OtherPathOf("mine.txt"));
     ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
     CloseMessage(huevox, "Huevox encountered an unexpected error and must close.");
     EXPECT_EQ(huevox.waitForEnd(), 1);
