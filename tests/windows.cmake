@@ -5,6 +5,7 @@ add_subdirectory(/usr/src/googletest/googletest ${PROJECT_BINARY_DIR}/googletest
 add_executable(program_tests
     driver/Input.cpp
     driver/Legible.cpp
+    driver/Pixel.cpp
     driver/Theme.cpp
     program/AboutFormTest.cpp
     program/AutocopyTest.cpp

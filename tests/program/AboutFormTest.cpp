@@ -1,25 +1,21 @@
 // What the about box looks like, and the pointer over it.
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 
 #include "help/frmAbout.h"
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/program/InsideWindow.h"
+#include "tests/toolkit/FormFixture.h"
 
 namespace {
 
-class AboutForm : public testing::Test {
+class AboutForm : public FormsTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
+        FormsTest::SetUp();
         about.load();
         about.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == about.handle(); });
+        WaitForFront(about);
     }
     void TearDown() override { about.unload(); }
 
@@ -48,12 +44,7 @@ protected:
                      &record);
         return record;
     }
-    COLORREF pixel(int id, POINT point) const {
-        const HDC context = ::GetDC(control(id));
-        const COLORREF color = ::GetPixel(context, point.x, point.y);
-        ::ReleaseDC(control(id), context);
-        return color;
-    }
+    COLORREF pixel(int id, POINT point) const { return PixelIn(control(id), point); }
 
     static constexpr int wordLength = 40;
     frmAbout about;

@@ -1,13 +1,9 @@
 // The preview without a chosen notation, which the running program has only before it is first activated.
 #include "mainwindow/panels/Autocopy.h"
 
-#include <gtest/gtest.h>
-
 #include "resources/resource.h"
 #include "tests/driver/WindowText.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 
 namespace {
 
@@ -41,16 +37,7 @@ struct AutocopyForm : Form, ColorTarget {
     Autocopy view{*this, state, edit, commands, channels, marks, *this};
 };
 
-class Preview : public testing::Test {
-protected:
-    void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
-        form = std::make_unique<AutocopyForm>();
-    }
-
-    std::unique_ptr<AutocopyForm> form;
-};
+class Preview : public OwnFormTest<AutocopyForm> {};
 
 }  // namespace
 

@@ -1,13 +1,10 @@
 // The marks' rules for the temporary placeholder, which no user can type.
 #include "mainwindow/panels/ColorMarks.h"
 
-#include <gtest/gtest.h>
-
 #include "resources/resource.h"
 #include "support/Messages.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/program/InsideWindow.h"
+#include "tests/toolkit/FormFixture.h"
 #include "toolkit/platform/FlagGuard.h"
 
 namespace {
@@ -45,15 +42,7 @@ struct MarksForm : Form, ColorTarget {
         ::SendMessageA(handle(), WM_COMMAND, MAKEWPARAM(IDC_optColor + mark, BN_CLICKED),
                        reinterpret_cast<LPARAM>(::GetDlgItem(handle(), IDC_optColor + mark)));
     }
-    /// The brush colour that the form answers for a name box.
-    COLORREF backColor(int mark) {
-        const HDC context = ::GetDC(box(mark));
-        ::SendMessageA(handle(), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(context),
-                       reinterpret_cast<LPARAM>(box(mark)));
-        const COLORREF color = ::GetBkColor(context);
-        ::ReleaseDC(box(mark), context);
-        return color;
-    }
+    COLORREF backColor(int mark) const { return BackColorOf(handle(), box(mark)); }
 
     EditState edit;
     Marks marks;
@@ -61,15 +50,8 @@ struct MarksForm : Form, ColorTarget {
     ColorMarks view{*this, marks, edit, channels, *this};
 };
 
-class Placeholders : public testing::Test {
+class Placeholders : public OwnFormTest<MarksForm> {
 protected:
-    void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
-        form = std::make_unique<MarksForm>();
-    }
-
-    std::unique_ptr<MarksForm> form;
     static constexpr COLORREF white = RGB(255, 255, 255);
     static constexpr COLORREF highlight = RGB(255, 250, 205);
 };

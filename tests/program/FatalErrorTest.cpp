@@ -1,8 +1,6 @@
 // The end of an error that nobody expected.
 #include "support/FatalError.h"
 
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <functional>
 #include <set>
@@ -14,9 +12,7 @@
 
 #include "support/Messages.h"
 #include "tests/driver/WindowText.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 #include "toolkit/forms/MsgBox.h"
 #include "toolkit/platform/Redraw.h"
 
@@ -62,11 +58,10 @@ private:
     std::thread user{[this] { answer(); }};  // last, when all that it looks at is there
 };
 
-class FatalError : public testing::Test {
+class FatalError : public FormsTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
+        FormsTest::SetUp();
         errorTrap = HandleFatalError;
         form.Unload.bind([this] { ++unloads; });
         form.load();

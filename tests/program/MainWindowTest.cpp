@@ -1,39 +1,15 @@
 // The main window's menu, layout and handles, looked at from inside.
-#include <gtest/gtest.h>
-
 #include <array>
 #include <string>
 #include <vector>
 
-#include "mainwindow/frmMain.h"
-#include "resources/resource.h"
-#include "support/AppState.h"
-#include "support/FatalError.h"
 #include "tests/driver/WindowText.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/program/MainWindowFixture.h"
 
 namespace {
 
-class MainWindow : public testing::Test {
+class MainWindow : public ShownMainWindow {
 protected:
-    void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
-        errorTrap = HandleFatalError;
-        window.load();
-        window.show(SW_SHOWNORMAL);
-        window.activate();
-        PumpUntil([&] { return ::GetForegroundWindow() == window.handle(); });
-        PumpAll();
-    }
-    void TearDown() override {
-        state.settings.promptToSave = 0;
-        window.unload();
-    }
-
-    HWND control(int id) const { return ::GetDlgItem(window.handle(), id); }
     HMENU menu() const { return ::GetMenu(window.handle()); }
     bool isMenuItemEnabled(int command) const {
         return (::GetMenuState(menu(), command, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
@@ -41,9 +17,6 @@ protected:
     bool isButtonEnabled(int command) const {
         return ::SendMessageA(control(IDC_tbrTools), TB_ISBUTTONENABLED, command, 0) != 0;
     }
-
-    AppState state;
-    frmMain window{state};
 };
 
 struct Item {
@@ -156,7 +129,7 @@ TEST_F(MainWindow, MenuItemAndButtonAreEnabledAlike) {
     EXPECT_TRUE(isMenuItemEnabled(IDM_mnuFileExit));
     EXPECT_TRUE(isMenuItemEnabled(IDM_mnuEditCopyColor));
     EXPECT_FALSE(isMenuItemEnabled(IDM_mnuEditPasteColor));
-    ::SendMessageA(window.handle(), WM_COMMAND, IDM_mnuEditCopyColor, 0);
+    command(IDM_mnuEditCopyColor);
     EXPECT_TRUE(isMenuItemEnabled(IDM_mnuEditPasteColor));
     EXPECT_TRUE(isButtonEnabled(IDM_mnuEditPasteColor));
 }

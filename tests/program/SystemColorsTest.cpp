@@ -1,30 +1,16 @@
 // Do the windows follow when the user changes the theme while the program runs?
-#include <gtest/gtest.h>
-
-#include "mainwindow/frmMain.h"
-#include "resources/resource.h"
-#include "support/AppState.h"
 #include "tests/driver/Legible.h"
 #include "tests/driver/Theme.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/program/MainWindowFixture.h"
 
 namespace {
 
-class ChangedSystemColors : public testing::Test {
+class ChangedSystemColors : public LoadedMainWindow {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
         colors.use(whiteTheme);
-        main.load();
-        main.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == main.handle(); });
-    }
-    void TearDown() override {
-        state.settings.promptToSave = 0;
-        main.unload();
+        LoadedMainWindow::SetUp();
+        show();
     }
 
     static void expectLook(HWND control, const Theme& theme, bool isText) {
@@ -40,14 +26,12 @@ protected:
 
     void expectMainLook(const Theme& theme) const {
         for (const int id : {IDC_txtSetRed, IDC_txtName, IDC_lstAutocopy, IDC_lblColorProp})
-            expectLook(::GetDlgItem(main.handle(), id), theme, true);
-        expectLook(::GetDlgItem(main.handle(), IDC_lblClipboard), theme, false);
-        expectLook(::GetDlgItem(main.handle(), IDC_tbrTools), theme, false);
+            expectLook(control(id), theme, true);
+        expectLook(control(IDC_lblClipboard), theme, false);
+        expectLook(control(IDC_tbrTools), theme, false);
     }
 
     SystemColors colors;
-    AppState state;
-    frmMain main{state};
 };
 
 }  // namespace
@@ -61,9 +45,9 @@ TEST_F(ChangedSystemColors, AreThoseOfTheMainWindowAtOnce) {
 }
 
 TEST_F(ChangedSystemColors, AreThoseOfTheEmptyPartOfAPaletteWindowAtOnce) {
-    ::SendMessageA(::GetDlgItem(main.handle(), IDC_cmdJavaScript), BM_CLICK, 0, 0);
+    click(IDC_cmdJavaScript);
     const HWND picker = ::FindWindowA("frmJavaScript", nullptr);
-    PumpUntil([&] { return ::IsWindowVisible(picker); });
+    ASSERT_TRUE(PumpUntil([&] { return ::IsWindowVisible(picker); }));
     const HWND bar = ::GetDlgItem(picker, IDC_tbrSortTools);
     expectLook(bar, whiteTheme, false);
     colors.use(blackTheme);

@@ -1,17 +1,12 @@
 // Is the text of the main window's controls to be read, whatever fonts there are?
-#include <gtest/gtest.h>
-
 #include <string>
 
-#include "mainwindow/frmMain.h"
-#include "resources/resource.h"
-#include "support/AppState.h"
 #include "tests/driver/WindowText.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/program/MainWindowFixture.h"
 
 namespace {
+
+class TextFit : public ShownMainWindow {};
 
 /// The text's size in the control's own font, in pixels.
 SIZE SizeOf(HWND control, const std::string& text) {
@@ -56,17 +51,8 @@ BOOL CALLBACK ExpectFit(HWND control, LPARAM parameter) {
 
 }  // namespace
 
-TEST(TextFit, EveryTextOfTheMainWindowFitsItsControl) {
-    ForgetQuit();
-    RegisterControlClasses();
-    AppState state;
-    frmMain window(state);
-    window.load();
-    window.show(SW_SHOWNORMAL);
-    window.activate();
-    PumpAll();
+TEST_F(TextFit, EveryTextOfTheMainWindowFitsItsControl) {
     int texts = 0;
     ::EnumChildWindows(window.handle(), ExpectFit, reinterpret_cast<LPARAM>(&texts));
     EXPECT_GE(texts, 20);
-    window.unload();
 }
