@@ -1,11 +1,9 @@
 // How does a test do to files what no program of the platform may?
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <string>
 
-#include "toolkit/platform/Platform.h"
+#include "tests/driver/StartProgram.h"
 
 /// The path that the system below the platform knows a file by.
 inline std::string SystemPathOf(const wchar_t* path) {
@@ -20,12 +18,14 @@ inline std::string SystemPathOf(const wchar_t* path) {
 
 /// Runs a command of the system below.
 inline void RunBelow(const std::string& program, const std::string& arguments) {
-    std::string command = "Z:\\bin\\" + program + ' ' + arguments;
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    ASSERT_TRUE(::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                 &startup, &process));
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+    const PROCESS_INFORMATION started = StartProgram("Z:\\bin\\" + program + ' ' + arguments);
+    ::CloseHandle(started.hThread);
+    ::CloseHandle(started.hProcess);
+}
+
+/// Removes a folder with all that is in it, though a program of Windows may be in it.
+inline void RemoveFolderBelow(const std::string& folder) {
+    RunBelow("rm", "-rf \"" + SystemPathOf(std::wstring(folder.begin(), folder.end()).c_str()) + '"');
+    ASSERT_TRUE(Eventually([&] { return ::GetFileAttributesA(folder.c_str()) == INVALID_FILE_ATTRIBUTES; }))
+        << folder;
 }

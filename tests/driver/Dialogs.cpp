@@ -1,13 +1,39 @@
 #include "tests/driver/Dialogs.h"
 
+#include "resources/resource.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/Pixel.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
-std::string MessageOf(HWND dialog) {
-    constexpr int messageText = 0xFFFF;
-    return TextOf(::GetDlgItem(dialog, messageText));
+namespace {
+
+HWND IconOf(HWND box) {
+    HWND child = nullptr;
+    do {
+        child = ::FindWindowExA(box, child, "Static", nullptr);
+    } while (child && (::GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) != SS_ICON);
+    return child;
 }
+
+/// The icon on that ground, row by row.
+std::vector<Color> PixelsOfIcon(LPCSTR icon, int size, const Color& ground) {
+    const HDC screen = ::GetDC(nullptr);
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
+    const HGDIOBJ before = ::SelectObject(memory, bitmap);
+    const HBRUSH brush = ::CreateSolidBrush(static_cast<COLORREF>(Pack(ground)));
+    ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, icon), size, size, 0, brush, DI_NORMAL);
+    std::vector<Color> pixels = PixelsIn(memory, {0, 0, size, size});
+    ::SelectObject(memory, before);
+    ::DeleteObject(brush);
+    ::DeleteObject(bitmap);
+    ::DeleteDC(memory);
+    ::ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+}  // namespace
 
 void Answer(HWND dialog, int button) {
     ASSERT_TRUE(::IsWindow(dialog)) << "nothing to answer";
@@ -20,4 +46,41 @@ void Answer(HWND dialog, int button) {
     if (owner) {
         EXPECT_TRUE(Eventually([&] { return !::IsWindow(owner) || TakesKeys(thread); }));
     }
+}
+
+void WaitForReturn(const Huevox& huevox) {
+    EXPECT_TRUE(Eventually([&] {
+        const bool isBack = ::GetForegroundWindow() == huevox.window() && huevox.focus() != nullptr;
+        return isBack || huevox.dialog() || !huevox.isRunning();
+    }));
+}
+
+HWND WaitForMessage(const Huevox& huevox, std::string_view text) {
+    HWND box = nullptr;
+    const bool isThere = Eventually([&] {
+        box = huevox.dialog();
+        return box && TextOf(box) == "Huevox";
+    });
+    EXPECT_TRUE(isThere) << "no message: " << text;
+    if (!isThere) return nullptr;
+    EXPECT_EQ(MessageOf(box), text);
+    return box;
+}
+
+void CloseMessage(const Huevox& huevox, std::string_view text) {
+    Answer(WaitForMessage(huevox, text), IDOK);
+    WaitForReturn(huevox);
+}
+
+HWND BringRefusal(const Huevox& huevox) {
+    huevox.retype(IDC_txtSetRed, "256");
+    Press(VK_RETURN);
+    return huevox.waitForDialog();
+}
+
+bool ShowsIcon(HWND box, LPCSTR icon) {
+    const RECT area = AreaOf(IconOf(box));
+    const int size = static_cast<int>(area.right - area.left);
+    const Color ground = Pixel({area.left - 2, area.top});
+    return size > 0 && PixelsOf(area) == PixelsOfIcon(icon, size, ground);
 }

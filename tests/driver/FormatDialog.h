@@ -24,7 +24,7 @@ public:
         const LRESULT both = ::SendMessageA(control(IDC_txtFormat), EM_GETSEL, 0, 0);
         return {LOWORD(both), HIWORD(both)};
     }
-    int focus() const { return ::GetDlgCtrlID(huevox.focus()); }
+    int focused() const { return huevox.focused(); }
 
     /// Clicks a placeholder's button and waits for what the template becomes.
     void insert(int button, std::string_view expected) const {
@@ -60,7 +60,7 @@ public:
 private:
     void waitUntilReady() const {
         EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); }));
-        EXPECT_BECOMES(focus(), IDC_txtFormat);
+        EXPECT_BECOMES(focused(), IDC_txtFormat);
     }
 
     const Huevox& huevox;

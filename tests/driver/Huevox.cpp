@@ -3,39 +3,13 @@
 #include <filesystem>
 
 #include "resources/resource.h"
+#include "tests/driver/FindWindows.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/StartProgram.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
 namespace {
-
-struct Search {
-    DWORD process;
-    const char* className;
-    HWND found;
-    int count;
-};
-
-BOOL CALLBACK FindVisible(HWND window, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
-    DWORD owner = 0;
-    ::GetWindowThreadProcessId(window, &owner);
-    std::array<char, 64> name{};
-    ::GetClassNameA(window, name.data(), static_cast<int>(name.size()));
-    if (owner != search.process || !::IsWindowVisible(window) ||
-        std::string_view(name.data()) != search.className) {
-        return TRUE;
-    }
-    if (!search.found) search.found = window;
-    ++search.count;
-    return TRUE;
-}
-
-Search Find(DWORD process, const char* className) {
-    Search search{process, className, nullptr, 0};
-    ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search));
-    return search;
-}
 
 struct ChildSearch {
     int id;
@@ -64,17 +38,10 @@ void Huevox::startInSight(const std::string& program, WORD showCommand) {
 
 void Huevox::start(const std::string& program, WORD showCommand) {
     STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
     // The program of the current folder: Windows would look for one beside the tests first.
-    std::string command = '"' + std::filesystem::absolute(program).string() + '"';
-    // Now and then the platform refuses a process with an internal error and creates it the next time.
-    const bool hasStarted = Eventually([&] {
-        return ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                &startup, &process) != FALSE;
-    });
-    EXPECT_TRUE(hasStarted) << "error " << ::GetLastError();
+    process = StartProgram('"' + std::filesystem::absolute(program).string() + '"', startup);
 }
 
 Huevox::~Huevox() {
@@ -89,8 +56,9 @@ Huevox::~Huevox() {
 }
 
 bool Huevox::waitForWindow() {
-    const bool isThere = Eventually(
-        [&] { return (main = Find(process.dwProcessId, "frmMain").found) != nullptr || !isRunning(); });
+    const bool isThere = Eventually([&] {
+        return (main = FindVisible(process.dwProcessId, "frmMain").first) != nullptr || !isRunning();
+    });
     ::WaitForInputIdle(process.hProcess, INFINITE);
     return isThere && main != nullptr;
 }
@@ -125,11 +93,11 @@ int Huevox::exitCode() const {
     return static_cast<int>(code);
 }
 
-HWND Huevox::form(const char* name) const { return Find(process.dwProcessId, name).found; }
+HWND Huevox::form(const char* name) const { return FindVisible(process.dwProcessId, name).first; }
 
-int Huevox::formCount(const char* name) const { return Find(process.dwProcessId, name).count; }
+int Huevox::formCount(const char* name) const { return FindVisible(process.dwProcessId, name).count; }
 
-HWND Huevox::dialog() const { return Find(process.dwProcessId, "#32770").found; }
+HWND Huevox::dialog() const { return FindVisible(process.dwProcessId, "#32770").first; }
 
 HWND Huevox::waitForDialog() const {
     HWND found = nullptr;
@@ -137,7 +105,7 @@ HWND Huevox::waitForDialog() const {
     return found;
 }
 
-int Huevox::dialogCount() const { return Find(process.dwProcessId, "#32770").count; }
+int Huevox::dialogCount() const { return FindVisible(process.dwProcessId, "#32770").count; }
 
 LRESULT Huevox::send(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
     return AnswerOf(control(id), message, wParam, lParam);
@@ -186,7 +154,7 @@ POINT Huevox::toolButton(HWND bar, int command) const {
 }
 
 std::string Huevox::toolTip() const {
-    const HWND tip = Find(process.dwProcessId, TOOLTIPS_CLASSA).found;
+    const HWND tip = FindVisible(process.dwProcessId, TOOLTIPS_CLASSA).first;
     return tip ? TextOf(tip) : "";
 }
 

@@ -33,6 +33,8 @@ public:
     /// The control with that id, in whatever container it stands.
     HWND control(int id) const;
     HWND focus() const;
+    /// The id of the control that has the focus.
+    int focused() const { return ::GetDlgCtrlID(focus()); }
 
     bool isRunning() const;
     /// Ends the program without a chance to do anything more.

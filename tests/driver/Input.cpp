@@ -158,9 +158,15 @@ POINT OnScreen(HWND window, POINT point) {
     return point;
 }
 
-POINT CenterOf(HWND window) {
+RECT AreaOf(HWND window, int border) {
     RECT area{};
     ::GetWindowRect(window, &area);
+    ::InflateRect(&area, -border, -border);
+    return area;
+}
+
+POINT CenterOf(HWND window) {
+    const RECT area = AreaOf(window);
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 

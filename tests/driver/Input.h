@@ -18,6 +18,8 @@ void Type(std::string_view text);
 /// A point on the screen, from the left and top of the window's client area.
 POINT OnScreen(HWND window, POINT point);
 POINT CenterOf(HWND window);
+/// The place of a window on the screen, without so many pixels of its border.
+RECT AreaOf(HWND window, int border = 0);
 
 void MoveMouse(POINT screen);
 void PressButton(POINT screen);

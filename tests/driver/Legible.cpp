@@ -1,14 +1,12 @@
 #include "tests/driver/Legible.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdint>
 #include <map>
 #include <string>
-#include <string_view>
-#include <vector>
 
+#include "tests/driver/Input.h"
+#include "tests/driver/Pixel.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
@@ -18,34 +16,6 @@ constexpr int circleWidth = 18;  // of a check box or an option button, with the
 constexpr int captionLeft = 10;  // of a group box
 constexpr int captionHeight = 14;
 
-std::vector<std::uint32_t> PixelsOf(const RECT& screen) {
-    const int width = screen.right - screen.left;
-    const int height = screen.bottom - screen.top;
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * height);
-    const HDC display = ::GetDC(nullptr);
-    const HDC memory = ::CreateCompatibleDC(display);
-    const HBITMAP copy = ::CreateCompatibleBitmap(display, width, height);
-    const HGDIOBJ previous = ::SelectObject(memory, copy);
-    ::BitBlt(memory, 0, 0, width, height, display, screen.left, screen.top, SRCCOPY);
-    ::SelectObject(memory, previous);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    ::GetDIBits(memory, copy, 0, height, pixels.data(), &info, DIB_RGB_COLORS);
-    ::DeleteObject(copy);
-    ::DeleteDC(memory);
-    ::ReleaseDC(nullptr, display);
-    return pixels;
-}
-
-Color ColorIn(std::uint32_t pixel) {
-    return ColorOf(static_cast<int>(pixel >> 16 & 255), static_cast<int>(pixel >> 8 & 255),
-                   static_cast<int>(pixel & 255));
-}
-
 double Luminance(const Color& color) {
     const auto linear = [](int channel) {
         const double part = channel / 255.0;
@@ -54,19 +24,12 @@ double Luminance(const Color& color) {
     return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-RECT Inside(HWND window, int border) {
-    RECT area{};
-    ::GetWindowRect(window, &area);
-    ::InflateRect(&area, -border, -border);
-    return area;
-}
-
 /// An area of the control, which may still move with its window.
 void ExpectToBe(double least, HWND control, RECT area, const std::string& what) {
     Look look = {};
-    RECT before = Inside(control, 0);
+    RECT before = AreaOf(control);
     EXPECT_TRUE(Eventually([&] {
-        const RECT now = Inside(control, 0);
+        const RECT now = AreaOf(control);
         ::OffsetRect(&area, now.left - before.left, now.top - before.top);
         before = now;
         look = LookAt(area);
@@ -77,14 +40,14 @@ void ExpectToBe(double least, HWND control, RECT area, const std::string& what) 
 
 void ExpectButton(HWND button, double least) {
     const LONG kind = ::GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK;
-    RECT area = Inside(button, 4);
+    RECT area = AreaOf(button, 4);
     if (kind == BS_GROUPBOX) {
         // Only the caption, not the line beside it or what stands in the box.
         area.left += captionLeft;
         area.right = area.left + captionHeight;
         area.bottom = area.top + captionHeight / 2;
     } else if (kind != BS_PUSHBUTTON && kind != BS_DEFPUSHBUTTON) {
-        RECT circle = Inside(button, 0);
+        RECT circle = AreaOf(button);
         circle.right = std::min(circle.right, circle.left + circleWidth);
         ExpectToBe(visible, button, circle, TextOf(button) + ", its circle");
         area.left = circle.right;
@@ -94,10 +57,10 @@ void ExpectButton(HWND button, double least) {
 }
 
 void ExpectRows(HWND list, double least) {
-    RECT row = Inside(list, 3);
+    RECT row = AreaOf(list, 3);
     const auto height = static_cast<LONG>(::SendMessageA(list, LB_GETITEMHEIGHT, 0, 0));
     const auto count = static_cast<int>(::SendMessageA(list, LB_GETCOUNT, 0, 0));
-    for (int index = 0; index < count && row.top + height < Inside(list, 0).bottom; ++index) {
+    for (int index = 0; index < count && row.top + height < AreaOf(list).bottom; ++index) {
         row.bottom = row.top + height - 2;
         ExpectToBe(least, list, row, "row " + std::to_string(index));
         row.top += height;
@@ -113,9 +76,9 @@ BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
     } else if (kind == "ListBox") {
         ExpectRows(control, least);
     } else if (kind == "ScrollBar") {
-        ExpectToBe(visible, control, Inside(control, 0), "a slider");
+        ExpectToBe(visible, control, AreaOf(control), "a slider");
     } else if ((kind == "Static" || kind == "Edit" || kind == "LinkLabel") && !TextOf(control).empty()) {
-        ExpectToBe(least, control, Inside(control, kind == "Edit" ? 3 : 0), TextOf(control));
+        ExpectToBe(least, control, AreaOf(control, kind == "Edit" ? 3 : 0), TextOf(control));
     }
     return TRUE;
 }
@@ -123,12 +86,12 @@ BOOL CALLBACK ExpectControl(HWND control, LPARAM) {
 }  // namespace
 
 Look LookAt(const RECT& screen) {
-    std::map<std::uint32_t, int> counts;
-    for (const std::uint32_t pixel : PixelsOf(screen)) ++counts[pixel & 0xFFFFFF];
+    std::map<PackedColor, int> counts;
+    for (const Color& pixel : PixelsOf(screen)) ++counts[Pack(pixel)];
     const auto most = std::ranges::max_element(counts, {}, [](const auto& entry) { return entry.second; });
-    Look look = {ColorIn(most->first), 1};
+    Look look = {Unpack(most->first), 1};
     for (const auto& [pixel, count] : counts)
-        look.contrast = std::max(look.contrast, Contrast(look.ground, ColorIn(pixel)));
+        look.contrast = std::max(look.contrast, Contrast(look.ground, Unpack(pixel)));
     return look;
 }
 

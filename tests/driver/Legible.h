@@ -10,7 +10,6 @@ struct Look {
     double contrast;  ///< of the pixel that is easiest to tell from the ground: from 1, none, to 21
 };
 
-/// An area of the screen without its right and bottom edge, as all areas here.
 Look LookAt(const RECT& screen);
 
 double Contrast(const Color& one, const Color& other);

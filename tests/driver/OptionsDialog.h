@@ -20,7 +20,7 @@ public:
     std::string text(int id) const { return TextOf(control(id)); }
     bool isOn(int option) const { return ::SendMessageA(control(option), BM_GETCHECK, 0, 0) == BST_CHECKED; }
     /// The id of the control that has the focus.
-    int focused() const { return ::GetDlgCtrlID(huevox.focus()); }
+    int focused() const { return huevox.focused(); }
     /// The selected row of the list.
     int format() const;
     std::string example() const { return text(IDC_lblExample); }

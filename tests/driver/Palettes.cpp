@@ -22,13 +22,7 @@ HWND NameField(HWND dialog) {
     return found;
 }
 
-/// After a box or dialog: keys that come before the window is in front again go nowhere.
-void WaitForReturn(const Huevox& huevox) {
-    EXPECT_TRUE(Eventually([&] {
-        const bool isBack = ::GetForegroundWindow() == huevox.window() && huevox.focus() != nullptr;
-        return isBack || huevox.dialog() || !huevox.isRunning();
-    }));
-}
+std::string TitleOf(const std::string& path) { return "Huevox - " + path.substr(path.rfind('\\') + 1); }
 
 }  // namespace
 
@@ -66,6 +60,13 @@ ReadOnlyFile::ReadOnlyFile(std::string path) : path(std::move(path)) {
 
 ReadOnlyFile::~ReadOnlyFile() { ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL); }
 
+LockedFile::LockedFile(const std::string& path)
+    : file(::CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {
+    EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
+}
+
+LockedFile::~LockedFile() { ::CloseHandle(file); }
+
 int CountFiles(const std::string& folder, const char* pattern) {
     WIN32_FIND_DATAA found{};
     const HANDLE search = ::FindFirstFileA((folder + '\\' + pattern).c_str(), &found);
@@ -96,21 +97,18 @@ HWND WaitForFileDialog(const Huevox& huevox, std::string_view title) {
 }
 
 void AnswerQuestion(const Huevox& huevox, int button) {
-    const HWND box = huevox.waitForDialog();
-    ASSERT_TRUE(box);
-    EXPECT_EQ(TextOf(box), "Huevox");
-    EXPECT_EQ(MessageOf(box), question);
-    Answer(box, button);
+    Answer(WaitForMessage(huevox, question), button);
     WaitForReturn(huevox);
 }
 
-void CloseMessage(const Huevox& huevox, std::string_view text) {
-    const HWND box = huevox.waitForDialog();
-    ASSERT_TRUE(box);
-    EXPECT_EQ(TextOf(box), "Huevox");
-    EXPECT_EQ(MessageOf(box), text);
-    Answer(box, IDOK);
-    WaitForReturn(huevox);
+void AnswerReplacing(const Huevox& huevox, int button) {
+    ASSERT_BECOMES(huevox.dialogCount(), 2);
+    Answer(huevox.dialog(), button);
+}
+
+void ExpectEndByError(const Huevox& huevox) {
+    CloseMessage(huevox, "Huevox encountered an unexpected error and must close.");
+    EXPECT_EQ(huevox.waitForEnd(), 1);
 }
 
 void TypePath(const Huevox& huevox, std::string_view title, std::string_view path) {
@@ -139,9 +137,15 @@ void CancelFileDialog(const Huevox& huevox, std::string_view title) {
 }
 
 void OpenPalette(const Huevox& huevox, const std::string& path) {
-    Press('O', {VK_CONTROL});
+    PressOpen();
     ChoosePath(huevox, openTitle, path);
-    EXPECT_BECOMES(huevox.title(), "Huevox - " + path.substr(path.rfind('\\') + 1));
+    EXPECT_BECOMES(huevox.title(), TitleOf(path));
+}
+
+void SaveNewPalette(const Huevox& huevox, const std::string& path) {
+    PressSave();
+    ChoosePath(huevox, saveTitle, path);
+    EXPECT_BECOMES(huevox.title(), TitleOf(path));
 }
 
 void ChangeColor(const Huevox& huevox) {
@@ -153,6 +157,11 @@ void ChangeColor(const Huevox& huevox) {
 
 void PressNew() { Press('N', {VK_CONTROL}); }
 void PressOpen() { Press('O', {VK_CONTROL}); }
+void PressSave() { Press('S', {VK_CONTROL}); }
+void ChooseSaveAs() {
+    Press('F', {VK_MENU});
+    Press('A');
+}
 void PressClose(const Huevox& huevox) { ::PostMessageA(huevox.window(), WM_SYSCOMMAND, SC_CLOSE, 0); }
 
 void ExpectStill(const Huevox& huevox, const Color& color) {
@@ -168,7 +177,7 @@ void ExpectPalette(const Huevox& huevox, const Palette& palette) {
     for (int mark = 0; mark < markCount; ++mark) {
         EXPECT_BECOMES(huevox.text(Name(mark)), palette.names[mark]);
         EXPECT_BECOMES(huevox.sample(mark), palette.colors[mark]);
-        EXPECT_EQ(huevox.backColor(Name(mark)), ColorOf(255, 255, 255)) << mark;
+        EXPECT_EQ(huevox.backColor(Name(mark)), white) << mark;
         EXPECT_EQ(huevox.isChecked(Option(mark)), mark == 0) << mark;
         EXPECT_EQ(huevox.isEnabled(IDC_picSample + mark), mark == 0) << mark;
     }

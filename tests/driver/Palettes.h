@@ -36,6 +36,17 @@ public:
 private:
     std::string path;
 };
+/// A file is locked, as by another program, for as long as the value lives.
+class LockedFile {
+public:
+    explicit LockedFile(const std::string& path);
+    LockedFile(const LockedFile&) = delete;
+    LockedFile& operator=(const LockedFile&) = delete;
+    ~LockedFile();
+
+private:
+    HANDLE file;
+};
 /// How many files of the folder match a pattern such as "*.tmp".
 int CountFiles(const std::string& folder, const char* pattern);
 
@@ -54,8 +65,10 @@ inline constexpr const char* couldNotSave = "Could not save. Check if file or fo
 [[nodiscard]] HWND WaitForFileDialog(const Huevox& huevox, std::string_view title);
 /// Waits for the question and gives the answer to it.
 void AnswerQuestion(const Huevox& huevox, int button);
-/// Waits for a message with that text and closes it.
-void CloseMessage(const Huevox& huevox, std::string_view text);
+/// Waits for the question over the file dialog whether to replace a file, and answers it.
+void AnswerReplacing(const Huevox& huevox, int button);
+/// Closes the one message of an unexpected error, and expects the program to end by it.
+void ExpectEndByError(const Huevox& huevox);
 /// Waits for a file dialog, types a path into it and presses Enter.
 void TypePath(const Huevox& huevox, std::string_view title, std::string_view path);
 /// The same, and waits until the file dialog is gone.
@@ -65,6 +78,8 @@ void CancelFileDialog(const Huevox& huevox, std::string_view title);
 
 /// Opens a file by Ctrl+O and waits for its title.
 void OpenPalette(const Huevox& huevox, const std::string& path);
+/// Saves a palette that has no file yet by Ctrl+S and waits for its title.
+void SaveNewPalette(const Huevox& huevox, const std::string& path);
 /// Moves the green slider of the selected mark by one.
 void ChangeColor(const Huevox& huevox);
 
@@ -72,6 +87,9 @@ void ChangeColor(const Huevox& huevox);
 void PressNew();
 void PressOpen();
 void PressClose(const Huevox& huevox);
+/// The commands that save.
+void PressSave();
+void ChooseSaveAs();
 /// The first mark has that colour still, and the window can be used: its colour is changed once more.
 void ExpectStill(const Huevox& huevox, const Color& color);
 

@@ -2,6 +2,7 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/Tips.h"
 #include "tests/driver/Wait.h"
 
 namespace {
@@ -28,12 +29,6 @@ void PickerWindow::open() const {
 
 void PickerWindow::clickButton() const { Click(huevox.control(grid.button)); }
 
-RECT PickerWindow::place() const {
-    RECT place{};
-    ::GetWindowRect(window(), &place);
-    return place;
-}
-
 POINT PickerWindow::middle(const Swatch& swatch) const {
     RECT area{};
     ::GetClientRect(swatches(), &area);
@@ -43,13 +38,7 @@ POINT PickerWindow::middle(const Swatch& swatch) const {
 
 void PickerWindow::click(const Swatch& swatch) const { Click(middle(swatch)); }
 
-void PickerWindow::hover(const Swatch& swatch) const {
-    MoveMouse({1, 1});
-    EXPECT_BECOMES(huevox.toolTip(), "");
-    const POINT point = middle(swatch);
-    MoveMouse({point.x - 1, point.y});
-    MoveMouse(point);
-}
+void PickerWindow::hover(const Swatch& swatch) const { Hover(huevox, middle(swatch)); }
 
 void PickerWindow::moveTo(int left, int top) const {
     ::SetWindowPos(window(), nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -68,8 +57,7 @@ void ExpectClick(const Huevox& huevox, const PickerWindow& picker, const Swatch&
 }
 
 void ExpectTip(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const char* tip) {
-    picker.hover(swatch);
-    EXPECT_BECOMES(huevox.toolTip(), tip);
+    ExpectTip(huevox, picker.middle(swatch), tip);
 }
 
 void ExpectNothingByTheRightButton(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch) {

@@ -3,6 +3,7 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Huevox.h"
+#include "tests/driver/Input.h"
 
 /// A swatch of a grid, counted from the left and top.
 struct Swatch {
@@ -26,7 +27,7 @@ public:
 
     HWND window() const { return huevox.form(grid.name); }
     HWND swatches() const { return ::GetDlgItem(window(), grid.swatches); }
-    RECT place() const;
+    RECT place() const { return AreaOf(window()); }
     bool isEnabled() const { return ::IsWindowEnabled(window()) != FALSE; }
 
     /// The middle of a swatch on the screen.

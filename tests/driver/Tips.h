@@ -1,12 +1,23 @@
-// How does a test see the tool tip of a control?
+// How does a test see the tool tip of a place?
 #pragma once
 
-#include "tests/driver/UiTest.h"
+#include "tests/driver/Huevox.h"
+#include "tests/driver/Input.h"
+#include "tests/driver/Wait.h"
 
-/// Moves the mouse away and then onto a control, and expects its tool tip.
-inline void ExpectTip(const Huevox& huevox, HWND control, const char* tip) {
+/// Moves the mouse away until no tool tip is left, and then there.
+inline void Hover(const Huevox& huevox, POINT place) {
     MoveMouse({1, 1});
     ASSERT_BECOMES(huevox.toolTip(), "");
-    MoveMouse(CenterOf(control));
+    MoveMouse(place);
+}
+
+/// The same, and expects the tool tip of the place.
+inline void ExpectTip(const Huevox& huevox, POINT place, const char* tip) {
+    Hover(huevox, place);
     EXPECT_BECOMES(huevox.toolTip(), tip);
+}
+
+inline void ExpectTip(const Huevox& huevox, HWND control, const char* tip) {
+    ExpectTip(huevox, CenterOf(control), tip);
 }

@@ -67,6 +67,18 @@ void CopyElsewhere(std::string_view text) {
     ::CloseClipboard();
 }
 
+ClipboardHeld::ClipboardHeld() { EXPECT_TRUE(OpenClipboardSoon()); }
+
+ClipboardHeld::~ClipboardHeld() { ::CloseClipboard(); }
+
+void ExpectDefaultsStored() {
+    EXPECT_EQ(StoredText("CustomFormat"), "");
+    EXPECT_EQ(StoredText("FormatIndex"), "0");
+    EXPECT_EQ(StoredText("SortIndex"), "0");
+    EXPECT_EQ(StoredText("PromptToSave"), "1");
+    EXPECT_TRUE(StoredText("StandardFolder").ends_with("\\Desktop")) << StoredText("StandardFolder");
+}
+
 void StoreText(const char* valueName, std::string_view text) {
     HKEY key = nullptr;
     ::RegCreateKeyA(HKEY_CURRENT_USER, settingsKey, &key);
@@ -104,6 +116,20 @@ void SetColor(const Huevox& huevox, const Color& color) {
     huevox.retype(IDC_txtSetBlue, std::to_string(color.blue));
     Press(VK_RETURN);
     ASSERT_BECOMES(huevox.sliders(), color);
+}
+
+void VisitAnotherProgram(HWND window) {
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    }
+    ::SetForegroundWindow(window);
+    ASSERT_BECOMES(::GetForegroundWindow(), window);
+}
+
+void Close(const Huevox& huevox) {
+    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(huevox.waitForEnd(), 0);
 }
 
 void CheckNames(const Huevox& huevox, bool isChecked) {

@@ -28,7 +28,21 @@ std::wstring ClipboardUnicodeText();
 /// Puts text on the clipboard as another program does.
 void CopyElsewhere(std::string_view text);
 
+/// The clipboard is held open, as by a program that hangs, for as long as the value lives.
+class ClipboardHeld {
+public:
+    ClipboardHeld();
+    ClipboardHeld(const ClipboardHeld&) = delete;
+    ClipboardHeld& operator=(const ClipboardHeld&) = delete;
+    ~ClipboardHeld();
+};
+
 inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
+
+/// What is said when settings cannot be used, and all five of them as they are then.
+inline constexpr const char* unusableSettings =
+    "Unusable settings found in Registry. Default settings restored.";
+void ExpectDefaultsStored();
 
 void StoreText(const char* valueName, std::string_view text);
 std::string StoredText(const char* valueName);
@@ -38,6 +52,10 @@ void DenyTheSettingsKey();
 
 /// Types all three values and applies them, in decimal mode.
 void SetColor(const Huevox& huevox, const Color& color);
+/// Another program comes to the front and ends; a window that was behind it is in front again.
+void VisitAnotherProgram(HWND window);
+/// Closes the main window, and expects the program to end without a question.
+void Close(const Huevox& huevox);
 /// Clicks the box for JavaScript names and waits until the list is disabled or enabled.
 void CheckNames(const Huevox& huevox, bool isChecked);
 

@@ -27,3 +27,9 @@ inline std::string TextOf(HWND window) {
     text.resize(AnswerOf(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
     return text;
 }
+
+/// The text of a message box.
+inline std::string MessageOf(HWND box) {
+    constexpr int messageText = 0xFFFF;
+    return TextOf(::GetDlgItem(box, messageText));
+}

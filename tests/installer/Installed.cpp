@@ -7,26 +7,10 @@
 #include <array>
 #include <utility>
 
-#include "tests/driver/Wait.h"
-#include "tests/driver/WindowText.h"
+#include "tests/driver/FindWindows.h"
+#include "tests/driver/StartProgram.h"
 
 namespace {
-
-struct Search {
-    DWORD process;
-    std::string className;
-    HWND found;
-};
-
-BOOL CALLBACK FindVisible(HWND window, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
-    DWORD owner = 0;
-    ::GetWindowThreadProcessId(window, &owner);
-    if (owner != search.process || !::IsWindowVisible(window) || search.className != ClassOf(window))
-        return TRUE;
-    search.found = window;
-    return FALSE;
-}
 
 std::filesystem::path UserFolder(int which) {
     std::array<char, MAX_PATH> path{};
@@ -64,16 +48,8 @@ void AddKeys(HKEY parent, const std::string& path, std::set<std::string>& traces
 }  // namespace
 
 Process::Process(std::string commandLine) {
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
-    // Now and then the platform refuses a process with an internal error and creates it the next time.
-    const bool hasStarted = Eventually([&] {
-        return ::CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                &startup, &started) != FALSE;
-    });
-    EXPECT_TRUE(hasStarted) << commandLine << ": error " << ::GetLastError();
-    if (hasStarted) ::CloseHandle(started.hThread);
+    const PROCESS_INFORMATION started = StartProgram(std::move(commandLine));
+    ::CloseHandle(started.hThread);
     process = started.hProcess;
 }
 
@@ -106,11 +82,11 @@ std::optional<int> Process::waitForEnd() const {
 }
 
 HWND Process::waitForWindow(const char* className) const {
-    Search search{::GetProcessId(process), className, nullptr};
-    EXPECT_TRUE(Eventually([&] {
-        return ::EnumWindows(FindVisible, reinterpret_cast<LPARAM>(&search)), search.found != nullptr;
-    })) << className;
-    return search.found;
+    HWND window = nullptr;
+    const DWORD id = ::GetProcessId(process);
+    EXPECT_TRUE(Eventually([&] { return (window = FindVisible(id, className).first) != nullptr; }))
+        << className;
+    return window;
 }
 
 int RunToEnd(const std::string& commandLine) { return Process(commandLine).waitForEnd().value_or(-1); }

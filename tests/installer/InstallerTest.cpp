@@ -45,12 +45,6 @@ std::string Bytes(const fs::path& file) {
 
 std::string Quoted(const fs::path& path) { return "\"" + path.string() + "\""; }
 
-/// The text of a message box that a process shows.
-std::string Message(HWND box) {
-    constexpr int text = 0xFFFF;
-    return TextOf(::GetDlgItem(box, text));
-}
-
 /// A text of a program's version information, in British English.
 std::string VersionText(const fs::path& program, const std::string& name) {
     const std::string file = program.string();
@@ -169,7 +163,7 @@ TEST_F(Installer, SaysThatTheProgramIsRunningAndGoesOnWhenItIsNot) {
         ASSERT_TRUE(program.waitForWindow("frmMain"));
         ::PostMessageA(::GetDlgItem(wizard, IDOK), BM_CLICK, 0, 0);
         ASSERT_TRUE(Eventually(isAsking));
-        EXPECT_EQ(Message(box), "Huevox is running. Close it and try again.");
+        EXPECT_EQ(MessageOf(box), "Huevox is running. Close it and try again.");
         EXPECT_EQ(Value(uninstallKey, "DisplayVersion"), HUEVOX_VERSION);
     }
     ::PostMessageA(::GetDlgItem(box, IDRETRY), BM_CLICK, 0, 0);

@@ -3,42 +3,13 @@
 #include <vector>
 
 #include "Addresses.h"
+#include "tests/driver/AboutBox.h"
 #include "tests/driver/PickerWindow.h"
 #include "tests/ui/help/ShellCommand.h"
 
 namespace {
 
 class About : public PaletteTest {};
-
-/// The about box, opened by the menu.
-class AboutBox {
-public:
-    explicit AboutBox(const Huevox& huevox) : huevox(huevox) {
-        Press('H', {VK_MENU});
-        Press('A');
-        EXPECT_TRUE(Eventually([&] { return window() && ::GetForegroundWindow() == window(); }));
-        EXPECT_BECOMES(focus(), IDC_cmdOK);
-    }
-
-    HWND window() const { return huevox.form("frmAbout"); }
-    HWND control(int id) const { return ::GetDlgItem(window(), id); }
-    std::string text(int id) const { return TextOf(control(id)); }
-    int focus() const { return ::GetDlgCtrlID(huevox.focus()); }
-    /// The middle of a place near the beginning of a link.
-    POINT startOf(int link) const { return OnScreen(control(link), {20, 10}); }
-    void tabTo(int id) const {
-        Press(VK_TAB);
-        EXPECT_BECOMES(focus(), id);
-    }
-    void expectClosed() const {
-        EXPECT_BECOMES(window(), nullptr);
-        EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
-        EXPECT_TRUE(::IsWindowEnabled(huevox.window()));
-    }
-
-private:
-    const Huevox& huevox;
-};
 
 std::vector<int> ControlsInOrder(HWND window) {
     std::vector<int> ids;
@@ -128,7 +99,7 @@ TEST_F(About, EveryWayOfClosingClosesItOnlyAndGivesTheFocusBack) {
         open = &box;
         close();
         box.expectClosed();
-        EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetGreen);
+        EXPECT_BECOMES(huevox.focused(), IDC_txtSetGreen);
     }
     EXPECT_TRUE(huevox.isRunning());
 }
@@ -214,7 +185,7 @@ TEST_F(About, WithoutABrowserOrMailProgramNothingIsShown) {
     const Huevox huevox;
     const AboutBox box(huevox);
     Click(box.startOf(IDC_lblLink));
-    EXPECT_BECOMES(box.focus(), IDC_lblLink);
+    EXPECT_BECOMES(box.focused(), IDC_lblLink);
     box.tabTo(IDC_lblMailLink);
     Press(VK_RETURN);
     box.tabTo(IDC_cmdOK);  // the keys before it have done what they do

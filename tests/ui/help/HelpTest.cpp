@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "tests/driver/Palettes.h"
+#include "tests/driver/ReplacedFile.h"
 
 namespace {
 
@@ -46,24 +47,17 @@ private:
     static constexpr std::string_view order = "native,builtin";
 };
 
-/// The platform's help viewer is another, or none, for as long as the value lives.
+/// The help viewer of Windows is another, or none, for as long as the value lives.
 class WithoutViewer {
 public:
-    WithoutViewer() { EXPECT_TRUE(::MoveFileA(viewer.c_str(), aside.c_str())); }
-    explicit WithoutViewer(const char* standIn) : WithoutViewer() {
-        EXPECT_TRUE(::CopyFileA(standIn, viewer.c_str(), FALSE));
-    }
-    WithoutViewer(const WithoutViewer&) = delete;
-    WithoutViewer& operator=(const WithoutViewer&) = delete;
-    ~WithoutViewer() {
-        EXPECT_TRUE(Eventually([&] { return ::DeleteFileA(viewer.c_str()) != FALSE || !Exists(viewer); }));
-        EXPECT_TRUE(::MoveFileA(aside.c_str(), viewer.c_str()));
-    }
+    WithoutViewer() : viewer(path()) {}
+    explicit WithoutViewer(const char* standIn) : viewer(path(), standIn) {}
 
 private:
-    const std::string viewer = SystemFolder() + "hhctrl.ocx";
-    const std::string aside = SystemFolder() + "hhctrl aside.ocx";
+    static std::string path() { return SystemFolder() + "hhctrl.ocx"; }
+
     FilesFirst filesFirst;
+    ReplacedFile viewer;
 };
 
 /// The tests' current folder is another for as long as the value lives; programs that they start begin in it.
@@ -94,43 +88,6 @@ void ExpectNothingButGoingOn(const Huevox& huevox) {
     EXPECT_BECOMES(huevox.sliders(), ColorOf(254, 0, 0));
     EXPECT_TRUE(Throughout(500, [&] { return !huevox.dialog() && !HelpWindow(huevox); }));
     EXPECT_TRUE(huevox.isRunning());
-}
-
-HWND IconOf(HWND message) {
-    HWND icon = nullptr;
-    do {
-        icon = ::FindWindowExA(message, icon, "Static", nullptr);
-    } while (icon && (::GetWindowLongA(icon, GWL_STYLE) & SS_TYPEMASK) != SS_ICON);
-    return icon;
-}
-
-/// Whether the message shows the platform's icon of an exclamation, pixel by pixel.
-bool ShowsExclamation(HWND message) {
-    const HDC screen = ::GetDC(nullptr);
-    const HDC memory = ::CreateCompatibleDC(screen);
-    const int size = ::GetSystemMetrics(SM_CXICON);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
-    const HGDIOBJ before = ::SelectObject(memory, bitmap);
-    ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, IDI_EXCLAMATION), size, size, 0,
-                 ::GetSysColorBrush(COLOR_3DFACE), DI_NORMAL);
-    const POINT place = OnScreen(IconOf(message), {0, 0});
-    int differences = 0;
-    for (int pixel = 0; pixel < size * size; ++pixel) {
-        const int x = pixel % size;
-        const int y = pixel / size;
-        const bool isSame = ::GetPixel(memory, x, y) == ::GetPixel(screen, place.x + x, place.y + y);
-        if (!isSame) ++differences;
-    }
-    ::SelectObject(memory, before);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(memory);
-    ::ReleaseDC(nullptr, screen);
-    return differences == 0;
-}
-
-void Close(const Huevox& huevox) {
-    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(huevox.waitForEnd(), 0);
 }
 
 }  // namespace
@@ -206,11 +163,8 @@ TEST_F(Help, WithoutAViewerIsTold) {
     const WithoutViewer none;
     const Huevox huevox;
     Press(VK_F1);
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(TextOf(message), "Huevox");
-    EXPECT_EQ(MessageOf(message), "Problem with HTML Help.");
-    EXPECT_TRUE(Eventually([&] { return ShowsExclamation(message); }));
+    const HWND message = WaitForMessage(huevox, "Problem with HTML Help.");
+    EXPECT_TRUE(Eventually([&] { return ShowsIcon(message, IDI_EXCLAMATION); }));
     Answer(message, IDOK);
     ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
     ExpectNothingButGoingOn(huevox);

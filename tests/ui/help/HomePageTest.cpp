@@ -1,8 +1,6 @@
 // What does Visit Huevox Home Page do?
-#include <filesystem>
-
 #include "Addresses.h"
-#include "tests/driver/Palettes.h"
+#include "tests/ui/help/ShellCommand.h"
 
 namespace {
 
@@ -21,18 +19,12 @@ void CopyKey(const char* from, const char* to) {
     ::RegCloseKey(target);
 }
 
-/// Addresses of the web are opened by another program, or by none, for as long as the value lives.
+/// Nothing is registered for addresses of the web, for as long as the value lives.
 class WithoutBrowser {
 public:
     WithoutBrowser() {
         CopyKey(webKey, savedKey);
         EXPECT_EQ(::RegDeleteTreeA(HKEY_CLASSES_ROOT, webKey), ERROR_SUCCESS);
-    }
-    explicit WithoutBrowser(const std::string& command) : WithoutBrowser() {
-        EXPECT_EQ(::RegSetKeyValueA(HKEY_CLASSES_ROOT, webKey, "URL Protocol", REG_SZ, "", 1), ERROR_SUCCESS);
-        EXPECT_EQ(::RegSetKeyValueA(HKEY_CLASSES_ROOT, "http\\shell\\open\\command", nullptr, REG_SZ,
-                                    command.c_str(), static_cast<DWORD>(command.size() + 1)),
-                  ERROR_SUCCESS);
     }
     WithoutBrowser(const WithoutBrowser&) = delete;
     WithoutBrowser& operator=(const WithoutBrowser&) = delete;
@@ -51,12 +43,10 @@ void ChooseHomePage() {
 }  // namespace
 
 TEST_F(HomePage, IsHandedToTheBrowserExactly) {
-    const std::string browser = std::filesystem::absolute(HUEVOX_STAND_IN).string();
-    const WithoutBrowser standIn('"' + browser + R"(" "%1")");
+    const ShellCommand browser(webKey, ShellCommand::To::standIn);
     const Huevox huevox;
     ChooseHomePage();
-    const std::string command = '"' + browser + "\" \"" + homePageAddress + '"';
-    EXPECT_BECOMES(ContentOf(PathOf("command.txt")), command);
+    EXPECT_BECOMES(ShellCommand::line(), ShellCommand::lineFor(homePageAddress));
     EXPECT_EQ(huevox.dialog(), nullptr);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/driver/Palettes.h"
+#include "tests/driver/ReplacedFile.h"
 
 /// What is registered for a kind of address, such as "http", is the stand-in or nothing, for as long as the
 /// value lives.
@@ -33,11 +34,7 @@ public:
 
     /// The command line that the stand-in was last started by.
     static std::string line() { return ContentOf(PathOf("command.txt")); }
-    /// The stand-in may hold the file for a moment longer than it writes.
-    static void forgetLine() {
-        const std::string file = PathOf("command.txt");
-        EXPECT_TRUE(Eventually([&] { return ::DeleteFileA(file.c_str()) != FALSE || !Exists(file); }));
-    }
+    static void forgetLine() { DeleteSoon(PathOf("command.txt")); }
 
 private:
     static std::string quoted(const std::string& text) { return '"' + text + '"'; }

@@ -25,12 +25,8 @@ TEST_F(Activation, KeepsNotationAndFocus) {
     const Huevox huevox;
     huevox.chooseNotation(10);
     huevox.focusByClick(Name(3));
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(3));
+    VisitAnotherProgram(huevox.window());
+    EXPECT_BECOMES(huevox.focused(), Name(3));
     EXPECT_EQ(huevox.listIndex(), 10);
     EXPECT_EQ(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
 }
@@ -39,12 +35,7 @@ TEST_F(Activation, InJavaScriptNamesModeSelectsNoNotation) {
     const Huevox huevox;
     huevox.chooseNotation(4);
     CheckNames(huevox, true);
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
+    VisitAnotherProgram(huevox.window());
     EXPECT_BECOMES(ClipboardText(), "red");
     EXPECT_EQ(huevox.listIndex(), -1);
     CheckNames(huevox, false);

@@ -5,13 +5,6 @@ namespace {
 
 class Closing : public UiTest {};
 
-/// Brings the refusal of a typed value on the screen.
-HWND OpenMessage(const Huevox& huevox) {
-    huevox.retype(IDC_txtSetRed, "256");
-    Press(VK_RETURN);
-    return huevox.waitForDialog();
-}
-
 }  // namespace
 
 TEST_F(Closing, TheCloseBoxEndsTheProgramWithCode0AndAsksNothingForAnUnchangedPalette) {
@@ -36,7 +29,7 @@ TEST_F(Closing, AltF4EndsTheProgram) {
 
 TEST_F(Closing, IsIgnoredWhileAMessageIsOpen) {
     const Huevox huevox;
-    const HWND message = OpenMessage(huevox);
+    const HWND message = BringRefusal(huevox);
     ASSERT_TRUE(message);
     ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
     ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuFileExit, 0);
@@ -44,7 +37,7 @@ TEST_F(Closing, IsIgnoredWhileAMessageIsOpen) {
     ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuFileExit,
                    reinterpret_cast<LPARAM>(huevox.control(IDC_tbrTools)));
     Answer(message, IDOK);
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
+    EXPECT_BECOMES(huevox.focused(), IDC_txtSetRed);
     EXPECT_TRUE(huevox.isRunning());
 }
 

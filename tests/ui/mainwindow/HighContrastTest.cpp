@@ -37,14 +37,6 @@ protected:
     ThemeInactive classic;
 };
 
-/// The area of a control on the screen, without so many pixels of its border.
-RECT AreaOf(HWND control, int border = 0) {
-    RECT area{};
-    ::GetWindowRect(control, &area);
-    ::InflateRect(&area, -border, -border);
-    return area;
-}
-
 Color GroundOf(HWND control, int border = 3) { return LookAt(AreaOf(control, border)).ground; }
 
 HWND WaitForForm(const Huevox& huevox, const char* name) {

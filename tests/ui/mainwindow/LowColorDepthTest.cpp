@@ -9,12 +9,10 @@ class LowColorDepth : public UiTest {};
 
 TEST_F(LowColorDepth, IsToldBeforeTheWindowIsShown) {
     Huevox huevox(Huevox::DoNotWait{});
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(TextOf(message), "Huevox");
-    EXPECT_EQ(MessageOf(message),
-              "The color depth of your monitor has a low value.\r\n\r\n"
-              "Huevox will look better if you select a higher value in the Control Panel in Windows.");
+    const HWND message = WaitForMessage(
+        huevox,
+        "The color depth of your monitor has a low value.\r\n\r\n"
+        "Huevox will look better if you select a higher value in the Control Panel in Windows.");
     EXPECT_FALSE(::FindWindowA("frmMain", nullptr) && ::IsWindowVisible(::FindWindowA("frmMain", nullptr)));
     Answer(message, IDOK);
     ASSERT_TRUE(huevox.waitForWindow());

@@ -4,9 +4,11 @@
 #include <string>
 #include <tuple>
 
+#include "tests/driver/AboutBox.h"
 #include "tests/driver/FormatDialog.h"
 #include "tests/driver/OptionsDialog.h"
 #include "tests/driver/PickerWindow.h"
+#include "tests/driver/RemoteCall.h"
 #include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 #include "tests/ui/mainwindow/Scaled.h"
@@ -24,18 +26,7 @@ UINT DesktopsDpi() {
 /// The awareness of the process that a window belongs to. Not every system that knows the second version of
 /// that of monitors tells it by the window; a thread of the process's own always does.
 DPI_AWARENESS_CONTEXT AwarenessOfProcess(HWND window) {
-    DWORD id = 0;
-    ::GetWindowThreadProcessId(window, &id);
-    const HANDLE process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-    // The system's libraries lie at the same place in every process of one kind.
-    const FARPROC ask = ::GetProcAddress(::GetModuleHandleA("user32"), "GetThreadDpiAwarenessContext");
-    const auto start = reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void*>(ask));
-    const HANDLE thread = ::CreateRemoteThread(process, nullptr, 0, start, nullptr, 0, nullptr);
-    EXPECT_TRUE(Eventually([&] { return ::WaitForSingleObject(thread, 0) == WAIT_OBJECT_0; }));
-    DWORD answer = 0;
-    ::GetExitCodeThread(thread, &answer);
-    ::CloseHandle(thread);
-    ::CloseHandle(process);
+    const DWORD answer = ProcessOf(window).call("user32", "GetThreadDpiAwarenessContext");
     return reinterpret_cast<DPI_AWARENESS_CONTEXT>(static_cast<LONG_PTR>(static_cast<LONG>(answer)));
 }
 
@@ -120,7 +111,7 @@ TEST_F(Scaling, TheMainWindowFollows) {
     ExpectSize(huevox.control(IDC_cmdWebsafe), 119, 25);
     ExpectSize(huevox.control(IDC_hsbRed), 299, 18);
     Click(huevox.thumb(IDC_hsbGreen, 0));
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    ASSERT_BECOMES(huevox.focused(), IDC_hsbGreen);
     EXPECT_EQ(huevox.sliders(), ColorOf(255, 0, 0));
     ExpectTip(huevox, huevox.control(IDC_cmdFailsafe), "Click here to open the Failsafe Palette");
 }
@@ -150,15 +141,11 @@ TEST_F(Scaling, TheEditorOfTheCustomNotationFollows) {
 
 TEST_F(Scaling, TheAboutBoxFollows) {
     const Huevox huevox;
-    Press('H', {VK_MENU});
-    Press('A');
-    const auto about = [&] { return huevox.form("frmAbout"); };
-    ASSERT_TRUE(Eventually([&] { return about() && ::GetForegroundWindow() == about(); }));
-    ExpectWhole(about(), 11);
-    ExpectSize(::GetDlgItem(about(), IDC_cmdOK), 80, 25);
-    Click(::GetDlgItem(about(), IDC_cmdOK));
-    EXPECT_BECOMES(about(), nullptr);
-    EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());
+    const AboutBox about(huevox);
+    ExpectWhole(about.window(), 11);
+    ExpectSize(about.control(IDC_cmdOK), 80, 25);
+    Click(about.control(IDC_cmdOK));
+    about.expectClosed();
 }
 
 TEST_F(Scaling, ThePaletteWindowsFollow) {

@@ -1,19 +1,12 @@
 // What becomes of the program when the session ends while something is open?
-#include <future>
-
 #include "tests/driver/FormatDialog.h"
 #include "tests/driver/Palettes.h"
+#include "tests/driver/SessionEnd.h"
 
 namespace {
 
 class SessionEnd : public PaletteTest {
 protected:
-    /// Asks on another thread, because the answer may need the user.
-    static std::future<bool> MayEnd(const Huevox& huevox) {
-        return std::async(std::launch::async, [window = huevox.window()] {
-            return ::SendMessageA(window, WM_QUERYENDSESSION, 0, 0) != FALSE;
-        });
-    }
     static void ExpectEnd(const Huevox& huevox) {
         ::SendMessageTimeoutA(huevox.window(), WM_ENDSESSION, TRUE, 0, SMTO_NORMAL, 10'000, nullptr);
         EXPECT_EQ(huevox.waitForEnd(), 0);
@@ -28,7 +21,7 @@ TEST_F(SessionEnd, NoLeavesTheFileAsItWas) {
     const Huevox huevox;
     OpenPalette(huevox, PathOf("mine.txt"));
     ChangeColor(huevox);
-    auto mayEnd = MayEnd(huevox);
+    auto mayEnd = AskForSessionEnd(huevox);
     AnswerQuestion(huevox, IDNO);
     EXPECT_TRUE(mayEnd.get());
     ExpectEnd(huevox);
@@ -38,7 +31,7 @@ TEST_F(SessionEnd, NoLeavesTheFileAsItWas) {
 TEST_F(SessionEnd, YesForANewPaletteAsksForAFileAndSavesIt) {
     const Huevox huevox;
     ChangeColor(huevox);
-    auto mayEnd = MayEnd(huevox);
+    auto mayEnd = AskForSessionEnd(huevox);
     AnswerQuestion(huevox, IDYES);
     ChoosePath(huevox, saveTitle, PathOf("mine.txt"));
     EXPECT_TRUE(mayEnd.get());
@@ -50,23 +43,21 @@ TEST_F(SessionEnd, EndsTheProgramOverAnOpenFileDialog) {
     const Huevox huevox;
     PressOpen();
     ASSERT_TRUE(WaitForFileDialog(huevox, openTitle));
-    EXPECT_TRUE(MayEnd(huevox).get());
+    EXPECT_TRUE(AskForSessionEnd(huevox).get());
     ExpectEnd(huevox);
 }
 
 TEST_F(SessionEnd, EndsTheProgramOverAnOpenDialogOfItsOwn) {
     const Huevox huevox;
     const FormatDialog dialog(huevox);
-    EXPECT_TRUE(MayEnd(huevox).get());
+    EXPECT_TRUE(AskForSessionEnd(huevox).get());
     ExpectEnd(huevox);
 }
 
 TEST_F(SessionEnd, EndsTheProgramOverAMessage) {
     const Huevox huevox;
-    huevox.retype(IDC_txtSetRed, "256");
-    Press(VK_RETURN);
-    ASSERT_TRUE(huevox.waitForDialog());
-    EXPECT_TRUE(MayEnd(huevox).get());
+    ASSERT_TRUE(BringRefusal(huevox));
+    EXPECT_TRUE(AskForSessionEnd(huevox).get());
     ExpectEnd(huevox);
 }
 
@@ -76,7 +67,7 @@ TEST_F(SessionEnd, DoesNotComeWhileTheQuestionWhetherToSaveIsOpen) {
     PressClose(huevox);
     const HWND asked = huevox.waitForDialog();
     ASSERT_TRUE(asked);
-    EXPECT_FALSE(MayEnd(huevox).get());
+    EXPECT_FALSE(AskForSessionEnd(huevox).get());
     EXPECT_EQ(huevox.dialogCount(), 1);
     AnswerQuestion(huevox, IDCANCEL);
     ExpectStill(huevox, ColorOf(255, 1, 0));

@@ -1,4 +1,5 @@
 // Has the program that the tests act on as many bits as they believe?
+#include "tests/driver/RemoteCall.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
@@ -7,12 +8,8 @@ class WordLength : public UiTest {};
 
 /// Windows of 64 bits runs programs of 32 apart from its own.
 bool RunsApart(HWND window) {
-    DWORD id = 0;
-    ::GetWindowThreadProcessId(window, &id);
-    const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
     BOOL isApart = FALSE;
-    EXPECT_TRUE(::IsWow64Process(process, &isApart)) << "error " << ::GetLastError();
-    ::CloseHandle(process);
+    EXPECT_TRUE(::IsWow64Process(ProcessOf(window).handle(), &isApart)) << "error " << ::GetLastError();
     return isApart != FALSE;
 }
 

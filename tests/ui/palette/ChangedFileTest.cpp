@@ -1,7 +1,6 @@
 // When is saving a palette that has a file offered, and what does each answer do?
-#include <future>
-
 #include "tests/driver/Palettes.h"
+#include "tests/driver/SessionEnd.h"
 
 namespace {
 
@@ -40,8 +39,7 @@ TEST_F(ChangedFile, NewYesSavesAndBeginsANewOne) {
 TEST_F(ChangedFile, ASaveAsThatWasCancelledBeforeDoesNotStopNew) {
     const Huevox huevox;
     OpenAndChange(huevox);
-    Press('F', {VK_MENU});
-    Press('A');
+    ChooseSaveAs();
     CancelFileDialog(huevox, saveTitle);
     PressNew();
     AnswerQuestion(huevox, IDYES);
@@ -149,9 +147,7 @@ TEST_F(ChangedFile, WithPromptToSave0ClosingAsksNothingButNewAndOpenStillAsk) {
 TEST_F(ChangedFile, TheEndOfTheSessionAsksAndCancelVetoesIt) {
     const Huevox huevox;
     OpenAndChange(huevox);
-    auto mayEnd = std::async(std::launch::async, [&] {
-        return ::SendMessageA(huevox.window(), WM_QUERYENDSESSION, 0, 0) != FALSE;
-    });
+    auto mayEnd = AskForSessionEnd(huevox);
     AnswerQuestion(huevox, IDCANCEL);
     EXPECT_FALSE(mayEnd.get());
     ::SendMessageA(huevox.window(), WM_ENDSESSION, FALSE, 0);
@@ -161,9 +157,7 @@ TEST_F(ChangedFile, TheEndOfTheSessionAsksAndCancelVetoesIt) {
 TEST_F(ChangedFile, TheEndOfTheSessionSavesWhenAskedToAndClosesOnlyThen) {
     const Huevox huevox;
     OpenAndChange(huevox);
-    auto mayEnd = std::async(std::launch::async, [&] {
-        return ::SendMessageA(huevox.window(), WM_QUERYENDSESSION, 0, 0) != FALSE;
-    });
+    auto mayEnd = AskForSessionEnd(huevox);
     AnswerQuestion(huevox, IDYES);
     EXPECT_TRUE(mayEnd.get());
     EXPECT_TRUE(IsSaved());

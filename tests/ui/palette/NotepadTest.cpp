@@ -1,29 +1,13 @@
 // How is a palette file opened in Notepad?
 #include "tests/driver/Palettes.h"
+#include "tests/driver/ReplacedFile.h"
 #include "tests/ui/palette/NotepadOn.h"
 
 namespace {
 
 class OpeningInNotepad : public PaletteTest {};
 
-/// Notepad's program is another, or none, for as long as the value lives.
-class WithoutNotepad {
-public:
-    WithoutNotepad() { EXPECT_TRUE(::MoveFileA(notepad, aside)); }
-    explicit WithoutNotepad(const char* standIn) : WithoutNotepad() {
-        EXPECT_TRUE(::CopyFileA(standIn, notepad, FALSE));
-    }
-    WithoutNotepad(const WithoutNotepad&) = delete;
-    WithoutNotepad& operator=(const WithoutNotepad&) = delete;
-    ~WithoutNotepad() {
-        EXPECT_TRUE(Eventually([] { return ::DeleteFileA(notepad) != FALSE || !Exists(notepad); }));
-        ::MoveFileA(aside, notepad);
-    }
-
-private:
-    static constexpr const char* notepad = "C:\\windows\\notepad.exe";
-    static constexpr const char* aside = "C:\\windows\\notepad aside.exe";
-};
+constexpr const char* notepadProgram = "C:\\windows\\notepad.exe";
 
 }  // namespace
 
@@ -40,7 +24,7 @@ TEST_F(OpeningInNotepad, StartsNotepadWithAPathThatHoldsBlanks) {
 }
 
 TEST_F(OpeningInNotepad, ThePathIsNotQuoted) {
-    const WithoutNotepad other(HUEVOX_STAND_IN);
+    const ReplacedFile other(notepadProgram, HUEVOX_STAND_IN);
     const Huevox huevox;
     Press('I', {VK_CONTROL});
     ChoosePath(huevox, notepadTitle, OtherPathOf("my palette.txt"));
@@ -49,11 +33,10 @@ TEST_F(OpeningInNotepad, ThePathIsNotQuoted) {
 }
 
 TEST_F(OpeningInNotepad, ThatDoesNotStartIsTold) {
-    const WithoutNotepad none;
+    const ReplacedFile none(notepadProgram);
     const Huevox huevox;
     Press('I', {VK_CONTROL});
     TypePath(huevox, notepadTitle, PathOf("any.txt"));
-    ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
     CloseMessage(huevox, "Could not open file in Notepad.");
     ExpectNewPalette(huevox);
 }

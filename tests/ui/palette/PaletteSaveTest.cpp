@@ -13,9 +13,7 @@ constexpr const char* goldenFormat = "rgb %UR%/%LG%/%DB% (%LD%) %ur%";
 TEST_F(SavingPalettes, APaletteThatWasNeverSavedAsksForAFile) {
     const Huevox huevox;
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
-    ChoosePath(huevox, saveTitle, PathOf("Reds.txt"));
-    EXPECT_BECOMES(huevox.title(), "Huevox - Reds.txt");
+    SaveNewPalette(huevox, PathOf("Reds.txt"));
     EXPECT_TRUE(ContentOf(PathOf("Reds.txt")).starts_with("THIS FILE WAS MADE IN HUEVOX. DO NOT EDIT.\r\n"));
     EXPECT_EQ(CountFiles(paletteFolder, "*.tmp"), 0);
 }
@@ -24,11 +22,8 @@ TEST_F(SavingPalettes, ASavedPaletteIsUnchanged) {
     const Huevox huevox;
     huevox.retype(Name(2), "leaf");
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
-    ChoosePath(huevox, saveTitle, PathOf("Reds.txt"));
-    ASSERT_BECOMES(huevox.title(), "Huevox - Reds.txt");
-    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(huevox.waitForEnd(), 0);
+    SaveNewPalette(huevox, PathOf("Reds.txt"));
+    Close(huevox);
 }
 
 TEST_F(SavingPalettes, TheFileIsTheSameByteForByte) {
@@ -36,8 +31,7 @@ TEST_F(SavingPalettes, TheFileIsTheSameByteForByte) {
     const Huevox huevox;
     WriteContent(PathOf("golden.txt"), TestFile("saved.txt"));
     OpenPalette(huevox, PathOf("golden.txt"));
-    Press('F', {VK_MENU});
-    Press('A');
+    ChooseSaveAs();
     ChoosePath(huevox, saveTitle, OtherPathOf("copy.txt"));
     ASSERT_BECOMES(huevox.title(), "Huevox - copy.txt");
     EXPECT_EQ(ContentOf(OtherPathOf("copy.txt")), TestFile("saved.txt"));
@@ -57,9 +51,7 @@ TEST_F(SavingPalettes, SaveReplacesTheFileWithoutADialog) {
 
 TEST_F(SavingPalettes, SaveGoesToTheFolderOfTheLastDialog) {
     const Huevox huevox;
-    Press('S', {VK_CONTROL});
-    ChoosePath(huevox, saveTitle, PathOf("Reds.txt"));
-    ASSERT_BECOMES(huevox.title(), "Huevox - Reds.txt");
+    SaveNewPalette(huevox, PathOf("Reds.txt"));
     WriteContent(OtherPathOf("read me.txt"), "hello");
     Press('I', {VK_CONTROL});
     ChoosePath(huevox, notepadTitle, OtherPathOf("read me.txt"));
@@ -68,20 +60,18 @@ TEST_F(SavingPalettes, SaveGoesToTheFolderOfTheLastDialog) {
         EXPECT_NE(notepad.title, "");
     }
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
+    PressSave();
     EXPECT_TRUE(Eventually([] { return Exists(OtherPathOf("Reds.txt")); }));
     EXPECT_EQ(huevox.title(), "Huevox - Reds.txt");
 }
 
 TEST_F(SavingPalettes, ACancelledDialogLeavesTheFolderOfSave) {
     const Huevox huevox;
-    Press('S', {VK_CONTROL});
-    ChoosePath(huevox, saveTitle, OtherPathOf("Reds.txt"));
-    ASSERT_BECOMES(huevox.title(), "Huevox - Reds.txt");
-    Press('O', {VK_CONTROL});
+    SaveNewPalette(huevox, OtherPathOf("Reds.txt"));
+    PressOpen();
     CancelFileDialog(huevox, openTitle);
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
+    PressSave();
     EXPECT_TRUE(
         Eventually([] { return ContentOf(OtherPathOf("Reds.txt")).find("255,1,0") != std::string::npos; }));
     EXPECT_FALSE(Exists(PathOf("Reds.txt")));
@@ -98,7 +88,7 @@ TEST_F(SavingPalettes, ACancelledDialogHoldsNoFolder) {
 
 TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderAndAddsTheExtension) {
     const Huevox huevox;
-    Press('S', {VK_CONTROL});
+    PressSave();
     ChoosePath(huevox, saveTitle, "Blues");
     EXPECT_BECOMES(huevox.title(), "Huevox - Blues.txt");
     EXPECT_TRUE(Exists(PathOf("Blues.txt")));
@@ -108,8 +98,7 @@ TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderWhereverTheLastOneWas) {
     WriteContent(OtherPathOf("p.txt"), PaletteOf("mine", "1,2,3"));
     const Huevox huevox;
     OpenPalette(huevox, OtherPathOf("p.txt"));
-    Press('F', {VK_MENU});
-    Press('A');
+    ChooseSaveAs();
     ChoosePath(huevox, saveTitle, "Blues");
     EXPECT_BECOMES(huevox.title(), "Huevox - Blues.txt");
     EXPECT_TRUE(Exists(PathOf("Blues.txt")));
@@ -117,7 +106,7 @@ TEST_F(SavingPalettes, TheDialogOpensInTheStandardFolderWhereverTheLastOneWas) {
 
 TEST_F(SavingPalettes, ANameWithAnotherExtensionIsKept) {
     const Huevox huevox;
-    Press('S', {VK_CONTROL});
+    PressSave();
     ChoosePath(huevox, saveTitle, "Blues.pal");
     EXPECT_BECOMES(huevox.title(), "Huevox - Blues.pal");
     EXPECT_TRUE(Exists(PathOf("Blues.pal")));
@@ -126,17 +115,15 @@ TEST_F(SavingPalettes, ANameWithAnotherExtensionIsKept) {
 TEST_F(SavingPalettes, AnExistingFileIsReplacedOnlyWhenTheUserSaysSo) {
     WriteContent(PathOf("Reds.txt"), "precious");
     const Huevox huevox;
-    Press('S', {VK_CONTROL});
+    PressSave();
     TypePath(huevox, saveTitle, PathOf("Reds.txt"));
-    ASSERT_BECOMES(huevox.dialogCount(), 2);
-    Answer(huevox.dialog(), IDNO);
+    AnswerReplacing(huevox, IDNO);
     CancelFileDialog(huevox, saveTitle);
     EXPECT_EQ(ContentOf(PathOf("Reds.txt")), "precious");
     EXPECT_EQ(huevox.title(), "Huevox - New palette");
-    Press('S', {VK_CONTROL});
+    PressSave();
     TypePath(huevox, saveTitle, PathOf("Reds.txt"));
-    ASSERT_BECOMES(huevox.dialogCount(), 2);
-    Answer(huevox.dialog(), IDYES);
+    AnswerReplacing(huevox, IDYES);
     EXPECT_BECOMES(huevox.title(), "Huevox - Reds.txt");
     EXPECT_NE(ContentOf(PathOf("Reds.txt")), "precious");
 }
@@ -145,16 +132,16 @@ TEST_F(SavingPalettes, NameBoxesAreWhiteAgain) {
     const Huevox huevox;
     huevox.retype(Name(0), "navy");
     ChangeColor(huevox);
-    ASSERT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
-    Press('S', {VK_CONTROL});
+    ASSERT_BECOMES(huevox.backColor(Name(0)), highlight);
+    PressSave();
     ChoosePath(huevox, saveTitle, PathOf("Navy.txt"));
-    EXPECT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 255, 255));
+    EXPECT_BECOMES(huevox.backColor(Name(0)), white);
 }
 
 TEST_F(SavingPalettes, AnUnusableStandardFolderStillOpensTheDialog) {
     const Huevox huevox;
     ::MoveFileA(paletteFolder, "C:\\Huevox Palettes 2");
-    Press('S', {VK_CONTROL});
+    PressSave();
     const HWND dialog = WaitForFileDialog(huevox, saveTitle);
     ::MoveFileA("C:\\Huevox Palettes 2", paletteFolder);
     TypePath(huevox, saveTitle, PathOf("Reds.txt"));

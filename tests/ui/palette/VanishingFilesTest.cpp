@@ -21,16 +21,11 @@ protected:
 }  // namespace
 
 TEST_F(VanishingFiles, AFileThatAnotherProgramHasLockedEndsTheProgramWithTheOneMessage) {
-    const HANDLE locked = ::CreateFileA(OtherPathOf("mine.txt").c_str(), GENERIC_READ | GENERIC_WRITE, 0,
-                                        nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(locked, INVALID_HANDLE_VALUE);
+    const LockedFile locked(OtherPathOf("mine.txt"));
     const Huevox huevox;
     PressOpen();
     TypePath(huevox, openTitle, OtherPathOf("mine.txt"));
-    ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
-    CloseMessage(huevox, "Huevox encountered an unexpected error and must close.");
-    EXPECT_EQ(huevox.waitForEnd(), 1);
-    ::CloseHandle(locked);
+    ExpectEndByError(huevox);
 }
 
 TEST_F(VanishingFiles, AFileThatIsGoneSinceItWasOpenedIsMadeAgainBySaving) {
@@ -38,7 +33,7 @@ TEST_F(VanishingFiles, AFileThatIsGoneSinceItWasOpenedIsMadeAgainBySaving) {
     OpenPalette(huevox, OtherPathOf("mine.txt"));
     ASSERT_TRUE(::DeleteFileA(OtherPathOf("mine.txt").c_str()));
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
+    PressSave();
     EXPECT_TRUE(Eventually([] { return HoldsSaved(OtherPathOf("mine.txt"), "\r\n1,3,3\r\n"); }));
     EXPECT_EQ(huevox.dialogCount(), 0);
 }
@@ -46,15 +41,14 @@ TEST_F(VanishingFiles, AFileThatIsGoneSinceItWasOpenedIsMadeAgainBySaving) {
 TEST_F(VanishingFiles, ACurrentFolderThatIsGoneStopsNoCommand) {
     const Huevox huevox;
     OpenPalette(huevox, OtherPathOf("mine.txt"));
-    RunBelow("rm", "-rf \"" + SystemPathOf(L"C:\\Huevox Palettes\\other") + '"');
-    ASSERT_TRUE(Eventually([] { return !Exists(otherFolder); }));
+    RemoveFolderBelow(otherFolder);
     PressOpen();
     CancelFileDialog(huevox, openTitle);
     PressNew();
     ExpectNewPalette(huevox);
     OpenPalette(huevox, PathOf("theirs.txt"));
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
+    PressSave();
     EXPECT_TRUE(Eventually([] { return HoldsSaved(PathOf("theirs.txt"), "\r\n9,10,9\r\n"); }));
     EXPECT_EQ(huevox.dialogCount(), 0);
     PressClose(huevox);
@@ -64,14 +58,13 @@ TEST_F(VanishingFiles, ACurrentFolderThatIsGoneStopsNoCommand) {
 TEST_F(VanishingFiles, AStandardFolderThatIsGoneWhileTheProgramRunsStopsNoDialog) {
     const Huevox huevox;
     OpenPalette(huevox, OtherPathOf("mine.txt"));
-    RunBelow("rm", "-rf \"" + SystemPathOf(L"C:\\Huevox Palettes") + '"');
-    ASSERT_TRUE(Eventually([] { return !Exists(paletteFolder); }));
+    RemoveFolderBelow(paletteFolder);
     for (int time = 0; time < 2; ++time) {
         PressOpen();
         CancelFileDialog(huevox, openTitle);
     }
     ChangeColor(huevox);
-    Press('S', {VK_CONTROL});
+    PressSave();
     CloseMessage(huevox, couldNotSave);
     ExpectStill(huevox, ColorOf(1, 3, 3));
 }

@@ -45,13 +45,6 @@ BOOL CALLBACK CountWithOwned(HWND window, LPARAM parameter) {
     return TRUE;
 }
 
-/// Applies a value that is refused, and waits for the message.
-HWND BringMessage(const Huevox& huevox) {
-    huevox.retype(IDC_txtSetBlue, "999");
-    Press(VK_RETURN);
-    return huevox.waitForDialog();
-}
-
 }  // namespace
 
 TEST_F(PickerWindows, TheButtonsSayWhatTheyOpen) {
@@ -189,7 +182,7 @@ TEST_F(PickerWindows, TakeNoInputWhileAMessageWaits) {
     const PickerWindow websafe(huevox, websafeGrid);
     const PickerWindow failsafe(huevox, failsafeGrid);
     for (int time = 0; time < 2; ++time) {
-        const HWND message = BringMessage(huevox);
+        const HWND message = BringRefusal(huevox);
         ASSERT_TRUE(message);
         EXPECT_FALSE(websafe.isEnabled());
         EXPECT_FALSE(failsafe.isEnabled());
@@ -207,8 +200,7 @@ TEST_F(PickerWindows, TakeNoInputWhileAMessageWaits) {
 TEST_F(PickerWindows, GoWithTheMainWindow) {
     const Huevox huevox;
     for (const auto& grid : grids) PickerWindow(huevox, grid).open();
-    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(huevox.waitForEnd(), 0);
+    Close(huevox);
 }
 
 TEST_F(PickerWindows, StayWhenTheMainWindowDoes) {

@@ -38,7 +38,7 @@ TEST_F(CustomFormat, ThreeButtonsInTurnFillAnEmptyBox) {
     dialog.insert(IDC_cmdUG, "%UR%%UG%");
     dialog.insert(IDC_cmdUB, "%UR%%UG%%UB%");
     EXPECT_BECOMES(dialog.selection(), (std::pair{12, 12}));
-    EXPECT_BECOMES(dialog.focus(), IDC_txtFormat);
+    EXPECT_BECOMES(dialog.focused(), IDC_txtFormat);
 }
 
 TEST_F(CustomFormat, AButtonReplacesWhatIsSelected) {
@@ -95,10 +95,10 @@ TEST_F(CustomFormat, AButtonIsPressedByTheSpaceBarAndGivesTheFocusBack) {
     const Huevox huevox;
     const FormatDialog dialog(huevox);
     Press(VK_TAB);
-    ASSERT_BECOMES(dialog.focus(), IDC_cmdUR);
+    ASSERT_BECOMES(dialog.focused(), IDC_cmdUR);
     Press(VK_SPACE);
     EXPECT_BECOMES(dialog.text(), "%UR%");
-    EXPECT_BECOMES(dialog.focus(), IDC_txtFormat);
+    EXPECT_BECOMES(dialog.focused(), IDC_txtFormat);
     EXPECT_EQ(dialog.selection(), (std::pair{4, 4}));
     Press(VK_RETURN);
     dialog.waitForEnd();
@@ -121,13 +121,8 @@ TEST_F(CustomFormat, KeepsSelectionAndTextWhileAnotherProgramIsInFront) {
     const Huevox huevox;
     const FormatDialog dialog(huevox);
     dialog.select(2, 3);
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(dialog.window());
-    ASSERT_BECOMES(::GetForegroundWindow(), dialog.window());
-    ASSERT_BECOMES(dialog.focus(), IDC_txtFormat);
+    VisitAnotherProgram(dialog.window());
+    ASSERT_BECOMES(dialog.focused(), IDC_txtFormat);
     dialog.insert(IDC_cmdLG, "be%LG%e");
 }
 

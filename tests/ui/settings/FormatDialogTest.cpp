@@ -13,7 +13,7 @@ class FormatDialogWindow : public UiTest {};
 
 void ExpectFocusAfter(const FormatDialog& dialog, WORD accessKey, int control) {
     Press(accessKey, {VK_MENU});
-    EXPECT_BECOMES(dialog.focus(), control);
+    EXPECT_BECOMES(dialog.focused(), control);
 }
 
 }  // namespace
@@ -26,7 +26,7 @@ TEST_F(FormatDialogKeys, TabGoesThroughTheGridRowByRowAndThenToTheButtons) {
                                     IDC_cmdOK, IDC_cmdCancel, IDC_cmdHelp, IDC_txtFormat, IDC_cmdUR};
     for (const int control : order) {
         Press(VK_TAB);
-        ASSERT_BECOMES(dialog.focus(), control);
+        ASSERT_BECOMES(dialog.focused(), control);
     }
 }
 
@@ -65,7 +65,7 @@ TEST_F(FormatDialogKeys, ArrowKeysLeaveTheFocusOnAButton) {
     Press(VK_RIGHT);
     Press(VK_DOWN);
     Press(VK_TAB);
-    EXPECT_BECOMES(dialog.focus(), IDC_cmdUG);
+    EXPECT_BECOMES(dialog.focused(), IDC_cmdUG);
 }
 
 TEST_F(FormatDialogKeys, OkIsTheDefaultButtonAgainAfterAPlaceholder) {
@@ -129,9 +129,7 @@ TEST_F(FormatDialogWindow, UnusableSettingsAreToldOfOnceAndTheNotationStays) {
     StoreText("CustomFormat", "kept?");
     StoreText("FormatIndex", "99");
     Press(VK_F8);
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
+    const HWND message = WaitForMessage(huevox, unusableSettings);
     EXPECT_EQ(::GetWindow(message, GW_OWNER), huevox.window());
     EXPECT_FALSE(huevox.form("frmCustomFormat"));
     Answer(message, IDOK);
@@ -178,7 +176,7 @@ TEST_F(FormatDialogWindow, StaysOpenWhileHelpIsAskedFor) {
     const FormatDialog dialog(huevox);
     dialog.select(2, 3);
     Press('H', {VK_MENU});
-    ASSERT_TRUE(Eventually([&] { return dialog.focus() != IDC_txtFormat; }));
+    ASSERT_TRUE(Eventually([&] { return dialog.focused() != IDC_txtFormat; }));
     // Posted, and so handled when the help has been shown or not found.
     ::PostMessageA(dialog.control(IDC_txtFormat), EM_SETSEL, 1, 5);
     ASSERT_BECOMES(dialog.selection(), (std::pair{1, 5}));

@@ -39,27 +39,12 @@ std::wstring RowName(const OptionsDialog& options, int row) {
     return name.data();
 }
 
-/// The pixels of the upper left of a control as they are on the screen, row by row.
-std::vector<COLORREF> Pixels(HWND control, int width, int height) {
-    const POINT corner = OnScreen(control, {0, 0});
-    const HDC screen = ::GetDC(nullptr);
-    const HDC copy = ::CreateCompatibleDC(screen);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, width, height);
-    ::SelectObject(copy, bitmap);
-    ::BitBlt(copy, 0, 0, width, height, screen, corner.x, corner.y, SRCCOPY);
-    std::vector<COLORREF> pixels(static_cast<std::size_t>(width) * height);
-    for (int at = 0; at < width * height; ++at) pixels[at] = ::GetPixel(copy, at % width, at / width);
-    ::DeleteDC(copy);
-    ::DeleteObject(bitmap);
-    ::ReleaseDC(nullptr, screen);
-    return pixels;
-}
-
 /// How far the text in a control reaches, in pixels; 0 when there is none.
 int InkWidth(HWND control) {
     constexpr int width = 200;
     constexpr int height = 16;
-    const std::vector<COLORREF> pixels = Pixels(control, width, height);
+    const POINT corner = OnScreen(control, {0, 0});
+    const std::vector<Color> pixels = PixelsOf({corner.x, corner.y, corner.x + width, corner.y + height});
     int reach = 0;
     for (int at = 0; at < width * height; ++at) {
         if (pixels[at] != pixels.back()) reach = std::max(reach, at % width + 1);

@@ -46,7 +46,7 @@ TEST_F(OptionsFolder, TheNextFileDialogUsesIt) {
     options.leavePicker(options.openPicker(), VK_RETURN);
     const std::string saved = options.folder() + '\\' + newFile;
     options.close(IDC_cmdOK);
-    Press('S', {VK_CONTROL});
+    PressSave();
     ChoosePath(huevox, saveTitle, newFile);
     EXPECT_BECOMES(Exists(saved), true);
     EXPECT_FALSE(Exists(PathOf(newFile)));
@@ -60,7 +60,7 @@ TEST_F(OptionsFolder, CancelDiscardsThePickersChoice) {
     EXPECT_TRUE(IsDesktop(options.folder()));
     options.close(IDC_cmdCancel);
     EXPECT_EQ(StoredText("StandardFolder"), paletteFolder);
-    Press('S', {VK_CONTROL});
+    PressSave();
     ChoosePath(huevox, saveTitle, newFile);
     EXPECT_BECOMES(Exists(PathOf(newFile)), true);
     options.open();
@@ -110,7 +110,7 @@ TEST_F(OptionsFolder, TheListKeepsItsChoiceAfterThePicker) {
 TEST_F(OptionsFolder, AFolderThatIsGoneIsShownAsTheTruthOfTheDesktop) {
     const Huevox huevox;
     std::filesystem::remove_all(paletteFolder);
-    Press('O', {VK_CONTROL});
+    PressOpen();
     CancelFileDialog(huevox, openTitle);
     const OptionsDialog options(huevox);
     EXPECT_EQ(options.folder(), "True");

@@ -188,8 +188,7 @@ TEST_F(Options, ThePromptOnExitIsUsedAtOnce) {
     options.open();
     EXPECT_TRUE(options.isOn(IDC_optNo));
     options.close(IDC_cmdOK);
-    ::PostMessageA(huevox.window(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(huevox.waitForEnd(), 0);
+    Close(huevox);
 }
 
 TEST_F(Options, TheSortOrderIsUsedWhenThePaletteWindowIsLoadedNext) {

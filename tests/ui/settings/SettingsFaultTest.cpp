@@ -4,10 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/driver/UiTest.h"
-
-// Needs the platform's main header before it.
-#include <sddl.h>
+#include "tests/driver/Palettes.h"
+#include "tests/driver/Rights.h"
 
 namespace {
 
@@ -57,14 +55,6 @@ void Store(const std::string& valueName, const Content& content) {
     ::RegCloseKey(key);
 }
 
-void ExpectEveryDefaultStored() {
-    EXPECT_EQ(StoredText("CustomFormat"), "");
-    EXPECT_EQ(StoredText("FormatIndex"), "0");
-    EXPECT_EQ(StoredText("SortIndex"), "0");
-    EXPECT_EQ(StoredText("PromptToSave"), "1");
-    EXPECT_TRUE(StoredText("StandardFolder").ends_with("\\Desktop"));
-}
-
 /// A colour changes, and the notation that there is follows.
 void Use(const Huevox& huevox, int notation) {
     EXPECT_EQ(huevox.listIndex(), notation);
@@ -74,10 +64,8 @@ void Use(const Huevox& huevox, int notation) {
 }
 
 void EndWithoutSaving(const Huevox& huevox) {
-    ::PostMessageA(huevox.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    const HWND asked = huevox.waitForDialog();
-    ASSERT_TRUE(asked);
-    Answer(asked, IDNO);
+    PressClose(huevox);
+    AnswerQuestion(huevox, IDNO);
     EXPECT_EQ(huevox.waitForEnd(), 0);
 }
 
@@ -88,10 +76,8 @@ void TryToLiveWith(const std::string& valueName, const Content& content) {
     const bool isUsable = IsUsable(valueName, content.readsAs);
     Huevox huevox(Huevox::DoNotWait{});
     if (!isUsable) {
-        const HWND message = huevox.waitForDialog();
-        ASSERT_TRUE(message);
-        EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
-        ExpectEveryDefaultStored();
+        const HWND message = WaitForMessage(huevox, unusableSettings);
+        ExpectDefaultsStored();
         Answer(message, IDOK);
     }
     ASSERT_TRUE(huevox.waitForWindow());
@@ -105,22 +91,20 @@ class DeniedKey {
 public:
     DeniedKey() {
         ::RegCreateKeyA(HKEY_CURRENT_USER, settingsKey, &key);
-        setRights("D:(D;;GA;;;WD)");
+        setRights(nothing);
     }
     DeniedKey(const DeniedKey&) = delete;
     DeniedKey& operator=(const DeniedKey&) = delete;
     ~DeniedKey() {
-        setRights("D:(A;;GA;;;WD)");
+        setRights(everything);
         ::RegCloseKey(key);
     }
 
 private:
     void setRights(const char* rights) const {
-        PSECURITY_DESCRIPTOR descriptor = nullptr;
-        ASSERT_TRUE(::ConvertStringSecurityDescriptorToSecurityDescriptorA(rights, SDDL_REVISION_1,
-                                                                           &descriptor, nullptr));
-        EXPECT_EQ(::RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, descriptor), ERROR_SUCCESS);
-        ::LocalFree(descriptor);
+        SetRights(rights, [&](PSECURITY_DESCRIPTOR descriptor) {
+            EXPECT_EQ(::RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, descriptor), ERROR_SUCCESS);
+        });
     }
 
     HKEY key = nullptr;

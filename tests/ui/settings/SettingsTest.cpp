@@ -43,20 +43,9 @@ private:
     DWORD beforeSize = 0;
 };
 
-void ExpectDefaultsStored() {
-    EXPECT_EQ(StoredText("CustomFormat"), "");
-    EXPECT_EQ(StoredText("FormatIndex"), "0");
-    EXPECT_EQ(StoredText("SortIndex"), "0");
-    EXPECT_EQ(StoredText("PromptToSave"), "1");
-    EXPECT_TRUE(StoredText("StandardFolder").ends_with("\\Desktop")) << StoredText("StandardFolder");
-}
-
 void ExpectRepair() {
     Huevox huevox(Huevox::DoNotWait{});
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(TextOf(message), "Huevox");
-    EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
+    const HWND message = WaitForMessage(huevox, unusableSettings);
     const HWND window = ::FindWindowA("frmMain", nullptr);
     EXPECT_FALSE(window && ::IsWindowVisible(window));
     ExpectDefaultsStored();

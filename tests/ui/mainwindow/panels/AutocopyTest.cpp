@@ -2,22 +2,12 @@
 #include <string>
 #include <vector>
 
+#include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
 
 class Autocopy : public UiTest {};
-
-/// Holds the clipboard open, as a program that hangs does.
-class ClipboardHeld {
-public:
-    ClipboardHeld() {
-        EXPECT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
-    }
-    ClipboardHeld(const ClipboardHeld&) = delete;
-    ClipboardHeld& operator=(const ClipboardHeld&) = delete;
-    ~ClipboardHeld() { ::CloseClipboard(); }
-};
 
 }  // namespace
 
@@ -76,11 +66,10 @@ TEST_F(Autocopy, UnicodeTextIsMadeOfTheSameCharacters) {
 TEST_F(Autocopy, UnicodeTextIsNotLeftToThePlatform) {
     const Huevox huevox;
     ASSERT_BECOMES(ClipboardText(), "#FF0000");
-    ASSERT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
+    const ClipboardHeld held;
     // What the platform makes of other formats comes after them.
     EXPECT_EQ(::EnumClipboardFormats(0), static_cast<UINT>(CF_TEXT));
     EXPECT_EQ(::EnumClipboardFormats(CF_TEXT), static_cast<UINT>(CF_UNICODETEXT));
-    ::CloseClipboard();
 }
 
 TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
@@ -156,24 +145,16 @@ TEST_F(Autocopy, AClickOnTheChosenNotationCopiesAgain) {
 
 TEST_F(Autocopy, ToolTipsTellWhatIsWhat) {
     const Huevox huevox;
-    const auto tipOf = [&](int id) {
-        MoveMouse({1, 1});
-        EXPECT_BECOMES(huevox.toolTip(), "");
-        const POINT center = CenterOf(huevox.control(id));
-        MoveMouse({center.x - 1, center.y});
-        MoveMouse(center);
-        EXPECT_TRUE(Eventually([&] { return !huevox.toolTip().empty(); }));
-        return huevox.toolTip();
-    };
-    EXPECT_EQ(tipOf(IDC_lstAutocopy), "Select the format you want to copy to the clipboard");
-    EXPECT_EQ(tipOf(IDC_lblClipboard), "This is what you get if you paste right now in another application");
-    EXPECT_EQ(tipOf(IDC_chkJSNamesOnly),
+    const auto expectTip = [&](int id, const char* tip) { ExpectTip(huevox, huevox.control(id), tip); };
+    expectTip(IDC_lstAutocopy, "Select the format you want to copy to the clipboard");
+    expectTip(IDC_lblClipboard, "This is what you get if you paste right now in another application");
+    expectTip(IDC_chkJSNamesOnly,
               "Check this check box if you want to copy the JavaScript name instead of the RGB colour code");
-    EXPECT_EQ(tipOf(Name(5)), "Click and type a colour name");
-    EXPECT_EQ(tipOf(Option(5)), "Click here to select this colour mark");
-    EXPECT_EQ(tipOf(IDC_txtSetRed), "Type the red value");
-    EXPECT_EQ(tipOf(IDC_txtSetGreen), "Type the green value");
-    EXPECT_EQ(tipOf(IDC_txtSetBlue), "Type the blue value");
-    EXPECT_EQ(tipOf(IDC_optSetDec), "Click here for decimal colour values");
-    EXPECT_EQ(tipOf(IDC_optSetHex), "Click here for hexadecimal colour values");
+    expectTip(Name(5), "Click and type a colour name");
+    expectTip(Option(5), "Click here to select this colour mark");
+    expectTip(IDC_txtSetRed, "Type the red value");
+    expectTip(IDC_txtSetGreen, "Type the green value");
+    expectTip(IDC_txtSetBlue, "Type the blue value");
+    expectTip(IDC_optSetDec, "Click here for decimal colour values");
+    expectTip(IDC_optSetHex, "Click here for hexadecimal colour values");
 }

@@ -54,14 +54,15 @@ TEST_F(ClipboardFaults, AClipboardHeldForLongHoldsNothingElseUp) {
     ASSERT_BECOMES(ClipboardText(), "#FF0000");
     CopyElsewhere("theirs");
     huevox.focusSlider(IDC_hsbGreen);
-    ASSERT_TRUE(Eventually([] { return ::OpenClipboard(nullptr) != FALSE; }));
     std::string shown;
-    // Longer than several copies take, with pauses that are long enough for each.
-    for (int change = 0; change < 3; ++change) {
-        shown = Change(huevox);
-        EXPECT_TRUE(Throughout(700, [&] { return huevox.text(IDC_lblClipboard) == shown; }));
+    {
+        const ClipboardHeld held;
+        // Longer than several copies take, with pauses that are long enough for each.
+        for (int change = 0; change < 3; ++change) {
+            shown = Change(huevox);
+            EXPECT_TRUE(Throughout(700, [&] { return huevox.text(IDC_lblClipboard) == shown; }));
+        }
     }
-    ::CloseClipboard();
     EXPECT_EQ(shown, "#FF0300");
     EXPECT_EQ(huevox.dialogCount(), 0);
     EXPECT_EQ(ClipboardText(), "theirs");

@@ -45,7 +45,7 @@ TEST_F(ColorBarClicks, TheStepOfTheCurrentColorChangesNothing) {
     Click(huevox.barStepPlace(0));
     // The input behind the clicks has arrived when this has.
     huevox.selectMark(1);
-    EXPECT_EQ(huevox.backColor(Name(0)), ColorOf(255, 255, 255));
+    EXPECT_EQ(huevox.backColor(Name(0)), white);
     EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
 }
 
@@ -53,7 +53,7 @@ TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
     const Huevox huevox;
     huevox.retype(Name(0), "signal");
     Click(huevox.barStepPlace(20));
-    EXPECT_BECOMES(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
+    EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
 }
 
 TEST_F(ColorBarClicks, AnEdgeTellsTheBarFromTheWindow) {

@@ -29,41 +29,6 @@ std::vector<int> Buttons(HWND box) {
     return buttons;
 }
 
-/// The place of the box's icon on the screen.
-RECT IconArea(HWND box) {
-    RECT area{};
-    HWND child = nullptr;
-    while ((child = ::FindWindowExA(box, child, "Static", nullptr))) {
-        if ((::GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) ::GetWindowRect(child, &area);
-    }
-    return area;
-}
-
-/// Whether the diagonal of the box's icon is that of the information icon on the box's own ground.
-bool ShowsInformation(HWND box) {
-    const RECT area = IconArea(box);
-    const int size = static_cast<int>(area.right - area.left);
-    const Color ground = Pixel({area.left - 2, area.top});
-    const HDC screen = ::GetDC(nullptr);
-    const HDC expected = ::CreateCompatibleDC(screen);
-    const HBITMAP picture = ::CreateCompatibleBitmap(screen, size, size);
-    const HGDIOBJ before = ::SelectObject(expected, picture);
-    const HBRUSH brush = ::CreateSolidBrush(static_cast<COLORREF>(Pack(ground)));
-    ::DrawIconEx(expected, 0, 0, ::LoadIconA(nullptr, MAKEINTRESOURCEA(32516)), size, size, 0, brush,
-                 DI_NORMAL);
-    bool isSame = size > 0;
-    for (int at = 0; at < size; ++at) {
-        const COLORREF wanted = ::GetPixel(expected, at, at);
-        isSame = isSame && wanted == ::GetPixel(screen, area.left + at, area.top + at);
-    }
-    ::SelectObject(expected, before);
-    ::DeleteObject(brush);
-    ::DeleteObject(picture);
-    ::DeleteDC(expected);
-    ::ReleaseDC(nullptr, screen);
-    return isSame;
-}
-
 /// Waits for the report, expects the question in it if there is one, and gives the answer.
 void ExpectReport(const Huevox& huevox, const std::string& text, const std::vector<int>& buttons,
                   int answer) {
@@ -110,7 +75,7 @@ TEST_F(ColorProperties, AreAnInformationWithOrWithoutAnOffer) {
         Press(VK_F4);
         const HWND box = huevox.waitForDialog();
         ASSERT_TRUE(box);
-        EXPECT_TRUE(Eventually([&] { return ShowsInformation(box); }));
+        EXPECT_TRUE(Eventually([&] { return ShowsIcon(box, IDI_INFORMATION); }));
         Answer(box, button);
     }
     EXPECT_EQ(huevox.text(Name(0)), "red");
@@ -169,7 +134,7 @@ TEST_F(ColorProperties, AreAnsweredByKeys) {
     Press(VK_F4);
     const HWND box = huevox.waitForDialog();
     ASSERT_TRUE(box);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDYES);
+    ASSERT_BECOMES(huevox.focused(), IDYES);
     Press(VK_RETURN);
     EXPECT_BECOMES(huevox.text(Name(0)), "red");
     EXPECT_BECOMES(huevox.dialogCount(), 0);

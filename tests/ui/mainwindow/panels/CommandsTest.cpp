@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "tests/driver/FormatDialog.h"
+#include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
@@ -27,14 +28,8 @@ const std::vector<Tip> tips = {
     {IDM_mnuHelpColorProperties, "Colour Properties (F4)"},
 };
 
-/// Moves the mouse away and then onto a button, and expects its tool tip.
 void ExpectTip(const Huevox& huevox, const Tip& tip) {
-    MoveMouse({1, 1});
-    ASSERT_BECOMES(huevox.toolTip(), "");
-    const POINT button = huevox.toolButton(tip.command);
-    MoveMouse({button.x - 1, button.y});
-    MoveMouse(button);
-    EXPECT_BECOMES(huevox.toolTip(), tip.text);
+    ExpectTip(huevox, huevox.toolButton(tip.command), tip.text);
 }
 
 }  // namespace
@@ -65,7 +60,7 @@ TEST_F(Commands, TheBarHasFourteenButtonsWithThreeSeparators) {
 
 TEST_F(Commands, PasteBeforeAnyCopyIsImpossibleInEveryWay) {
     const Huevox huevox;
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbRed);
+    ASSERT_BECOMES(huevox.focused(), IDC_hsbRed);
     Press(VK_F3);
     Click(huevox.toolButton(IDM_mnuEditPasteColor));
     ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuEditPasteColor, 0);

@@ -5,6 +5,20 @@ namespace {
 
 class CustomNotation : public UiTest {};
 
+/// Opens the editor while another program is in front.
+void OpenFromBehind(const Huevox& huevox) {
+    ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuToolsCustomFormat, 0);
+    ASSERT_TRUE(Eventually([&] { return huevox.form("frmCustomFormat") != nullptr; }));
+}
+
+/// Brings the editor to the front and leaves it by Escape, after another program has copied something.
+void CancelInFront(HWND dialog) {
+    ::SetForegroundWindow(dialog);
+    ASSERT_BECOMES(::GetForegroundWindow(), dialog);
+    CopyElsewhere("theirs");
+    Press(VK_ESCAPE);
+}
+
 }  // namespace
 
 TEST_F(CustomNotation, TheMainWindowShowsTheNewTemplateAtOnce) {
@@ -46,14 +60,9 @@ TEST_F(CustomNotation, ANotationStaysWhenTheCommandComesWhileAnotherProgramIsInF
     {
         const Huevox other;
         ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-        ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuToolsCustomFormat, 0);
-        ASSERT_TRUE(Eventually([&] { return huevox.form("frmCustomFormat") != nullptr; }));
+        OpenFromBehind(huevox);
     }
-    const HWND dialog = huevox.form("frmCustomFormat");
-    ::SetForegroundWindow(dialog);
-    ASSERT_BECOMES(::GetForegroundWindow(), dialog);
-    CopyElsewhere("theirs");
-    Press(VK_ESCAPE);
+    CancelInFront(huevox.form("frmCustomFormat"));
     EXPECT_BECOMES(ClipboardText(), "Color(255,0,0)");
     EXPECT_EQ(huevox.listIndex(), 10);
 }
@@ -68,14 +77,9 @@ TEST_F(CustomNotation, ANotationStaysThatAnotherProgramHasChosenFromBehind) {
         ::PostMessageA(huevox.window(), WM_COMMAND, MAKEWPARAM(IDC_lstAutocopy, LBN_SELCHANGE),
                        reinterpret_cast<LPARAM>(huevox.control(IDC_lstAutocopy)));
         ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
-        ::PostMessageA(huevox.window(), WM_COMMAND, IDM_mnuToolsCustomFormat, 0);
-        ASSERT_TRUE(Eventually([&] { return huevox.form("frmCustomFormat") != nullptr; }));
+        OpenFromBehind(huevox);
     }
-    const HWND dialog = huevox.form("frmCustomFormat");
-    ::SetForegroundWindow(dialog);
-    ASSERT_BECOMES(::GetForegroundWindow(), dialog);
-    CopyElsewhere("theirs");
-    Press(VK_ESCAPE);
+    CancelInFront(huevox.form("frmCustomFormat"));
     EXPECT_BECOMES(ClipboardText(), "Color(255,0,0)");
     EXPECT_EQ(huevox.listIndex(), 10);
 }
@@ -103,10 +107,7 @@ TEST_F(CustomNotation, InJavaScriptNamesModeARepairBringsTheFirstNotationBack) {
     CheckNames(huevox, true);
     StoreText("PromptToSave", "True");
     Press(VK_F8);
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(MessageOf(message), "Unusable settings found in Registry. Default settings restored.");
-    Answer(message, IDOK);
+    Answer(WaitForMessage(huevox, unusableSettings), IDOK);
     const FormatDialog dialog(huevox, FormatDialog::IsOpening{});
     dialog.click(IDC_cmdCancel);
     CheckNames(huevox, false);

@@ -175,9 +175,7 @@ TEST_F(FindJavaScriptNames, PlaceholdersAreSavedAsMarksWithoutNames) {
     ChangeColor(huevox);
     FindNames(huevox);
     ASSERT_BECOMES(huevox.text(Name(0)), notJavaScript);
-    Press('S', {VK_CONTROL});
-    ChoosePath(huevox, saveTitle, PathOf("found.txt"));
-    ASSERT_BECOMES(huevox.title(), "Huevox - found.txt");
+    SaveNewPalette(huevox, PathOf("found.txt"));
     EXPECT_NE(ContentOf(PathOf("found.txt")).find("\r\nType a colour name\r\n255,1,0\r\nyellow\r\n"),
               std::string::npos);
     EXPECT_EQ(huevox.text(Name(0)), notJavaScript);

@@ -51,7 +51,7 @@ TEST_F(SelectingMarks, TurnsTheOtherOptionsOffAndEnablesItsSampleAlone) {
 TEST_F(SelectingMarks, ByArrowKeysGoesRoundTheGroup) {
     const Huevox huevox;
     huevox.selectMark(4);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), Option(4));
+    ASSERT_BECOMES(huevox.focused(), Option(4));
     Press(VK_RIGHT);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 0, 255));
     Press(VK_RIGHT);
@@ -108,7 +108,7 @@ TEST_F(NameBoxes, APressThatIsLetGoOfElsewhereSelectsNothing) {
     MoveMouse(pressed);
     PressButton(pressed);
     ReleaseButton({pressed.x, CenterOf(huevox.control(IDC_picSample + 2)).y});
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(2));
+    ASSERT_BECOMES(huevox.focused(), Name(2));
     Type("x");
     EXPECT_BECOMES(huevox.text(Name(2)).size(), std::string("Type a colour name").size() + 1);
 }
@@ -125,7 +125,7 @@ TEST_F(NameBoxes, TheTabKeySelectsTheWholeName) {
     const Huevox huevox;
     huevox.focusByClick(Name(0));
     Press(VK_TAB);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), Name(1));
+    ASSERT_BECOMES(huevox.focused(), Name(1));
     EXPECT_BECOMES(huevox.selection(Name(1)), wholePlaceholder);
 }
 

@@ -15,7 +15,7 @@ TEST_F(PickFocus, IsWhereItWas) {
     Hold(huevox, Sample(huevox, 0));
     DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
     ReleaseButton(Sample(huevox, 4));
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    EXPECT_BECOMES(huevox.focused(), IDC_hsbGreen);
     Press(VK_RIGHT);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
 }
@@ -25,7 +25,7 @@ TEST_F(PickFocus, IsWithTheNextControlMeanwhile) {
     TurnPickModeOn(huevox);
     huevox.focusSlider(IDC_hsbGreen);
     Hold(huevox, Sample(huevox, 0));
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
+    EXPECT_BECOMES(huevox.focused(), IDC_txtSetRed);
     ReleaseButton(Sample(huevox, 0));
 }
 
@@ -36,7 +36,7 @@ TEST_F(PickFocus, OfAnEarlierPickDoesNotComeBack) {
     Hold(huevox, Sample(huevox, 0));
     DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
     ReleaseButton(Sample(huevox, 4));
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_hsbGreen);
+    ASSERT_BECOMES(huevox.focused(), IDC_hsbGreen);
     huevox.focusByClick(Name(2));
     Hold(huevox, Sample(huevox, 0));
     DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));

@@ -11,12 +11,8 @@ inline constexpr const char* hexRefusal = "The value is not allowed. Only values
 
 /// Closes the message and expects the box that failed to be ready for another value.
 inline void ExpectRefusal(const Huevox& huevox, const char* text, int failingBox) {
-    const HWND message = huevox.waitForDialog();
-    ASSERT_TRUE(message);
-    EXPECT_EQ(TextOf(message), "Huevox");
-    EXPECT_EQ(MessageOf(message), text);
-    Answer(message, IDOK);
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), failingBox);
+    CloseMessage(huevox, text);
+    EXPECT_BECOMES(huevox.focused(), failingBox);
     const int length = static_cast<int>(huevox.text(failingBox).size());
     EXPECT_BECOMES(huevox.selection(failingBox), (std::pair<int, int>{0, length}));
     EXPECT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), false);

@@ -1,6 +1,7 @@
 // How is a colour taken from anywhere on the screen?
 #include "tests/driver/ColoredWindow.h"
 #include "tests/driver/Picking.h"
+#include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
@@ -41,8 +42,7 @@ TEST_F(ScreenPicking, TakesTheColorOfAnotherProgramsPixels) {
 TEST_F(ScreenPicking, TakesThePixelUnderThePointerToTheVeryEdge) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
-    RECT yellow{};
-    ::GetWindowRect(huevox.control(IDC_picSample + 1), &yellow);
+    const RECT yellow = AreaOf(huevox.control(IDC_picSample + 1));
     Hold(huevox, Sample(huevox, 0));
     const Color outside = Pixel({yellow.right, yellow.top + 5});
     ASSERT_NE(outside, ColorOf(255, 255, 0));
@@ -204,18 +204,12 @@ TEST_F(ScreenPicking, LocksOpeningWhileTheModeIsOn) {
     huevox.focusByClick(Name(0));
     EXPECT_EQ(huevox.dialogCount(), 0);
     for (const int command : {IDM_mnuFileOpen, IDM_mnuFileOpenInNotepad}) {
-        MoveMouse({1, 1});
-        ASSERT_BECOMES(huevox.toolTip(), "");
-        MoveMouse(huevox.toolButton(command));
-        EXPECT_BECOMES(huevox.toolTip(), "Uncheck the check box Colour Pick Mode to enable");
+        ExpectTip(huevox, huevox.toolButton(command), "Uncheck the check box Colour Pick Mode to enable");
     }
     Click(huevox.control(IDC_chkColorPick));
     ASSERT_BECOMES(huevox.isEnabled(IDC_picSampleContainer), false);
     EXPECT_BECOMES(huevox.isToolButtonEnabled(IDM_mnuFileOpenInNotepad), true);
-    MoveMouse({1, 1});
-    ASSERT_BECOMES(huevox.toolTip(), "");
-    MoveMouse(huevox.toolButton(IDM_mnuFileOpen));
-    EXPECT_BECOMES(huevox.toolTip(), "Open Palette In Huevox (Ctrl+O)");
+    ExpectTip(huevox, huevox.toolButton(IDM_mnuFileOpen), "Open Palette In Huevox (Ctrl+O)");
     Press('O', {VK_CONTROL});
     EXPECT_TRUE(huevox.waitForDialog());
 }

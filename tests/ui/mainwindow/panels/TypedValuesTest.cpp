@@ -46,7 +46,7 @@ TEST_F(DecimalValues, AreAppliedByEnterWhichSelectsTheBox) {
     Press(VK_RETURN);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(12, 34, 56));
     EXPECT_BECOMES(huevox.selection(IDC_txtSetBlue), (std::pair<int, int>{0, 2}));
-    EXPECT_EQ(::GetDlgCtrlID(huevox.focus()), IDC_txtSetBlue);
+    EXPECT_EQ(huevox.focused(), IDC_txtSetBlue);
     EXPECT_BECOMES(huevox.sample(0), ColorOf(12, 34, 56));
     EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "#0C2238");
 }
@@ -65,7 +65,7 @@ TEST_F(DecimalValues, TheSetButtonPassesTheFocusOnWhenItIsDisabled) {
     huevox.retype(IDC_txtSetGreen, "128");
     ASSERT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), true);
     Click(huevox.control(IDC_cmdSetColor));
-    EXPECT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_optSetDec);
+    EXPECT_BECOMES(huevox.focused(), IDC_optSetDec);
 }
 
 TEST_F(DecimalValues, BlanksAndLeadingZerosAreAllowed) {

@@ -2,6 +2,7 @@
 // scale?
 #include "tests/driver/Displayed.h"
 #include "tests/driver/Picking.h"
+#include "tests/driver/StartProgram.h"
 #include "tests/driver/TwoColors.h"
 #include "tests/driver/UiTest.h"
 
@@ -14,11 +15,6 @@ const Color rightColor = Unpack(static_cast<PackedColor>(two_colors::right));
 class UnawareProgram {
 public:
     UnawareProgram() {
-        STARTUPINFOA startup{};
-        startup.cb = sizeof startup;
-        std::string command = two_colors::program;
-        EXPECT_TRUE(::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                     &startup, &process));
         EXPECT_TRUE(Eventually([&] {
             window = ::FindWindowA(two_colors::className, nullptr);
             return window && Pixel(at(1, 4)) == leftColor && Pixel(at(3, 4)) == rightColor;
@@ -34,11 +30,7 @@ public:
     }
 
     /// Where it is on the screen, in the pixels of the display.
-    RECT area() const {
-        RECT area{};
-        ::GetWindowRect(window, &area);
-        return area;
-    }
+    RECT area() const { return AreaOf(window); }
     /// So many parts of its width from its left edge, half way down.
     POINT at(int part, int parts) const {
         const RECT all = area();
@@ -50,7 +42,7 @@ public:
     }
 
 private:
-    PROCESS_INFORMATION process{};
+    PROCESS_INFORMATION process = StartProgram(two_colors::program);
     HWND window = nullptr;
 };
 

@@ -58,12 +58,8 @@ TEST_F(WaitingValues, TakeAtMostThreeTypedCharacters) {
 TEST_F(WaitingValues, SurviveAVisitToAnotherProgram) {
     const Huevox huevox;
     huevox.retype(IDC_txtSetRed, "12");
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(huevox.window());
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
+    VisitAnotherProgram(huevox.window());
+    ASSERT_BECOMES(huevox.focused(), IDC_txtSetRed);
     EXPECT_BECOMES(ClipboardText(), "#FF0000");
     EXPECT_EQ(huevox.text(IDC_txtSetRed), "12");
     EXPECT_TRUE(huevox.isEnabled(IDC_cmdSetColor));
@@ -77,6 +73,6 @@ TEST_F(WaitingValues, TheTabKeySelectsABoxAndTheMouseDoesNot) {
     EXPECT_EQ(huevox.selection(IDC_txtSetRed).first, huevox.selection(IDC_txtSetRed).second);
     huevox.focusSlider(IDC_hsbBlue);
     Press(VK_TAB);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_txtSetRed);
+    ASSERT_BECOMES(huevox.focused(), IDC_txtSetRed);
     EXPECT_BECOMES(huevox.selection(IDC_txtSetRed), (std::pair<int, int>{0, 3}));
 }
