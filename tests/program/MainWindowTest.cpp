@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/driver/Input.h"
 #include "tests/driver/WindowText.h"
 #include "tests/program/MainWindowFixture.h"
 
@@ -16,6 +17,20 @@ protected:
     }
     bool isButtonEnabled(int command) const {
         return ::SendMessageA(control(IDC_tbrTools), TB_ISBUTTONENABLED, command, 0) != 0;
+    }
+    /// What belongs to a mark stands one above the other, down to a row of pixels.
+    void expectColumn(int mark, LONG bottom) const {
+        const RECT name = AreaOf(control(IDC_txtName + mark));
+        const RECT option = AreaOf(control(IDC_optColor + mark));
+        const RECT colour = AreaOf(sample(mark));
+        const RECT letters = AreaOf(control(IDC_lblColorProp + mark));
+        EXPECT_EQ(name.left, colour.left);
+        EXPECT_EQ(name.right, colour.right);
+        EXPECT_EQ(letters.left, colour.left);
+        EXPECT_LE(name.bottom, option.top);
+        EXPECT_LE(option.bottom, colour.top);
+        EXPECT_LE(colour.bottom, letters.top);
+        EXPECT_LE(letters.bottom, bottom);
     }
 };
 
@@ -171,31 +186,12 @@ TEST_F(MainWindow, NoTextIsCutOff) {
 }
 
 TEST_F(MainWindow, NamesSamplesAndLettersStandInSixColumnsAsWideAsTheBar) {
-    const auto place = [&](int id) {
-        RECT area{};
-        const bool isSample = id >= IDC_picSample && id < IDC_picSample + 6;
-        ::GetWindowRect(::GetDlgItem(isSample ? control(IDC_picSampleContainer) : window.handle(), id),
-                        &area);
-        return area;
-    };
-    const RECT bar = place(IDC_lblColorBar);
+    const RECT bar = AreaOf(control(IDC_lblColorBar));
     EXPECT_EQ(bar.right - bar.left, window.scaled(734));
     EXPECT_EQ(bar.bottom - bar.top, window.scaled(20));
-    for (int mark = 0; mark < 6; ++mark) {
-        const RECT name = place(IDC_txtName + mark);
-        const RECT option = place(IDC_optColor + mark);
-        const RECT sample = place(IDC_picSample + mark);
-        const RECT letters = place(IDC_lblColorProp + mark);
-        EXPECT_EQ(name.left, sample.left);
-        EXPECT_EQ(name.right, sample.right);
-        EXPECT_EQ(letters.left, sample.left);
-        EXPECT_LE(name.bottom, option.top);
-        EXPECT_LE(option.bottom, sample.top);
-        EXPECT_LE(sample.bottom, letters.top);
-        EXPECT_LE(letters.bottom, bar.top);
-    }
-    EXPECT_EQ(place(IDC_picSample).left, bar.left);
-    EXPECT_EQ(place(IDC_picSample + 5).right, bar.right);
+    for (int mark = 0; mark < markCount; ++mark) expectColumn(mark, bar.top);
+    EXPECT_EQ(AreaOf(sample(0)).left, bar.left);
+    EXPECT_EQ(AreaOf(sample(5)).right, bar.right);
 }
 
 TEST_F(MainWindow, AThousandChangesOfColorLeaveTheHandlesFlat) {

@@ -1,5 +1,4 @@
 // What does the program offer to those who use no mouse, or hear it instead of seeing it?
-#include <array>
 #include <string>
 
 #include "tests/driver/PickerWindow.h"
@@ -13,51 +12,39 @@ class Names : public UiTest {};
 
 /// Presses Tab until a control has the focus.
 void TabTo(const Huevox& huevox, int id) {
-    for (int tab = 0; tab < 30 && ::GetDlgCtrlID(huevox.focus()) != id; ++tab) {
+    for (int tab = 0; tab < 30 && huevox.focused() != id; ++tab) {
         const HWND before = huevox.focus();
         Press(VK_TAB);
         ASSERT_TRUE(Eventually([&] { return huevox.focus() != before; }));
     }
-    ASSERT_EQ(::GetDlgCtrlID(huevox.focus()), id);
+    ASSERT_EQ(huevox.focused(), id);
 }
 
 /// Opens a palette window by its button and waits until its swatches have the focus.
 HWND OpenByKeyboard(const Huevox& huevox, const PickerWindow::Grid& grid) {
     TabTo(huevox, grid.button);
     Press(VK_SPACE);
-    const auto hasFocus = [&] { return ::GetDlgCtrlID(huevox.focus()) == grid.swatches; };
+    const auto hasFocus = [&] { return huevox.focused() == grid.swatches; };
     EXPECT_TRUE(Eventually(hasFocus)) << grid.name;
     return huevox.form(grid.name);
-}
-
-std::string TextOfWindow(HWND window) {
-    std::array<char, 200> text{};
-    ::SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-    return text.data();
-}
-
-std::string KindOf(HWND window) {
-    std::array<char, 50> name{};
-    ::GetClassNameA(window, name.data(), name.size());
-    return name.data();
 }
 
 /// What a screen reader calls a control: its own text, or, of those whose text is their content, the label
 /// before it.
 std::string NameOf(HWND control) {
-    const std::string className = KindOf(control);
+    const std::string className = ClassOf(control);
     const bool isNamedByLabel = className == "Edit" || className == "ListBox" || className == "ScrollBar";
-    if (!isNamedByLabel) return TextOfWindow(control);
+    if (!isNamedByLabel) return TextOf(control);
     const HWND label = ::GetWindow(control, GW_HWNDPREV);
-    return KindOf(label) == "Static" ? TextOfWindow(label) : "";
+    return ClassOf(label) == "Static" ? TextOf(label) : "";
 }
 
 BOOL CALLBACK ExpectName(HWND control, LPARAM) {
     const int id = ::GetDlgCtrlID(control);
     const bool isPart =
-        (::GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) || KindOf(control) == "PictureBox";
+        (::GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) || ClassOf(control) == "PictureBox";
     if (isPart) {
-        EXPECT_NE(NameOf(control), "") << KindOf(control) << ' ' << id;
+        EXPECT_NE(NameOf(control), "") << ClassOf(control) << ' ' << id;
     }
     return TRUE;
 }
@@ -80,7 +67,7 @@ TEST_F(Keyboard, TheBarIsReachedAndAStepTakenFromTheColorOn) {
     Press(VK_HOME);
     Press(VK_SPACE);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
-    EXPECT_EQ(::GetDlgCtrlID(huevox.focus()), IDC_lblColorBar);
+    EXPECT_EQ(huevox.focused(), IDC_lblColorBar);
 }
 
 TEST_F(Keyboard, TheBarBeginsAtTheStepOfTheColor) {
@@ -123,7 +110,7 @@ TEST_F(Keyboard, ASwatchIsReachedAndTakenAndTheWindowClosed) {
     Press(VK_RIGHT);
     Press(VK_SPACE);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(51, 0, 51));
-    EXPECT_EQ(TextOfWindow(::GetDlgItem(picker, IDC_lblWebsafeColor)), "#330033");
+    EXPECT_EQ(TextOf(::GetDlgItem(picker, IDC_lblWebsafeColor)), "#330033");
     Press(VK_END);
     Press(VK_RETURN);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 255, 51));
@@ -196,24 +183,26 @@ TEST_F(Keyboard, TheOrderOfTheJavaScriptColorsIsSwitched) {
     const HWND picker = OpenByKeyboard(huevox, javaScriptGrid);
     const HWND swatches = ::GetDlgItem(picker, IDC_lblJavaScriptColor);
     Press(VK_RIGHT);
-    EXPECT_BECOMES(TextOfWindow(swatches), "antiquewhite #FAEBD7");
+    EXPECT_BECOMES(TextOf(swatches), "antiquewhite #FAEBD7");
     Press(VK_LEFT);
-    EXPECT_BECOMES(TextOfWindow(swatches), "aliceblue #F0F8FF");
+    EXPECT_BECOMES(TextOf(swatches), "aliceblue #F0F8FF");
     Press(VK_TAB);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_tbrSortTools);
+    ASSERT_BECOMES(huevox.focused(), IDC_tbrSortTools);
     Press(VK_RIGHT);
     Press(VK_SPACE);
-    const HWND tools = ::GetDlgItem(picker, IDC_tbrSortTools);
-    EXPECT_BECOMES(::SendMessageA(tools, TB_ISBUTTONCHECKED, IDM_DotNet, 0) != 0, true);
-    EXPECT_EQ(::SendMessageA(tools, TB_ISBUTTONCHECKED, IDM_Alphabetically, 0), 0);
+    const auto isPressed = [&](int command) {
+        return ::SendMessageA(::GetDlgItem(picker, IDC_tbrSortTools), TB_ISBUTTONCHECKED, command, 0) != 0;
+    };
+    EXPECT_BECOMES(isPressed(IDM_DotNet), true);
+    EXPECT_FALSE(isPressed(IDM_Alphabetically));
     Press(VK_TAB);
     Press(VK_RIGHT);
     Press(VK_HOME);
-    EXPECT_BECOMES(TextOfWindow(swatches), "black #000000");
+    EXPECT_BECOMES(TextOf(swatches), "black #000000");
     Press(VK_TAB);
-    ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), IDC_tbrSortTools);
+    ASSERT_BECOMES(huevox.focused(), IDC_tbrSortTools);
     Press(VK_RETURN);
-    EXPECT_BECOMES(::SendMessageA(tools, TB_ISBUTTONCHECKED, IDM_Alphabetically, 0) != 0, true);
+    EXPECT_BECOMES(isPressed(IDM_Alphabetically), true);
 }
 
 TEST_F(Names, EveryControlOfTheMainWindowAndThePaletteWindowsHasOne) {

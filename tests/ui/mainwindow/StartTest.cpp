@@ -5,11 +5,35 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/driver/RemoteCall.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
 
 class Start : public UiTest {};
+
+constexpr std::array tabOrder = {IDC_hsbRed,
+                                 IDC_hsbGreen,
+                                 IDC_hsbBlue,
+                                 IDC_txtSetRed,
+                                 IDC_txtSetGreen,
+                                 IDC_txtSetBlue,
+                                 IDC_optSetDec,
+                                 Name(0),
+                                 Name(1),
+                                 Name(2),
+                                 Name(3),
+                                 Name(4),
+                                 Name(5),
+                                 Option(0),
+                                 IDC_lblColorBar,
+                                 IDC_lstAutocopy,
+                                 IDC_chkJSNamesOnly,
+                                 IDC_cmdWebsafe,
+                                 IDC_cmdFailsafe,
+                                 IDC_cmdJavaScript,
+                                 IDC_chkColorPick,
+                                 IDC_hsbRed};
 
 std::string ListRow(const Huevox& huevox, int row) {
     std::array<wchar_t, 100> text{};
@@ -19,21 +43,8 @@ std::string ListRow(const Huevox& huevox, int row) {
 
 /// Whether the running program finds a library by its name alone.
 bool Finds(const Huevox& huevox, std::string_view library) {
-    DWORD id = 0;
-    ::GetWindowThreadProcessId(huevox.window(), &id);
-    const HANDLE process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-    void* name = ::VirtualAllocEx(process, nullptr, MAX_PATH, MEM_COMMIT, PAGE_READWRITE);
-    ::WriteProcessMemory(process, name, library.data(), library.size(), nullptr);
-    const FARPROC load = ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "LoadLibraryA");
-    const auto routine = reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void*>(load));
-    const HANDLE thread = ::CreateRemoteThread(process, nullptr, 0, routine, name, 0, nullptr);
-    constexpr DWORD limit = 10'000;
-    EXPECT_EQ(::WaitForSingleObject(thread, limit), WAIT_OBJECT_0);
-    DWORD loaded = 0;
-    ::GetExitCodeThread(thread, &loaded);
-    ::CloseHandle(thread);
-    ::CloseHandle(process);
-    return loaded != 0;
+    const ProcessOf program(huevox.window());
+    return program.call("kernel32", "LoadLibraryA", program.place(library)) != 0;
 }
 
 }  // namespace
@@ -46,7 +57,7 @@ TEST_F(Start, ShowsANewPaletteOfSixMarks) {
     for (int mark = 0; mark < 6; ++mark) {
         EXPECT_EQ(huevox.text(Name(mark)), "Type a colour name");
         EXPECT_BECOMES(huevox.sample(mark), colors[mark]);
-        EXPECT_BECOMES(huevox.backColor(Name(mark)), ColorOf(255, 255, 255));
+        EXPECT_BECOMES(huevox.backColor(Name(mark)), white);
     }
 }
 
@@ -132,30 +143,8 @@ TEST_F(Start, ASecondCopyOpensASecondWindowWithoutAMessage) {
 
 TEST_F(Start, TheFocusIsOnTheFirstSliderAndTheTabKeyGoesThroughTheControlsInOrder) {
     const Huevox huevox;
-    std::vector<int> order = {IDC_hsbRed,
-                              IDC_hsbGreen,
-                              IDC_hsbBlue,
-                              IDC_txtSetRed,
-                              IDC_txtSetGreen,
-                              IDC_txtSetBlue,
-                              IDC_optSetDec,
-                              Name(0),
-                              Name(1),
-                              Name(2),
-                              Name(3),
-                              Name(4),
-                              Name(5),
-                              Option(0),
-                              IDC_lblColorBar,
-                              IDC_lstAutocopy,
-                              IDC_chkJSNamesOnly,
-                              IDC_cmdWebsafe,
-                              IDC_cmdFailsafe,
-                              IDC_cmdJavaScript,
-                              IDC_chkColorPick,
-                              IDC_hsbRed};
-    for (const int id : order) {
-        ASSERT_BECOMES(::GetDlgCtrlID(huevox.focus()), id);
+    for (const int id : tabOrder) {
+        ASSERT_BECOMES(huevox.focused(), id);
         Press(VK_TAB);
     }
 }

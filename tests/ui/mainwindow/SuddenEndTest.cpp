@@ -5,19 +5,12 @@
 #include <random>
 #include <string>
 
+#include "tests/driver/Figures.h"
 #include "tests/driver/Palettes.h"
 
 namespace {
 
 using Milliseconds = double;
-
-Milliseconds Now() {
-    LARGE_INTEGER count{};
-    LARGE_INTEGER frequency{};
-    ::QueryPerformanceCounter(&count);
-    ::QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 /// As often as HUEVOX_KILLS says, or a share that every run of the tests can afford.
 int CountKills(int share) {
@@ -29,8 +22,8 @@ int CountKills(int share) {
 class Killer {
 public:
     void kill(const Huevox& huevox, Milliseconds span) {
-        const Milliseconds end = Now() + span * std::uniform_real_distribution<>(0, 1)(random);
-        while (Now() < end) continue;
+        const Milliseconds end = NowInMilliseconds() + span * std::uniform_real_distribution<>(0, 1)(random);
+        while (NowInMilliseconds() < end) continue;
         huevox.kill();
     }
 
@@ -60,7 +53,30 @@ protected:
     }
     static std::string Content() { return ContentOf(OtherPathOf("mine.txt")); }
 
+    /// How long a save takes that nothing disturbs; it tells what the file is afterwards.
+    Milliseconds TimeOfSave() {
+        WriteContent(OtherPathOf("mine.txt"), before);
+        const Huevox huevox;
+        const Milliseconds start = NowInMilliseconds();
+        Save(huevox, 1);
+        // While the file is being replaced it cannot be opened.
+        EXPECT_TRUE(Eventually([&] {
+            after = Content();
+            return !after.empty() && after != before;
+        }));
+        return NowInMilliseconds() - start;
+    }
+    static std::string ContentAfterKill(Killer& killer, Milliseconds span) {
+        constexpr int savesInARow = 50;
+        WriteContent(OtherPathOf("mine.txt"), before);
+        const Huevox huevox;
+        Save(huevox, savesInARow);
+        killer.kill(huevox, span);
+        return Content();
+    }
+
     inline static const std::string before = PaletteOf("mine", "1,2,3");
+    std::string after;
 
 private:
     std::array<char, MAX_PATH> folder{};
@@ -85,71 +101,57 @@ protected:
         for (const auto& [name, unusable, repaired] : settings) StoreText(name, unusable);
         StoreText("StandardFolder", "C:\\");
     }
+
+    /// How long a start takes until it tells of the repair.
+    static Milliseconds TimeOfRepair() {
+        StoreUnusable();
+        const Milliseconds start = NowInMilliseconds();
+        const Huevox huevox(Huevox::DoNotWait{});
+        EXPECT_TRUE(huevox.waitForDialog());
+        return NowInMilliseconds() - start;
+    }
+    static void KillWhileStarting(Killer& killer, Milliseconds span) {
+        StoreUnusable();
+        const Huevox huevox(Huevox::DoNotWait{});
+        killer.kill(huevox, span);
+    }
+    static void ExpectUsableStart() {
+        Huevox huevox(Huevox::DoNotWait{});
+        ASSERT_TRUE(Eventually([&] { return huevox.dialog() || huevox.form("frmMain"); }));
+        if (const HWND message = huevox.dialog()) Answer(message, IDOK);
+        ASSERT_TRUE(huevox.waitForWindow());
+        EXPECT_EQ(huevox.dialogCount(), 0);
+        EXPECT_EQ(huevox.listIndex(), 0);
+    }
 };
 
 }  // namespace
 
 TEST_F(EndWhileSaving, LeavesTheOldPaletteOrTheNewOne) {
-    constexpr int savesInARow = 50;
-    Milliseconds span = 0;
-    std::string after;
-    {
-        WriteContent(OtherPathOf("mine.txt"), before);
-        const Huevox huevox;
-        const Milliseconds start = Now();
-        Save(huevox, 1);
-        // While the file is being replaced it cannot be opened.
-        ASSERT_TRUE(Eventually([&] {
-            after = Content();
-            return !after.empty() && after != before;
-        }));
-        span = 3 * (Now() - start);
-    }
+    const Milliseconds span = 3 * TimeOfSave();
     const int kills = CountKills(16);
     Killer killer;
     int saved = 0;
-    int left = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        WriteContent(OtherPathOf("mine.txt"), before);
-        const Huevox huevox;
-        Save(huevox, savesInARow);
-        killer.kill(huevox, span);
-        const std::string content = Content();
+        const std::string content = ContentAfterKill(killer, span);
         ASSERT_TRUE(content == before || content == after) << "kill " << kill << '\n' << content;
         saved += content == after ? 1 : 0;
-        left = CountFiles(otherFolder, "*.tmp");
     }
     std::printf("%d kills during saves: none torn, %d new, %d old, %d other files left\n", kills, saved,
-                kills - saved, left);
+                kills - saved, CountFiles(otherFolder, "*.tmp"));
 }
 
 TEST_F(EndWhileRepairing, LeavesSettingsThatTheNextStartCanUse) {
-    Milliseconds span = 0;
-    {
-        StoreUnusable();
-        const Milliseconds start = Now();
-        Huevox huevox(Huevox::DoNotWait{});
-        ASSERT_TRUE(huevox.waitForDialog());
-        span = 1.2 * (Now() - start);
-    }
+    const Milliseconds span = 1.2 * TimeOfRepair();
     const int kills = CountKills(16) / 4;
     Killer killer;
     int repaired = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        StoreUnusable();
-        {
-            const Huevox huevox(Huevox::DoNotWait{});
-            killer.kill(huevox, span);
-        }
-        ASSERT_TRUE(IsEachOldOrNew()) << "kill " << kill;
+        SCOPED_TRACE("kill " + std::to_string(kill));
+        KillWhileStarting(killer, span);
+        ASSERT_TRUE(IsEachOldOrNew());
         repaired += StoredText("StandardFolder") != "C:\\" ? 1 : 0;
-        Huevox next(Huevox::DoNotWait{});
-        const auto isThere = [&] { return next.dialog() != nullptr || next.form("frmMain") != nullptr; };
-        ASSERT_TRUE(Eventually(isThere)) << "kill " << kill;
-        if (const HWND message = next.dialog()) Answer(message, IDOK);
-        ASSERT_TRUE(next.waitForWindow()) << "kill " << kill;
-        EXPECT_EQ(next.dialogCount(), 0);
-        EXPECT_EQ(next.listIndex(), 0);
+        ExpectUsableStart();
     }
     std::printf("%d kills during starts that repair: all usable, %d repaired already\n", kills, repaired);
 }

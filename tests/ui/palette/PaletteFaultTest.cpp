@@ -4,9 +4,7 @@
 
 #include "tests/driver/Below.h"
 #include "tests/driver/Palettes.h"
-
-// Needs the platform's main header before it.
-#include <sddl.h>
+#include "tests/driver/Rights.h"
 
 namespace {
 
@@ -24,22 +22,33 @@ protected:
     }
     /// Saves in vain, and expects everything to be as it was: the file, the title, the change, the highlight.
     static void ExpectRefusal(const Huevox& huevox) {
-        Press('S', {VK_CONTROL});
+        PressSave();
         CloseMessage(huevox, couldNotSave);
         EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
-        EXPECT_EQ(huevox.backColor(Name(0)), ColorOf(255, 250, 205));
-        Press('N', {VK_CONTROL});
+        EXPECT_EQ(huevox.backColor(Name(0)), highlight);
+        PressNew();
         AnswerQuestion(huevox, IDCANCEL);
         EXPECT_EQ(CountFiles(otherFolder, "*.tmp"), 0);
     }
     static void ExpectSaving(const Huevox& huevox) {
-        Press('S', {VK_CONTROL});
+        PressSave();
         // While the file is being replaced it cannot be opened.
         EXPECT_TRUE(Eventually([] {
             const std::string content = ContentOf(OtherPathOf("mine.txt"));
             return !content.empty() && content != before;
         }));
         EXPECT_EQ(huevox.dialogCount(), 0);
+    }
+
+    static void KillWhileSaving() {
+        const Huevox huevox;
+        OpenAndChange(huevox);
+        PressSave();
+        const auto isWriting = [] { return CountFiles(otherFolder, "*.tmp") > 0; };
+        const auto isSaved = [] { return ContentOf(OtherPathOf("mine.txt")) != before; };
+        // Not a millisecond is to be lost between the sight of the new file and the end.
+        while (!isWriting() && !isSaved()) continue;
+        huevox.kill();
     }
 
     inline static const std::string before = PaletteOf("mine", "1,2,3");
@@ -51,21 +60,19 @@ class FullDisk : public UiTest {};
 class ReadOnlyFolder {
 public:
     explicit ReadOnlyFolder(const char* path) : path(path) {
-        SetRights("D:(A;;GRGX;;;WD)");
+        setRights(readingOnly);
         WriteContent(OtherPathOf("probe"), "x");
         EXPECT_FALSE(Exists(OtherPathOf("probe"))) << "the tests must not run with the rights of root";
     }
     ReadOnlyFolder(const ReadOnlyFolder&) = delete;
     ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
-    ~ReadOnlyFolder() { SetRights("D:(A;;GA;;;WD)"); }
+    ~ReadOnlyFolder() { setRights(everything); }
 
 private:
-    void SetRights(const char* rights) {
-        PSECURITY_DESCRIPTOR descriptor = nullptr;
-        ASSERT_TRUE(::ConvertStringSecurityDescriptorToSecurityDescriptorA(rights, SDDL_REVISION_1,
-                                                                           &descriptor, nullptr));
-        EXPECT_TRUE(::SetFileSecurityA(path, DACL_SECURITY_INFORMATION, descriptor));
-        ::LocalFree(descriptor);
+    void setRights(const char* rights) const {
+        SetRights(rights, [&](PSECURITY_DESCRIPTOR descriptor) {
+            EXPECT_TRUE(::SetFileSecurityA(path, DACL_SECURITY_INFORMATION, descriptor));
+        });
     }
 
     const char* path;
@@ -98,11 +105,10 @@ TEST_F(RefusedSaving, ByAReadOnlyFolder) {
 TEST_F(RefusedSaving, ByAnotherProgramThatHasLockedTheFile) {
     const Huevox huevox;
     OpenAndChange(huevox);
-    const HANDLE locked = ::CreateFileA(OtherPathOf("mine.txt").c_str(), GENERIC_READ | GENERIC_WRITE, 0,
-                                        nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(locked, INVALID_HANDLE_VALUE);
-    ExpectRefusal(huevox);
-    ::CloseHandle(locked);
+    {
+        const LockedFile locked(OtherPathOf("mine.txt"));
+        ExpectRefusal(huevox);
+    }
     EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
     ExpectSaving(huevox);
 }
@@ -110,11 +116,9 @@ TEST_F(RefusedSaving, ByAnotherProgramThatHasLockedTheFile) {
 TEST_F(RefusedSaving, ByAFolderThatIsGone) {
     const Huevox huevox;
     OpenAndChange(huevox);
-    RunBelow("rm", "-rf \"" + SystemPathOf(L"C:\\Huevox Palettes\\other") + '"');
-    ASSERT_TRUE(Eventually([] { return !Exists(otherFolder); }));
+    RemoveFolderBelow(otherFolder);
     ExpectRefusal(huevox);
-    Press('F', {VK_MENU});
-    Press('A');
+    ChooseSaveAs();
     ChoosePath(huevox, saveTitle, PathOf("rescued.txt"));
     EXPECT_BECOMES(huevox.title(), "Huevox - rescued.txt");
     EXPECT_NE(ContentOf(PathOf("rescued.txt")).find("another"), std::string::npos);
@@ -133,12 +137,9 @@ TEST_F(RefusedSaving, InSaveAsKeepsTheTitle) {
     const ReadOnlyFile refusing(PathOf("theirs.txt"));
     const Huevox huevox;
     OpenAndChange(huevox);
-    Press('F', {VK_MENU});
-    Press('A');
+    ChooseSaveAs();
     TypePath(huevox, saveTitle, PathOf("theirs.txt"));
-    ASSERT_BECOMES(huevox.dialogCount(), 2);
-    Answer(huevox.dialog(), IDYES);
-    ASSERT_TRUE(Eventually([&] { return huevox.dialog() && TextOf(huevox.dialog()) == "Huevox"; }));
+    AnswerReplacing(huevox, IDYES);
     CloseMessage(huevox, couldNotSave);
     EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
     EXPECT_EQ(ContentOf(PathOf("theirs.txt")), "theirs");
@@ -155,14 +156,7 @@ TEST_F(RefusedSaving, ByItsOwnSuddenEndLeavesAWholeFile) {
     int killedWhileWriting = 0;
     for (int round = 0; round < 4; ++round) {
         WriteContent(OtherPathOf("mine.txt"), before);
-        const Huevox huevox;
-        OpenAndChange(huevox);
-        Press('S', {VK_CONTROL});
-        const auto isWriting = [] { return CountFiles(otherFolder, "*.tmp") > 0; };
-        const auto isSaved = [] { return ContentOf(OtherPathOf("mine.txt")) != before; };
-        // Not a millisecond is to be lost between the sight of the new file and the end.
-        while (!isWriting() && !isSaved()) continue;
-        huevox.kill();
+        KillWhileSaving();
         killedWhileWriting += CountFiles(otherFolder, "*.tmp");
         const std::string content = ContentOf(OtherPathOf("mine.txt"));
         EXPECT_TRUE(content == before || content == after) << round << '\n' << content;
@@ -179,11 +173,11 @@ TEST_F(FullDisk, LeavesTheOldFileAndTheChange) {
     OpenPalette(huevox, folder + "\\mine.txt");
     ChangeColor(huevox);
     WriteContent(folder + "\\filler", std::string(1'000'000, 'x'));
-    Press('S', {VK_CONTROL});
+    PressSave();
     CloseMessage(huevox, couldNotSave);
     EXPECT_EQ(ContentOf(folder + "\\mine.txt"), before);
     EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
     EXPECT_EQ(CountFiles(folder, "*.tmp"), 0);
-    Press('N', {VK_CONTROL});
+    PressNew();
     AnswerQuestion(huevox, IDCANCEL);
 }

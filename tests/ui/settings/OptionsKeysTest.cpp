@@ -7,6 +7,7 @@
 
 #include "tests/driver/OptionsDialog.h"
 #include "tests/driver/PickerWindow.h"
+#include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
@@ -63,6 +64,11 @@ void ExpectTabs(const OptionsDialog& options, const std::vector<int>& stops, boo
         }
         ASSERT_BECOMES(options.focused(), stop);
     }
+}
+
+void ExpectKeyTurnsOn(const OptionsDialog& options, char key, int option) {
+    Press(key, {VK_MENU});
+    EXPECT_BECOMES(options.isOn(option), true) << key;
 }
 
 /// Leaves the dialog by Cancel, and expects that the window is enabled and in front by then.
@@ -147,14 +153,9 @@ TEST_F(OptionsKeys, EveryLabelAndButtonHasAnAccessKeyOfItsOwn) {
 TEST_F(OptionsKeys, AccessKeysReachTheControls) {
     const Huevox huevox;
     const OptionsDialog options(huevox);
-    Press('V', {VK_MENU});
-    EXPECT_BECOMES(options.isOn(IDC_optDotNet), true);
-    Press('A', {VK_MENU});
-    EXPECT_BECOMES(options.isOn(IDC_optAlphabetically), true);
-    Press('N', {VK_MENU});
-    EXPECT_BECOMES(options.isOn(IDC_optNo), true);
-    Press('Y', {VK_MENU});
-    EXPECT_BECOMES(options.isOn(IDC_optYes), true);
+    for (const auto& [key, option] :
+         {std::pair{'V', IDC_optDotNet}, {'A', IDC_optAlphabetically}, {'N', IDC_optNo}, {'Y', IDC_optYes}})
+        ExpectKeyTurnsOn(options, key, option);
     Press('S', {VK_MENU});
     EXPECT_BECOMES(options.focused(), IDC_lstStandardFormat);
     Press('H', {VK_MENU});
@@ -172,14 +173,7 @@ TEST_F(OptionsKeys, AccessKeysReachTheControls) {
 TEST_F(OptionsKeys, ToolTipsSayWhatEachControlIsFor) {
     const Huevox huevox;
     const OptionsDialog options(huevox);
-    for (const Shown& tip : controlTips) {
-        MoveMouse({1, 1});
-        ASSERT_BECOMES(huevox.toolTip(), "");
-        const POINT place = CenterOf(options.control(tip.id));
-        MoveMouse({place.x - 1, place.y});
-        MoveMouse(place);
-        EXPECT_BECOMES(huevox.toolTip(), tip.text);
-    }
+    for (const Shown& tip : controlTips) ExpectTip(huevox, options.control(tip.id), tip.text);
 }
 
 TEST_F(OptionsKeys, TheMainWindowTakesNoInputMeanwhile) {
@@ -223,12 +217,7 @@ TEST_F(OptionsKeys, AReturnFromAnotherProgramKeepsTheChoice) {
     const Huevox huevox;
     const OptionsDialog options(huevox);
     options.choose(9);
-    {
-        const Huevox other;
-        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
-    }
-    ::SetForegroundWindow(options.window());
-    ASSERT_BECOMES(::GetForegroundWindow(), options.window());
+    VisitAnotherProgram(options.window());
     EXPECT_BECOMES(options.focused(), IDC_lstStandardFormat);
     // What the return has posted has been handled when the key behind it has.
     Press(VK_DOWN);
