@@ -1,4 +1,4 @@
-// How does a test hold the about box?
+// How does a test use the about box?
 #pragma once
 
 #include <string>
@@ -25,7 +25,7 @@ public:
         Press(VK_TAB);
         EXPECT_BECOMES(focused(), id);
     }
-    /// It is gone, and the main window is in front and takes input.
+    /// Expects it to be gone, and the main window to be in front and to take input.
     void expectClosed() const {
         EXPECT_BECOMES(window(), nullptr);
         EXPECT_BECOMES(::GetForegroundWindow(), huevox.window());

@@ -1,11 +1,11 @@
-// How does a test do to files what no program of the platform may?
+// How does a test do to files what no program of Windows may?
 #pragma once
 
 #include <string>
 
 #include "tests/driver/StartProgram.h"
 
-/// The path that the system below the platform knows a file by.
+/// The path by which the system below Windows knows a file.
 inline std::string SystemPathOf(const wchar_t* path) {
     using Translate = char*(CDECL*)(LPCWSTR);
     const FARPROC address = ::GetProcAddress(::GetModuleHandleA("kernel32"), "wine_get_unix_file_name");

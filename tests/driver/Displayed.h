@@ -1,4 +1,4 @@
-// What does the user see? A picture that the display itself makes, not the system in which the programs run.
+// What does the user see? The display itself takes the picture, not Wine.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ inline Color Displayed(POINT screen) {
     static constexpr const wchar_t* file = L"C:\\pixel.rgb";
     ::DeleteFileW(file);
     const std::string crop = "1x1+" + std::to_string(screen.x) + '+' + std::to_string(screen.y);
-    // By way of the shell, because the program goes by the name that it is called by.
+    // By way of the shell: what the program does depends on the name that it is called by.
     RunBelow("sh",
              "-c \"import -silent -window root -crop " + crop + " -depth 8 rgb:" + SystemPathOf(file) + '"');
     std::array<unsigned char, 3> bytes{};

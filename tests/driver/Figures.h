@@ -1,4 +1,4 @@
-// What do many measurements come to, and how are they told?
+// What do many measurements come to, and how are they reported?
 #pragma once
 
 #include <algorithm>

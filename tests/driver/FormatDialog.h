@@ -1,4 +1,4 @@
-// How does a test hold the editor of the custom notation?
+// How does a test use the editor of the custom notation?
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ public:
         Press(VK_F8);
         waitUntilReady();
     }
-    /// One that is being opened.
+    /// Takes the dialog that is being opened.
     struct IsOpening {};
     FormatDialog(const Huevox& huevox, IsOpening) : huevox(huevox) { waitUntilReady(); }
 

@@ -125,7 +125,7 @@ Color Huevox::sliders() const {
 Color Huevox::sample(int mark) const { return PaintedPixel(main, CenterOf(control(IDC_picSample + mark))); }
 
 POINT Huevox::barStepPlace(int step) const {
-    // Under a neighbour or the bar's edge may lie a step's outermost pixels, but never its second.
+    // A neighbour or the bar's edge may cover a step's outermost pixels, but never its second.
     const int left =
         ::MulDiv(step * 731 / 255 + 1, static_cast<int>(::GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
     return OnScreen(control(IDC_lblColorBar), {left, 10});

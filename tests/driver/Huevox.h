@@ -1,4 +1,4 @@
-// How does a test hold the running program?
+// How does a test drive the running program?
 #pragma once
 
 #include <string>

@@ -34,8 +34,7 @@ void SendKey(WORD key, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
-/// A pixel as a part of an extent of all monitors in 65536 steps, so that it comes out as the same pixel
-/// again.
+/// A pixel's place across all monitors in 65536 steps, such that Windows finds the same pixel again.
 LONG Absolute(LONG pixel, int start, int extent) {
     return ((pixel - ::GetSystemMetrics(start)) * 65536 + 65536 / 2) / ::GetSystemMetrics(extent);
 }
@@ -56,10 +55,10 @@ void SendMouse(POINT screen, DWORD flags) {
 
 bool IsHeld(WORD key) { return ::GetAsyncKeyState(key) < 0; }
 
-/// Until the window's program has done what it was at.
+/// Waits until the window's program has done what it was doing.
 void WaitForAnswer(HWND window) { AnswerOf(window, WM_NULL); }
 
-/// Keys that come while no window takes them, or none yet, go nowhere.
+/// Keys are lost that come while no window takes them, or none yet.
 void WaitForKeys() {
     EXPECT_TRUE(Eventually([] {
         return TakesKeys(::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr));
@@ -75,14 +74,15 @@ BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
     return TRUE;
 }
 
-/// Until everybody with a window in sight has done what he was at. Who hears of the display's keys while a
-/// key is down writes the states of all keys back, as he has read them a moment ago: modifier keys too.
+/// Waits until every program with a visible window has done what it was doing. A program that hears of the
+/// display's keys while one is down writes the states of all keys back as it read them a moment ago, modifier
+/// keys too.
 void WaitForEverybody() {
     std::set<DWORD> threads;
     ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
 }
 
-/// Again and again until it stays so.
+/// Repeats it until it stays so.
 void SetHeld(WORD modifier, bool isHeld) {
     EXPECT_TRUE(Eventually([&] {
         SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
@@ -99,7 +99,7 @@ void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
     }
 }
 
-/// Until the window's program, if it is another, has no input left to handle: only then does it paint.
+/// Waits until the window's program, if it is another, has no input left to handle: only then does it paint.
 void WaitForEndOfInput(HWND window) {
     DWORD process = 0;
     ::GetWindowThreadProcessId(window, &process);
@@ -110,8 +110,8 @@ void WaitForEndOfInput(HWND window) {
         << "does not paint";
 }
 
-/// Whether that place of a window is not covered by another, of whatever program. Of a form that a dialog
-/// holds nobody can tell.
+/// Whether no window of any program covers that place of this one. Of a form that a dialog disables nobody
+/// can tell.
 bool IsOnTop(HWND window, POINT screen) {
     const HWND form = ::GetAncestor(window, GA_ROOT);
     return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
@@ -132,7 +132,7 @@ void KeyUp(WORD key) { SendKey(key, KEYEVENTF_KEYUP); }
 
 void Press(WORD key, std::initializer_list<WORD> modifiers) {
     WaitForKeys();
-    // Somebody may still write back what was held during the key before.
+    // Some program may still write back what was held during the key before.
     if (modifiers.size() > 0) WaitForEverybody();
     LetGoOfOthers(modifiers);
     for (const WORD modifier : modifiers) SetHeld(modifier, true);
@@ -170,8 +170,8 @@ POINT CenterOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
-/// By way of the place beside, because a movement is lost that comes while the program is about to take
-/// another: where a window comes or goes, Windows makes one up.
+/// By way of the pixel beside it: a movement is lost that comes while the program is about to take another,
+/// and Windows makes one up where a window comes or goes.
 void MoveMouse(POINT screen) {
     SendMouse({screen.x - 1, screen.y}, 0);
     WaitForEndOfInput(::GetForegroundWindow());
@@ -194,7 +194,7 @@ void Click(POINT screen) {
     ReleaseButton(screen);
 }
 
-/// Once no other window lies over it.
+/// Waits until no other window covers it.
 void Click(HWND window) {
     ASSERT_TRUE(::IsWindow(window)) << "nothing to click";
     EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); }))
@@ -202,7 +202,7 @@ void Click(HWND window) {
     Click(CenterOf(window));
 }
 
-// All at once, because the time between the clicks makes them one.
+// All at once: only clicks that follow each other quickly are a double click.
 void DoubleClick(HWND window) {
     const POINT place = CenterOf(window);
     const INPUT press = MouseInput(place, MOUSEEVENTF_LEFTDOWN);

@@ -1,4 +1,4 @@
-// Can the user tell what stands in a part of the screen from what it stands on?
+// Can the user tell what is drawn in a part of the screen from its background?
 #pragma once
 
 #include "core/Color.h"
@@ -18,6 +18,6 @@ double Contrast(const Color& one, const Color& other);
 inline constexpr double legible = 4.5;
 inline constexpr double visible = 3;
 
-/// Expects, of each control of the window that is on the screen and has a text or a picture, that it is
-/// legible; what is disabled, that it is visible.
+/// Expects every control that is on the screen and has a text or a picture to be legible, and a disabled one
+/// to be visible.
 void ExpectLegible(HWND window);

@@ -1,4 +1,4 @@
-// How does a test hold the dialog of the options?
+// How does a test use the options dialog?
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ public:
     /// Presses F9 and waits until the dialog can be used.
     explicit OptionsDialog(const Huevox& huevox);
     void open() const;
-    /// Waits until the dialog, opened in whatever way, can be used.
+    /// Waits until the dialog can be used, however it was opened.
     void waitUntilUsable() const;
 
     HWND window() const { return huevox.form("frmOptions"); }

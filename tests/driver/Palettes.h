@@ -8,7 +8,7 @@
 #include "support/Marks.h"
 #include "tests/driver/UiTest.h"
 
-/// Every test begins with an empty standard folder, in which the files of the tests can be put.
+/// Every test begins with an empty standard folder for its files.
 class PaletteTest : public UiTest {
 protected:
     void SetUp() override;
@@ -18,7 +18,7 @@ protected:
 inline constexpr const char* paletteFolder = "C:\\Huevox Palettes";
 inline constexpr const char* otherFolder = "C:\\Huevox Palettes\\other";
 
-/// The path of a file in the standard folder, or in a folder of its own in there.
+/// The path of a file in the standard folder, or in the other folder, which is inside it.
 std::string PathOf(std::string_view name);
 std::string OtherPathOf(std::string_view name);
 
@@ -90,9 +90,10 @@ void PressClose(const Huevox& huevox);
 /// The commands that save.
 void PressSave();
 void ChooseSaveAs();
-/// The first mark has that colour still, and the window can be used: its colour is changed once more.
+/// Expects the first mark to have that colour still and the window to be usable: changes the colour once
+/// more.
 void ExpectStill(const Huevox& huevox, const Color& color);
 
 void ExpectPalette(const Huevox& huevox, const Palette& palette);
-/// The six defaults without names.
+/// Expects the six default colours without names.
 void ExpectNewPalette(const Huevox& huevox);

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Until the program has handled what it has posted to itself: a caret moves behind that, twice, because the
-/// first move may have come before.
+/// Waits until the program has handled what it has posted to itself: a caret moves only after that. Twice,
+/// because the first move may have come before it.
 void WaitForPosted(const Huevox& huevox) {
     constexpr int box = IDC_txtName + 5;
     for (const int caret : {3, 4}) {

@@ -1,4 +1,4 @@
-// How does a test hold one of the program's palette windows?
+// How does a test use one of the program's palette windows?
 #pragma once
 
 #include "resources/resource.h"
@@ -16,7 +16,7 @@ class PickerWindow {
 public:
     struct Grid {
         const char* name;  ///< the window's class
-        int button;        ///< of the main window, that opens it
+        int button;        ///< that opens it, in the main window
         int swatches;      ///< the id of the control
         int columns;
         int rows;
@@ -41,7 +41,7 @@ public:
     /// Presses the button that opens the window.
     void clickButton() const;
     void moveTo(int left, int top) const;
-    /// Closes the window and waits until it is gone and the main window, of all that are left, is in front.
+    /// Closes the window and waits until it is gone and the main window is the one in front.
     void close() const;
     /// Opens it again.
     void open() const;
@@ -54,7 +54,7 @@ private:
 /// The swatch shows the colour, and a click sets the sliders to it.
 void ExpectClick(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const Color& color);
 void ExpectTip(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const char* tip);
-/// The sliders stand as they did.
+/// A right click on the swatch leaves the sliders as they are.
 void ExpectNothingByTheRightButton(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch);
 
 inline constexpr PickerWindow::Grid websafeGrid = {"frmWebsafe", IDC_cmdWebsafe, IDC_lblWebsafeColor, 36, 6};

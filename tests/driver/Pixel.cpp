@@ -69,8 +69,8 @@ Color ColorIn(std::uint32_t pixel) {
 
 Color PaintedPixel(HWND window, POINT screen) {
     EXPECT_TRUE(Eventually([window] { return IsPainted(window); }));
-    // Twice, because the window may have been at its painting: what it has painted is on the screen when its
-    // program waits for messages again.
+    // Twice, because the window may have been painting: what it has painted is on the screen when its program
+    // waits for messages again.
     AnswerOf(window, WM_NULL);
     AnswerOf(window, WM_NULL);
     return Pixel(screen);

@@ -1,4 +1,4 @@
-// How does a test let the running program call Windows?
+// How does a test make the running program call Windows?
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,5 @@
-// Stands in for another program: puts the command line it was started with into a file beside the palettes.
+// Stands in for another program: writes the command line that it was started by into a file beside the
+// palettes.
 #include <fstream>
 
 #include "toolkit/platform/Platform.h"

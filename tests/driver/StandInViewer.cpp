@@ -1,4 +1,4 @@
-// Stands in for the help viewer of the platform: puts what it is asked for into a file beside the palettes.
+// Stands in for the help viewer of Windows: writes what it is asked for into a file beside the palettes.
 #include <fstream>
 
 #include "toolkit/platform/Platform.h"

@@ -17,13 +17,13 @@ struct Theme {
     Color link;
 };
 
-/// In the name of a test.
+/// For the name of a test.
 inline void PrintTo(const Theme& theme, std::ostream* stream) { *stream << theme.name; }
 
 extern const Theme blackTheme;
 extern const Theme whiteTheme;
 
-/// The system's colours, until they are given back: those of the programs that start now, and of this one.
+/// Changes the system's colours, for this program and those that start now, until the value ends.
 class SystemColors {
 public:
     SystemColors();

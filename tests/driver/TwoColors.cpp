@@ -1,5 +1,5 @@
-// Stands in for a program that knows nothing of scaling: a window of two colours, side by side, until it is
-// ended. It has no manifest, so a system that scales such programs scales what it paints.
+// Stands in for a program that ignores scaling: a window of two colours side by side, until it is ended. It
+// has no manifest, so a system that scales such programs scales what it paints.
 #include "tests/driver/TwoColors.h"
 
 #include "toolkit/platform/Platform.h"

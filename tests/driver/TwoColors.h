@@ -1,4 +1,4 @@
-// What does the program that knows nothing of scaling show? In the pixels that it believes to have.
+// What does the program that ignores scaling show, in the pixels that it believes to have?
 #pragma once
 
 #include "toolkit/platform/Platform.h"

@@ -39,7 +39,7 @@ public:
 
 inline constexpr const char* settingsKey = "Software\\Quorvane\\Huevox 2004";
 
-/// What is said when settings cannot be used, and all five of them as they are then.
+/// The message when settings cannot be used, and all five of them as they are stored then.
 inline constexpr const char* unusableSettings =
     "Unusable settings found in Registry. Default settings restored.";
 void ExpectDefaultsStored();
@@ -59,7 +59,7 @@ void Close(const Huevox& huevox);
 /// Clicks the box for JavaScript names and waits until the list is disabled or enabled.
 void CheckNames(const Huevox& huevox, bool isChecked);
 
-/// What a name box looks like, and what it looks like when the name may not fit any more.
+/// The colour of a name box, and of one whose name may not fit any more.
 inline constexpr Color white = ColorOf(255, 255, 255);
 inline constexpr Color highlight = ColorOf(255, 250, 205);
 

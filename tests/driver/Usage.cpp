@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The table of the graphics objects stands in the process's own memory; it is told of nowhere else.
+/// The table of the graphics objects is in the process's own memory; nothing else tells of it.
 struct GdiEntry {
     unsigned long long object;
     unsigned long owner;
@@ -21,7 +21,7 @@ struct GdiEntry {
 constexpr std::size_t tableOffset = 0xF8;
 constexpr std::size_t tableEntries = 0x10000;
 
-/// A routine of the platform that its import library does not offer.
+/// A routine of Windows that its import library does not offer.
 template <class Routine>
 Routine* NativeRoutine(const char* name) {
     return reinterpret_cast<Routine*>(
@@ -43,7 +43,7 @@ int GdiObjects(HANDLE process) {
         std::ranges::count_if(entries, [](const GdiEntry& entry) { return entry.type != 0; }));
 }
 
-/// The list of all handles of all processes; a process's own count is not told under Wine.
+/// The list of all handles of all processes; Wine does not tell the count of one.
 struct HandleEntry {
     void* object;
     ULONG_PTR process;
@@ -98,7 +98,7 @@ Usage UsageOf(HANDLE process, HWND window) {
 }
 
 int BitsOf(HANDLE process) {
-    // Windows of 64 bits runs programs of 32 apart from its own.
+    // 64-bit Windows runs 32-bit programs apart from its own.
     BOOL runsApart = FALSE;
     ::IsWow64Process(process, &runsApart);
     return runsApart ? 32 : 64;

@@ -1,4 +1,4 @@
-// How much of the platform does the program hold?
+// How many of the system's resources does the program hold?
 #pragma once
 
 #include <string>

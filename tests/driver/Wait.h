@@ -7,7 +7,7 @@
 
 #include "toolkit/platform/Platform.h"
 
-/// Milliseconds since the system's start in which a processor, of all on average, had nothing to do.
+/// Milliseconds since the system's start in which the processors, on average, had nothing to do.
 inline ULONGLONG IdleMilliseconds() {
     static const DWORD processors = [] {
         SYSTEM_INFO system{};
@@ -45,7 +45,7 @@ inline ULONGLONG& WaitedMilliseconds() {
     return waited;
 }
 
-/// Adds the time of its life to that. One wait may contain others.
+/// Adds its lifetime to that. One wait may contain others.
 class Waiting {
 public:
     Waiting() = default;
@@ -58,7 +58,7 @@ private:
     ULONGLONG begin = ::GetTickCount64();
 };
 
-/// Between looks, ever longer: what comes soon is seen soon, and who waits long leaves the processors to
+/// The pause between looks grows: what comes soon is seen soon, and a long wait leaves the processors to
 /// others.
 class Pause {
 public:

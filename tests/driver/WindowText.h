@@ -12,8 +12,7 @@ inline std::string ClassOf(HWND window) {
     return name.data();
 }
 
-/// What a window of any process answers; 0 when it has gone. So far away is the limit that only a program
-/// that hangs reaches it.
+/// What a window of any process answers; 0 when it is gone. Only a program that hangs reaches the limit.
 inline LRESULT AnswerOf(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     constexpr UINT limit = 300'000;
     DWORD_PTR result = 0;

@@ -28,7 +28,7 @@ void AddFiles(const std::filesystem::path& folder, std::set<std::string>& traces
     }
 }
 
-// Below "Wine" the platform itself keeps a list of shortcuts.
+// Below "Wine", Wine keeps a list of shortcuts.
 void AddKeys(HKEY parent, const std::string& path, std::set<std::string>& traces) {
     HKEY key = nullptr;
     if (path == "Software\\Wine" || ::RegOpenKeyExA(parent, path.c_str(), 0, KEY_READ, &key) != 0) return;
@@ -53,7 +53,7 @@ Process::Process(std::string commandLine) {
     process = started.hProcess;
 }
 
-// The shell may take a process of its own on the way.
+// The shell may start it by way of another process.
 Process Process::FromStartMenu() {
     ::ShellExecuteA(nullptr, nullptr, Shortcut().string().c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     HWND window = nullptr;

@@ -1,4 +1,4 @@
-// How does a test hold an installed copy of the program?
+// How does a test use an installed copy of the program?
 #pragma once
 
 #include <filesystem>
@@ -12,13 +12,12 @@
 inline const std::filesystem::path setup{"packages-tested/Huevox-" HUEVOX_VERSION "-setup.exe"};
 inline const std::filesystem::path newerSetup{"packages-tested/Huevox-" HUEVOX_NEWER_VERSION "-setup.exe"};
 
-/// The system's list of programs. It is all programs': the first that is entered makes it, and none removes
-/// it.
+/// The system's list of programs. All programs share it: the first one makes it, and none removes it.
 inline constexpr const char* programsKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall)";
 inline constexpr const char* uninstallKey = R"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox)";
 inline constexpr const char* settingsKey = R"(Software\Quorvane\Huevox 2004)";
 
-/// Started at once, ended by force, if need be, by the destructor.
+/// A process, started at once and ended by the destructor, by force if need be.
 class Process {
 public:
     /// Not through a shell: the installer wants its folder without quotes.
@@ -32,7 +31,7 @@ public:
 
     /// Its exit code, when it ends in time.
     [[nodiscard]] std::optional<int> waitForEnd() const;
-    /// Its window of that class that is on the screen, once there is one; nullptr when there is none in time.
+    /// Waits for a window of that class on the screen; nullptr when none comes.
     [[nodiscard]] HWND waitForWindow(const char* className) const;
 
 private:

@@ -1,4 +1,4 @@
-// What the about box looks like, and the pointer over it.
+// What do the about box and the pointer over it look like?
 #include <cstdlib>
 
 #include "help/frmAbout.h"

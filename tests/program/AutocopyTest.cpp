@@ -1,4 +1,5 @@
-// The preview without a chosen notation, which the running program has only before it is first activated.
+// What does the preview do without a chosen notation? The running program is so only before it is first
+// activated.
 #include "mainwindow/panels/Autocopy.h"
 
 #include "resources/resource.h"

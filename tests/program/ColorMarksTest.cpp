@@ -1,4 +1,4 @@
-// The marks' rules for the temporary placeholder, which no user can type.
+// What becomes of the temporary placeholder, which no user can type?
 #include "mainwindow/panels/ColorMarks.h"
 
 #include "resources/resource.h"

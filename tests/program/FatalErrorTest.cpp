@@ -1,4 +1,4 @@
-// The end of an error that nobody expected.
+// How does the program end by an error that nobody expected?
 #include "support/FatalError.h"
 
 #include <atomic>

@@ -1,4 +1,4 @@
-// How does a test hold the main window from inside?
+// How does a test use the main window from inside?
 #pragma once
 
 #include "mainwindow/frmMain.h"

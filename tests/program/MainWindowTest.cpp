@@ -1,4 +1,4 @@
-// The main window's menu, layout and handles, looked at from inside.
+// Are the main window's menu, layout and handles as they should be, seen from inside?
 #include <array>
 #include <string>
 #include <vector>
@@ -18,7 +18,7 @@ protected:
     bool isButtonEnabled(int command) const {
         return ::SendMessageA(control(IDC_tbrTools), TB_ISBUTTONENABLED, command, 0) != 0;
     }
-    /// What belongs to a mark stands one above the other, down to a row of pixels.
+    /// Expects a mark's controls to stand in one column, all above bottom.
     void expectColumn(int mark, LONG bottom) const {
         const RECT name = AreaOf(control(IDC_txtName + mark));
         const RECT option = AreaOf(control(IDC_optColor + mark));
@@ -86,7 +86,7 @@ std::vector<Child> Children(HWND window) {
 
 LONG StyleOf(const Child& child) { return ::GetWindowLongA(child.window, GWL_STYLE); }
 
-/// What is hidden takes the place of what is shown, by turns.
+/// A hidden control may stand where another is shown: they take turns.
 bool IsShown(const Child& child) { return (StyleOf(child) & WS_VISIBLE) != 0; }
 
 /// Frames stand around or behind other controls.
@@ -116,7 +116,7 @@ int FreeHandles() {
     return static_cast<int>(brushes.size());
 }
 
-/// Not those whose text is only spoken.
+/// Leaves out those whose text is for screen readers only.
 bool IsToBeRead(const Child& child) {
     const int id = ::GetDlgCtrlID(child.window);
     const bool isMarkOption = id >= IDC_optColor && id < IDC_optColor + 6;

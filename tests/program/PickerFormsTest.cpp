@@ -1,4 +1,5 @@
-// The palette windows looked at from inside: at any scaling, and with a sort index that no setting can have.
+// How do the palette windows look from inside, at any scaling, and with a sort index that no setting can
+// have?
 #include "core/Color.h"
 #include "tests/program/InsideWindow.h"
 #include "tests/program/MainWindowFixture.h"

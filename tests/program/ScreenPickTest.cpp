@@ -1,4 +1,4 @@
-// How does picking bear with a very long drag?
+// Does picking survive a very long drag?
 #include "tests/driver/Input.h"
 #include "tests/driver/Pixel.h"
 #include "tests/program/MainWindowFixture.h"
@@ -39,7 +39,7 @@ TEST_F(LongPick, StillReadsRightAndPaintsAfter30000Movements) {
 TEST_F(PickPointer, IsACrossFromThePressToTheRelease) {
     const HCURSOR arrow = ::LoadCursorA(nullptr, IDC_ARROW);
     const HCURSOR cross = ::LoadCursorA(nullptr, IDC_CROSS);
-    // What the platform asks at each movement.
+    // What Windows asks at each movement.
     const auto askForShape = [&] {
         ::SendMessageA(sample(0), WM_SETCURSOR, reinterpret_cast<WPARAM>(sample(0)),
                        MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));

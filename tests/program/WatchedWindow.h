@@ -1,4 +1,4 @@
-// What comes to a window meanwhile?
+// What happens to a window in the meantime?
 #pragma once
 
 #include <functional>

@@ -1,4 +1,4 @@
-// How does a test hold a form of its own?
+// How does a test use a form of its own?
 #pragma once
 
 #include <gtest/gtest.h>

@@ -148,7 +148,7 @@ TEST_F(About, AHeldKeyOpensTheLinkOnce) {
     KeyDown(VK_RETURN);
     EXPECT_BECOMES(ShellCommand::line(), ShellCommand::lineFor(homePageAddress));
     ShellCommand::forgetLine();
-    // As the keyboard repeats it; a key that is held by nobody's hand, Wine lets go of at any time.
+    // As the keyboard repeats it: Wine may release a key at any time that no hand holds.
     constexpr LPARAM repeated = 0x401C0001;
     ::PostMessageA(box.control(IDC_lblLink), WM_KEYDOWN, VK_RETURN, repeated);
     KeyUp(VK_RETURN);

@@ -22,15 +22,14 @@ protected:
 
 constexpr const char* builtHelp = "huevox.chm";
 
-/// Where Windows keeps its libraries for programs of as many bits as the program has.
+/// Where Windows keeps its libraries for programs of the program's word length.
 std::string SystemFolder() {
     DWORD kind = 0;
     EXPECT_TRUE(::GetBinaryTypeA(HUEVOX_EXE, &kind));
     return kind == SCS_32BIT_BINARY ? R"(C:\windows\syswow64\)" : R"(C:\windows\system32\)";
 }
 
-/// Wine takes a file for what it says it is, and its own viewer only where there is none, for as long as the
-/// value lives.
+/// Makes Wine take the file of the viewer before its own, for as long as the value lives.
 class FilesFirst {
 public:
     FilesFirst() {

@@ -1,4 +1,4 @@
-// After a burst of any input everything shows one colour.
+// Does everything show one colour after a burst of any input?
 #include <algorithm>
 #include <array>
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Can the program be used with the colours of a theme of high contrast?
+// Can the program be used in a theme of high contrast?
 #include <array>
 #include <string>
 
@@ -9,7 +9,8 @@
 
 namespace {
 
-/// Programs that start now draw their controls in the system's colours, as with every theme of high contrast.
+/// Makes programs that start now draw their controls in the system's colours, as in every theme of high
+/// contrast.
 class ThemeInactive {
 public:
     ThemeInactive() { use("0"); }

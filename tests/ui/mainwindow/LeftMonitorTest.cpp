@@ -1,4 +1,5 @@
-// A second monitor left of the first and higher: its places are negative. Run on a display that has one.
+// Does all work on a second monitor left of the first and higher, whose places are negative? Run on a display
+// that has one.
 #include "tests/driver/ColoredWindow.h"
 #include "tests/driver/PickerWindow.h"
 #include "tests/driver/Picking.h"

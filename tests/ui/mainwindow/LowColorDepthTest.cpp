@@ -1,4 +1,4 @@
-// Run on a display of 16 bits a pixel: what does the program say there?
+// What does the program say on a display of 16 bits a pixel? Run on one.
 #include "tests/driver/UiTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// How does a test reckon with the display's scaling?
+// How does a test allow for the display's scaling?
 #pragma once
 
 #include "toolkit/platform/Platform.h"

@@ -23,8 +23,8 @@ UINT DesktopsDpi() {
     return dpi ? std::stoul(dpi) : USER_DEFAULT_SCREEN_DPI;
 }
 
-/// The awareness of the process that a window belongs to. Not every system that knows the second version of
-/// that of monitors tells it by the window; a thread of the process's own always does.
+/// The awareness of a window's process. Not every system that knows per-monitor awareness in its second
+/// version tells it by the window; a thread of that process always does.
 DPI_AWARENESS_CONTEXT AwarenessOfProcess(HWND window) {
     const DWORD answer = ProcessOf(window).call("user32", "GetThreadDpiAwarenessContext");
     return reinterpret_cast<DPI_AWARENESS_CONTEXT>(static_cast<LONG_PTR>(static_cast<LONG>(answer)));

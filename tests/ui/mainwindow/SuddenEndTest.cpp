@@ -53,7 +53,7 @@ protected:
     }
     static std::string Content() { return ContentOf(OtherPathOf("mine.txt")); }
 
-    /// How long a save takes that nothing disturbs; it tells what the file is afterwards.
+    /// How long an undisturbed save takes; keeps what the file holds afterwards.
     Milliseconds TimeOfSave() {
         WriteContent(OtherPathOf("mine.txt"), before);
         const Huevox huevox;
@@ -102,7 +102,7 @@ protected:
         StoreText("StandardFolder", "C:\\");
     }
 
-    /// How long a start takes until it tells of the repair.
+    /// How long a start takes until it reports the repair.
     static Milliseconds TimeOfRepair() {
         StoreUnusable();
         const Milliseconds start = NowInMilliseconds();

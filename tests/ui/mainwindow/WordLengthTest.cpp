@@ -6,7 +6,7 @@ namespace {
 
 class WordLength : public UiTest {};
 
-/// Windows of 64 bits runs programs of 32 apart from its own.
+/// 64-bit Windows runs 32-bit programs apart from its own.
 bool RunsApart(HWND window) {
     BOOL isApart = FALSE;
     EXPECT_TRUE(::IsWow64Process(ProcessOf(window).handle(), &isApart)) << "error " << ::GetLastError();

@@ -6,7 +6,7 @@
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
-/// Notepad's window on a file; it is closed with the value.
+/// Notepad's window on a file, closed when the value ends.
 class NotepadOn {
 public:
     explicit NotepadOn(const std::string& name) {

@@ -34,7 +34,7 @@ std::vector<Color> AlphabeticalColors() {
     return colors;
 }
 
-/// Some that the order by hue is known for.
+/// Some places of the order by hue, and their colours.
 const std::vector<std::pair<int, Color>> byHue = {
     {0, ColorOf(0, 0, 0)},       {8, ColorOf(255, 255, 255)},
     {16, ColorOf(255, 0, 0)},    {39, almond},

@@ -1,4 +1,4 @@
-// The palette windows as windows: where they open, what they leave to others, and when they go.
+// Where do the palette windows open, what do they leave to other windows, and when do they go?
 #include <array>
 #include <utility>
 #include <vector>

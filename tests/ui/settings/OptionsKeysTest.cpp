@@ -46,7 +46,7 @@ const std::vector<Shown> controlTips = {
     {IDC_optDotNet, "Click here if the JavaScript Palette should be sorted as in Visual Studio .NET"},
 };
 
-/// Takes the mark of the access key out of a caption; the letter behind it, in upper case, or 0.
+/// Takes the access key's sign out of a caption. Returns the letter behind it in upper case, or 0.
 char TakeAccessKey(std::string& caption) {
     const std::size_t mark = caption.find('&');
     if (mark == std::string::npos) return 0;

@@ -55,7 +55,7 @@ void Store(const std::string& valueName, const Content& content) {
     ::RegCloseKey(key);
 }
 
-/// A colour changes, and the notation that there is follows.
+/// Changes a colour and expects the notation to follow.
 void Use(const Huevox& huevox, int notation) {
     EXPECT_EQ(huevox.listIndex(), notation);
     huevox.focusSlider(IDC_hsbGreen);

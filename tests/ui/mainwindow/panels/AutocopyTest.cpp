@@ -67,7 +67,7 @@ TEST_F(Autocopy, UnicodeTextIsNotLeftToThePlatform) {
     const Huevox huevox;
     ASSERT_BECOMES(ClipboardText(), "#FF0000");
     const ClipboardHeld held;
-    // What the platform makes of other formats comes after them.
+    // What Windows makes of other formats comes after them.
     EXPECT_EQ(::EnumClipboardFormats(0), static_cast<UINT>(CF_TEXT));
     EXPECT_EQ(::EnumClipboardFormats(CF_TEXT), static_cast<UINT>(CF_UNICODETEXT));
 }
@@ -79,7 +79,7 @@ TEST_F(Autocopy, NothingIsWrittenUntilADragPauses) {
     DWORD before = ::GetClipboardSequenceNumber();
     POINT thumb = huevox.thumb(IDC_hsbGreen, 0);
     PressButton(thumb);
-    // For well over the time of a copy. On a busy machine a step may itself come to a pause, and be copied.
+    // For well over the time of a copy. On a busy machine a step may itself last so long that it is copied.
     const ULONGLONG end = ::GetTickCount64() + 1500;
     for (int step = 0; ::GetTickCount64() < end; ++step) {
         thumb = huevox.thumb(IDC_hsbGreen, 60 + 10 * (step % 12));

@@ -21,7 +21,7 @@ void FindNames(const Huevox& huevox, std::string_view last = "magenta") {
     ASSERT_BECOMES(huevox.text(Name(5)), last);
 }
 
-/// Highlights a name: the colour changes and is then what it was.
+/// Highlights a name: changes the colour and changes it back.
 void ChangeAndBack(const Huevox& huevox, int mark, int slider) {
     huevox.selectMark(mark);
     huevox.focusSlider(slider);

@@ -1,4 +1,4 @@
-// The six colour marks: selecting, naming, highlighting.
+// How are the six colour marks selected, named and highlighted?
 #include <string>
 
 #include "tests/driver/UiTest.h"

@@ -104,7 +104,7 @@ TEST_F(ScreenPicking, APressAndReleaseWithoutMovingAppliesTheLastPick) {
     TurnPickModeOn(huevox);
     MoveMouse(Sample(huevox, 0));
     Hold(huevox, Sample(huevox, 0));
-    // The platform's own when a window comes or goes under a pointer that rests.
+    // As Windows sends one when a window comes or goes under a resting pointer.
     ::SendMessageA(huevox.control(IDC_picSample), WM_MOUSEMOVE, MK_LBUTTON, 0);
     ReleaseButton(Sample(huevox, 0));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
@@ -182,7 +182,7 @@ TEST_F(ScreenPicking, LosingTheMouseAppliesNothing) {
     TurnPickModeOn(huevox);
     Hold(huevox, Sample(huevox, 0));
     DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
-    // What the platform sends to whoever has captured the mouse when it takes it away.
+    // What Windows sends to the window that has captured the mouse when it takes the mouse away.
     ::PostMessageA(huevox.control(IDC_picSample), WM_CANCELMODE, 0, 0);
     EXPECT_BECOMES(IsShown(huevox, IDC_hsbRed), true);
     EXPECT_FALSE(IsShown(huevox, IDC_picPick));

@@ -14,8 +14,7 @@ void ChooseHex(const Huevox& huevox) {
     ASSERT_BECOMES(huevox.text(IDC_txtSetRed), "FF");
 }
 
-/// Writes into a box what no keyboard or paste would get past its limit of three characters: blanks around a
-/// value.
+/// Pastes a text over what stands in a box.
 void PasteInto(const Huevox& huevox, int box, const char* text) {
     CopyElsewhere(text);
     huevox.focusByClick(box);

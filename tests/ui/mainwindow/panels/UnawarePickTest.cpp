@@ -1,5 +1,4 @@
-// What does a pick take from the window of a program that knows nothing of scaling, and that the system may
-// scale?
+// What does a pick take from the window of a program that ignores scaling, which the system may scale?
 #include "tests/driver/Displayed.h"
 #include "tests/driver/Picking.h"
 #include "tests/driver/StartProgram.h"
