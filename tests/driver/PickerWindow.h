@@ -51,6 +51,11 @@ private:
     Grid grid;
 };
 
+/// Whether a button of the JavaScript window's tool bar is pressed.
+inline bool IsPressed(HWND javaScript, int command) {
+    return ::SendMessageA(::GetDlgItem(javaScript, IDC_tbrSortTools), TB_ISBUTTONCHECKED, command, 0) != 0;
+}
+
 /// The swatch shows the colour, and a click sets the sliders to it.
 void ExpectClick(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const Color& color);
 void ExpectTip(const Huevox& huevox, const PickerWindow& picker, const Swatch& swatch, const char* tip);

@@ -24,3 +24,10 @@ inline void DragTo(const Huevox& huevox, POINT place, const Color& expected) {
     MoveMouse(place);
     EXPECT_BECOMES(Preview(huevox), expected);
 }
+
+/// Presses a mark's sample, drags to a place of that colour and lets go there.
+inline void Pick(const Huevox& huevox, int mark, POINT place, const Color& color) {
+    Hold(huevox, Sample(huevox, mark));
+    DragTo(huevox, place, color);
+    ReleaseButton(place);
+}

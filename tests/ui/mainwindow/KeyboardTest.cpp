@@ -190,11 +190,8 @@ TEST_F(Keyboard, TheOrderOfTheJavaScriptColorsIsSwitched) {
     ASSERT_BECOMES(huevox.focused(), IDC_tbrSortTools);
     Press(VK_RIGHT);
     Press(VK_SPACE);
-    const auto isPressed = [&](int command) {
-        return ::SendMessageA(::GetDlgItem(picker, IDC_tbrSortTools), TB_ISBUTTONCHECKED, command, 0) != 0;
-    };
-    EXPECT_BECOMES(isPressed(IDM_DotNet), true);
-    EXPECT_FALSE(isPressed(IDM_Alphabetically));
+    EXPECT_BECOMES(IsPressed(picker, IDM_DotNet), true);
+    EXPECT_FALSE(IsPressed(picker, IDM_Alphabetically));
     Press(VK_TAB);
     Press(VK_RIGHT);
     Press(VK_HOME);
@@ -202,7 +199,7 @@ TEST_F(Keyboard, TheOrderOfTheJavaScriptColorsIsSwitched) {
     Press(VK_TAB);
     ASSERT_BECOMES(huevox.focused(), IDC_tbrSortTools);
     Press(VK_RETURN);
-    EXPECT_BECOMES(isPressed(IDM_Alphabetically), true);
+    EXPECT_BECOMES(IsPressed(picker, IDM_Alphabetically), true);
 }
 
 TEST_F(Names, EveryControlOfTheMainWindowAndThePaletteWindowsHasOne) {

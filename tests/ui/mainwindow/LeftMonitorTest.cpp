@@ -47,9 +47,7 @@ TEST_F(LeftMonitor, APickBeginsThereToo) {
     const Huevox huevox;
     MoveOver(huevox);
     TurnPickModeOn(huevox);
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
-    ReleaseButton(Sample(huevox, 3));
+    Pick(huevox, 0, Sample(huevox, 3), ColorOf(0, 255, 255));
     EXPECT_BECOMES(huevox.sample(0), ColorOf(0, 255, 255));
 }
 

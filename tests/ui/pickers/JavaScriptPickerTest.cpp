@@ -18,14 +18,10 @@ Swatch JavaScriptSwatch(int index) { return {index % 7, index / 7}; }
 
 HWND SortTools(const PickerWindow& picker) { return ::GetDlgItem(picker.window(), IDC_tbrSortTools); }
 
-bool IsPressed(const PickerWindow& picker, int command) {
-    return ::SendMessageA(SortTools(picker), TB_ISBUTTONCHECKED, command, 0) != 0;
-}
-
 /// Clicks a button of the tool bar and waits until it is pressed.
 void ChooseOrder(const Huevox& huevox, const PickerWindow& picker, int command) {
     Click(huevox.toolButton(SortTools(picker), command));
-    ASSERT_BECOMES(IsPressed(picker, command), true);
+    ASSERT_BECOMES(IsPressed(picker.window(), command), true);
 }
 
 std::vector<Color> AlphabeticalColors() {
@@ -105,11 +101,11 @@ TEST_F(PickersJavaScript, SwitchingTheOrderRecolorsAllSwatches) {
     const auto shown = [&](int i) { return javaScript.colorAt(JavaScriptSwatch(i)); };
     ExpectClick(huevox, javaScript, {0, 0}, ColorOf(0xF0, 0xF8, 0xFF));
     ChooseOrder(huevox, javaScript, IDM_DotNet);
-    EXPECT_FALSE(IsPressed(javaScript, IDM_Alphabetically));
+    EXPECT_FALSE(IsPressed(javaScript.window(), IDM_Alphabetically));
     for (const auto& known : byHue) EXPECT_BECOMES(shown(known.first), known.second);
     ExpectClick(huevox, javaScript, {0, 0}, ColorOf(0, 0, 0));
     ChooseOrder(huevox, javaScript, IDM_Alphabetically);
-    EXPECT_FALSE(IsPressed(javaScript, IDM_DotNet));
+    EXPECT_FALSE(IsPressed(javaScript.window(), IDM_DotNet));
     for (int i = 0; i < 140; ++i) EXPECT_BECOMES(shown(i), colors[i]);
 }
 
@@ -117,14 +113,14 @@ TEST_F(PickersJavaScript, ASwitchOfTheOrderLastsUntilTheWindowIsClosed) {
     StoreText("SortIndex", "1");
     const Huevox huevox;
     const PickerWindow javaScript(huevox, javaScriptGrid);
-    EXPECT_TRUE(IsPressed(javaScript, IDM_DotNet));
+    EXPECT_TRUE(IsPressed(javaScript.window(), IDM_DotNet));
     ChooseOrder(huevox, javaScript, IDM_Alphabetically);
     EXPECT_BECOMES(javaScript.colorAt({0, 0}), ColorOf(0xF0, 0xF8, 0xFF));
     javaScript.close();
     EXPECT_EQ(StoredText("SortIndex"), "1");
     javaScript.open();
-    EXPECT_TRUE(IsPressed(javaScript, IDM_DotNet));
-    EXPECT_FALSE(IsPressed(javaScript, IDM_Alphabetically));
+    EXPECT_TRUE(IsPressed(javaScript.window(), IDM_DotNet));
+    EXPECT_FALSE(IsPressed(javaScript.window(), IDM_Alphabetically));
     EXPECT_BECOMES(javaScript.colorAt({0, 0}), ColorOf(0, 0, 0));
 }
 
@@ -134,8 +130,9 @@ TEST_F(PickersJavaScript, TheButtonOfTheStoredOrderIsPressed) {
         StoreText("SortIndex", stored);
         const Huevox huevox;
         const PickerWindow javaScript(huevox, javaScriptGrid);
-        EXPECT_BECOMES(IsPressed(javaScript, command), true) << stored;
-        EXPECT_EQ(IsPressed(javaScript, IDM_Alphabetically), command == IDM_Alphabetically) << stored;
+        EXPECT_BECOMES(IsPressed(javaScript.window(), command), true) << stored;
+        EXPECT_EQ(IsPressed(javaScript.window(), IDM_Alphabetically), command == IDM_Alphabetically)
+            << stored;
     }
 }
 

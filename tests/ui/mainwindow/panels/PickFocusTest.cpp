@@ -12,9 +12,7 @@ TEST_F(PickFocus, IsWhereItWas) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
     huevox.focusSlider(IDC_hsbGreen);
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
-    ReleaseButton(Sample(huevox, 4));
+    Pick(huevox, 0, Sample(huevox, 4), ColorOf(0, 0, 255));
     EXPECT_BECOMES(huevox.focused(), IDC_hsbGreen);
     Press(VK_RIGHT);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 1, 255));
@@ -33,14 +31,10 @@ TEST_F(PickFocus, OfAnEarlierPickDoesNotComeBack) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
     huevox.focusSlider(IDC_hsbGreen);
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
-    ReleaseButton(Sample(huevox, 4));
+    Pick(huevox, 0, Sample(huevox, 4), ColorOf(0, 0, 255));
     ASSERT_BECOMES(huevox.focused(), IDC_hsbGreen);
     huevox.focusByClick(Name(2));
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
-    ReleaseButton(Sample(huevox, 3));
+    Pick(huevox, 0, Sample(huevox, 3), ColorOf(0, 255, 255));
     ASSERT_BECOMES(IsShown(huevox, IDC_hsbBlue), true);
     Type("x");
     EXPECT_BECOMES(huevox.text(Name(2)), "x");

@@ -89,9 +89,7 @@ TEST_F(ScreenPicking, AReleaseOfTheRightButtonAppliesBlackAndLaterTheLastPick) {
     TurnPickModeOn(huevox);
     RightClick(Sample(huevox, 0));
     EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
-    Hold(huevox, Sample(huevox, 0));
-    DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
-    ReleaseButton(Sample(huevox, 4));
+    Pick(huevox, 0, Sample(huevox, 4), ColorOf(0, 0, 255));
     ASSERT_BECOMES(huevox.sliders(), ColorOf(0, 0, 255));
     huevox.selectMark(1);
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 255, 0));
