@@ -64,27 +64,26 @@ inline void ForgetQuit() {
     while (::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
 }
 
+/// Dispatches what is waiting now.
+inline void PumpAll() {
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (Form::preTranslate(message)) continue;
+        ::TranslateMessage(&message);
+        ::DispatchMessageA(&message);
+    }
+}
+
 /// Dispatches messages until condition is true. False when it does not become true.
 template <class Condition>
-bool PumpUntil(Condition condition) {
+[[nodiscard]] bool PumpUntil(Condition condition) {
     const Patience patience;
     while (!condition()) {
         if (patience.isOver()) return false;
-        MSG message;
-        while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (Form::preTranslate(message)) continue;
-            ::TranslateMessage(&message);
-            ::DispatchMessageA(&message);
-        }
+        PumpAll();
         ::Sleep(1);
     }
     return true;
-}
-
-/// Dispatches what is waiting now.
-inline void PumpAll() {
-    bool isPumped = false;
-    PumpUntil([&] { return std::exchange(isPumped, true); });
 }
 
 #endif

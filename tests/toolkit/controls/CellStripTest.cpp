@@ -1,8 +1,5 @@
 // Many colours in one window: where they stand, what they paint, and what is left of them by a new window.
 #include "toolkit/controls/CellStrip.h"
-#include "toolkit/controls/ControlClasses.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <string>
@@ -11,8 +8,7 @@
 
 #include "tests/driver/Input.h"
 #include "tests/driver/WindowText.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 
 namespace {
 
@@ -23,21 +19,13 @@ constexpr std::array<PackedColor, 2> redAndGreen = {red, green};
 /// 100 by 20 pixels at 96 DPI.
 const std::vector<Area> overlapping = {{0, 0, 900, 300}, {750, 0, 1500, 300}};
 
-class CellStripTest : public testing::Test {
+class CellStripTest : public FormTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
+        FormTest::SetUp();
         form.cellTest.setPlaces(overlapping);
     }
     void TearDown() override { form.unload(); }
-
-    void show() {
-        form.load();
-        form.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
-        PumpAll();
-    }
 
     COLORREF pixel(int x) {
         ::UpdateWindow(form.cellTest.handle());
@@ -46,8 +34,6 @@ protected:
         ::ReleaseDC(form.cellTest.handle(), context);
         return color;
     }
-
-    TestForm form;
 };
 
 /// The text of the tool tip that is on the screen.
@@ -86,7 +72,7 @@ TEST_F(CellStripTest, OfCellsThatOverlapTheLatersTipIsShown) {
     form.cellTest.setTips({"first", "second"});
     const auto hover = [&](int x) {
         MoveMouse({1, 1});
-        PumpUntil([] { return ShownTip().empty(); });
+        ASSERT_TRUE(PumpUntil([] { return ShownTip().empty(); }));
         MoveMouse(OnScreen(form.cellTest.handle(), {x, 4}));
         MoveMouse(OnScreen(form.cellTest.handle(), {x, 5}));
     };

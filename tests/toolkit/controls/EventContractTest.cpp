@@ -1,27 +1,19 @@
 // Does a write from code raise the event? One test a control, and the user's side of each.
-#include <gtest/gtest.h>
-
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "tests/driver/Input.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 #include "toolkit/forms/MsgBox.h"
 
 namespace {
 
-class EventContract : public testing::Test {
+class EventContract : public FormTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
-        form.load();
-        form.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
-        PumpAll();
+        FormTest::SetUp();
+        show();
     }
     void TearDown() override { form.unload(); }
 
@@ -29,7 +21,6 @@ protected:
         event.bind([this] { ++raised; });
     }
 
-    TestForm form;
     int raised = 0;
 };
 

@@ -1,6 +1,4 @@
 // A form that the others wait for.
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <string>
 #include <utility>
@@ -8,9 +6,7 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 #include "toolkit/platform/WindowPlace.h"
 
 namespace {
@@ -23,15 +19,14 @@ struct ModalForm : Form {
     Button cmdCancel{*this, IDC_cmdCancel};
 };
 
-class ModalFormTest : public testing::Test {
+class ModalFormTest : public FormsTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
+        FormsTest::SetUp();
         main.load();
         main.show(SW_SHOWNORMAL);
         other.load();
-        PumpUntil([&] { return ::GetForegroundWindow() == main.handle(); });
+        WaitForFront(main);
         dialog.cmdOK.Click.bind([&] { closeBy("OK"); });
         dialog.cmdCancel.Click.bind([&] { closeBy("Cancel"); });
     }

@@ -1,28 +1,18 @@
 // What does Yield let through, and what waits for the end of the handler?
-#include <gtest/gtest.h>
-
 #include <thread>
 
 #include "tests/driver/Input.h"
-#include "tests/toolkit/TestForm.h"
-#include "toolkit/controls/ControlClasses.h"
-#include "toolkit/forms/MessageLoop.h"
+#include "tests/toolkit/FormFixture.h"
 
 namespace {
 
-class YieldTest : public testing::Test {
+class YieldTest : public FormTest {
 protected:
     void SetUp() override {
-        ForgetQuit();
-        RegisterControlClasses();
-        form.load();
-        form.show(SW_SHOWNORMAL);
-        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
-        PumpAll();
+        FormTest::SetUp();
+        show();
     }
     void TearDown() override { form.unload(); }
-
-    TestForm form;
 };
 
 }  // namespace
