@@ -100,8 +100,7 @@ protected:
         gone.form.unload();
         gone.bar.unload();
         bindEvents();
-        PumpUntil([&] { return ::GetForegroundWindow() == form.handle(); });
-        PumpAll();
+        WaitForFront(form);
         form.picTest.captureMouse();
     }
     void TearDown() override {
