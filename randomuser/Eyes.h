@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "randomuser/Look.h"
+#include "randomuser/model/Look.h"
 #include "toolkit/platform/Platform.h"
 
 /// How much is looked at: whether the program runs and answers, what is in front and the preview, and of the

@@ -2,9 +2,9 @@
 
 #include "mainwindow/panels/ColorRamp.h"
 #include "randomuser/Eyes.h"
-#include "randomuser/Facts.h"
-#include "randomuser/Model.h"
 #include "randomuser/Screen.h"
+#include "randomuser/model/Facts.h"
+#include "randomuser/model/Model.h"
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
 

@@ -4,11 +4,11 @@
 #include <functional>
 #include <map>
 
-#include "randomuser/Action.h"
 #include "randomuser/Eyes.h"
-#include "randomuser/Model.h"
 #include "randomuser/OtherProgram.h"
 #include "randomuser/Soon.h"
+#include "randomuser/model/Action.h"
+#include "randomuser/model/Model.h"
 #include "tests/driver/Huevox.h"
 
 /// Acts on the running program. What depends on its state is taken from the model before the action.

@@ -10,10 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "randomuser/Chooser.h"
 #include "randomuser/Options.h"
 #include "randomuser/Session.h"
 #include "randomuser/Shorten.h"
+#include "randomuser/model/Chooser.h"
 #include "tests/core/NamedColors.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "randomuser/Action.h"
+#include "randomuser/model/Action.h"
 
 struct Options {
     unsigned seed = 1;

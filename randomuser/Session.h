@@ -7,8 +7,8 @@
 
 #include "randomuser/Eyes.h"
 #include "randomuser/Hands.h"
-#include "randomuser/Model.h"
 #include "randomuser/OtherProgram.h"
+#include "randomuser/model/Model.h"
 #include "tests/driver/Huevox.h"
 #include "tests/driver/Usage.h"
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "randomuser/Action.h"
+#include "randomuser/model/Action.h"
 
 /// The end of the sequence that is enough, twice as long at every try. The first action starts the program
 /// and stays. fails plays a sequence from the start; mayGoOn tells whether there is time for another.

@@ -1,4 +1,4 @@
-#include "randomuser/Chooser.h"
+#include "randomuser/model/Chooser.h"
 
 #include <array>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 
 #include "resources/resource.h"
-#include "tests/randomuser/SoakModel.h"
+#include "tests/randomuser/model/SoakModel.h"
 
 TEST_F(SoakModel, BeginsWithANewPalette) {
     const Look look = model.look();

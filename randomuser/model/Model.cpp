@@ -1,4 +1,4 @@
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 
 #include <algorithm>
 #include <cctype>

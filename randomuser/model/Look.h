@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "randomuser/PaletteText.h"
+#include "randomuser/model/PaletteText.h"
 
 /// The windows that can be in front: three palette windows, the main window, another program's, or none of
 /// them.

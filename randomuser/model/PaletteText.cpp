@@ -1,6 +1,6 @@
-#include "randomuser/PaletteText.h"
+#include "randomuser/model/PaletteText.h"
 
-#include "randomuser/Facts.h"
+#include "randomuser/model/Facts.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 #include "tests/core/NamedColors.h"
 
 inline constexpr int yes = 6;

@@ -1,8 +1,8 @@
-#include "randomuser/Chooser.h"
+#include "randomuser/model/Chooser.h"
 
 #include <algorithm>
 
-#include "tests/randomuser/SoakModel.h"
+#include "tests/randomuser/model/SoakModel.h"
 
 TEST_F(SoakModel, IsNeverAtALossForTheNextAction) {
     Chooser chooser(7);

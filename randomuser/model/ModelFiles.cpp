@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 
 namespace {
 

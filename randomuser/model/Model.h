@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "randomuser/Action.h"
-#include "randomuser/Facts.h"
-#include "randomuser/Look.h"
+#include "randomuser/model/Action.h"
+#include "randomuser/model/Facts.h"
+#include "randomuser/model/Look.h"
 
 /// Where the files of the session stand.
 inline constexpr const char* filesFolder = "C:\\Huevox Soak";

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 
 namespace {
 

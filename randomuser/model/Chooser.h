@@ -4,8 +4,8 @@
 #include <random>
 #include <string>
 
-#include "randomuser/Action.h"
-#include "randomuser/Model.h"
+#include "randomuser/model/Action.h"
+#include "randomuser/model/Model.h"
 
 /// The same seed and the same states give the same actions on every platform.
 class Chooser {

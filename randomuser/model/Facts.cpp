@@ -1,4 +1,4 @@
-#include "randomuser/Facts.h"
+#include "randomuser/model/Facts.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 #include "resources/resource.h"
 
 void Model::playKeys(const Action& action) {

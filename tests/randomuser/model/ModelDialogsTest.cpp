@@ -1,4 +1,4 @@
-#include "tests/randomuser/SoakModel.h"
+#include "tests/randomuser/model/SoakModel.h"
 
 TEST_F(SoakModel, AsksBeforeAChangedPaletteGoes) {
     moveRed();

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "randomuser/Model.h"
+#include "randomuser/model/Model.h"
 #include "resources/resource.h"
 
 Look Model::look() const {

@@ -1,4 +1,4 @@
-#include "randomuser/Action.h"
+#include "randomuser/model/Action.h"
 
 #include <gtest/gtest.h>
 
