@@ -4,7 +4,7 @@
 #include "randomuser/Eyes.h"
 #include "randomuser/Screen.h"
 #include "randomuser/model/Facts.h"
-#include "randomuser/model/Model.h"
+#include "randomuser/model/SessionFiles.h"
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "randomuser/Soon.h"
+#include "randomuser/model/Pick.h"
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
 
@@ -23,11 +24,10 @@ void PressSteps(WORD forward, WORD back, int steps) {
 
 }  // namespace
 
-std::string Hands::play(const Action& action, const Model& before) {
+std::string Hands::play(const Action& action, const Look& before) {
     missing.clear();
-    const Look look = before.look();
     // Keys and clicks that come before their window takes them go elsewhere.
-    look.box.isOpen() ? bringBox() : bring(look.front);
+    before.box.isOpen() ? bringBox() : bring(before.front);
     if (missing.empty()) {
         playSliders(action);
         playBoxes(action);
@@ -173,8 +173,8 @@ void Hands::playBoxes(const Action& action) {
     }
 }
 
-void Hands::playPicks(const Action& action, const Model& before) {
-    const int selected = before.look().selected;
+void Hands::playPicks(const Action& action, const Look& before) {
+    const int selected = before.selected;
     switch (action.kind) {
         case Kind::selectMark: clickOn(IDC_optColor + action.which); break;
         case Kind::markKeys:
@@ -192,10 +192,10 @@ void Hands::playPicks(const Action& action, const Model& before) {
     }
 }
 
-void Hands::playKeys(const Action& action, const Model& before) {
+void Hands::playKeys(const Action& action, const Look& before) {
     switch (action.kind) {
         case Kind::barKeys:
-            focusOn(IDC_optColor + before.look().selected);
+            focusOn(IDC_optColor + before.selected);
             Press(VK_TAB);
             awaitFocus(eyes.control(IDC_lblColorBar));
             Press(action.which == 0 ? VK_HOME : VK_END);
@@ -218,11 +218,11 @@ void Hands::playKeys(const Action& action, const Model& before) {
 }
 
 /// Moves, as a hand does, until the preview has followed.
-void Hands::pick(const Action& action, const Model& before) {
+void Hands::pick(const Action& action, const Look& before) {
     const HWND preview = eyes.control(IDC_picPick);
     const POINT place =
         action.which < 6 ? CenterOf(eyes.control(IDC_picSample + action.which)) : eyes.barStep(action.value);
-    const POINT sample = CenterOf(eyes.control(IDC_picSample + before.look().selected));
+    const POINT sample = CenterOf(eyes.control(IDC_picSample + before.selected));
     uncover(eyes.main(), sample);
     PressButton(sample);
     await("a preview of the pick", [&] { return ::IsWindowVisible(preview) != FALSE; });
@@ -230,7 +230,7 @@ void Hands::pick(const Action& action, const Model& before) {
     await("the pick's colour", [&] {
         ++movements;
         MoveMouse({place.x, place.y + movements % 2});
-        return Pixel(CenterOf(preview)) == before.pickTarget(action);
+        return Pixel(CenterOf(preview)) == PickTarget(before.marks, before.selected, action);
     });
     ReleaseButton(place);
     await("the end of a pick", [&] { return ::IsWindowVisible(preview) == FALSE; });

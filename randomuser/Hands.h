@@ -8,7 +8,7 @@
 #include "randomuser/OtherProgram.h"
 #include "randomuser/Soon.h"
 #include "randomuser/model/Action.h"
-#include "randomuser/model/Model.h"
+#include "randomuser/model/Look.h"
 #include "tests/driver/Huevox.h"
 
 /// Acts on the running program. What depends on its state is taken from the model before the action.
@@ -19,7 +19,7 @@ public:
         : huevox(huevox), eyes(eyes), other(other), patience(patience) {}
 
     /// What the action has needed and has waited for in vain, or "".
-    std::string play(const Action& action, const Model& before);
+    std::string play(const Action& action, const Look& before);
     /// Movements while picking: each may cost a context of the screen.
     int pickMovements() const { return movements; }
 
@@ -29,12 +29,12 @@ public:
 private:
     void playSliders(const Action& action);
     void playBoxes(const Action& action);
-    void playPicks(const Action& action, const Model& before);
-    void playKeys(const Action& action, const Model& before);
+    void playPicks(const Action& action, const Look& before);
+    void playKeys(const Action& action, const Look& before);
     void playCommand(const Action& action);
     void playDialogs(const Action& action);
-    void playWindows(const Action& action, const Model& before);
-    void playOutside(const Action& action, const Model& before);
+    void playWindows(const Action& action, const Look& before);
+    void playOutside(const Action& action, const Look& before);
 
     /// Waits until condition is true, or nothing can come any more because the program has ended.
     template <class Condition>
@@ -60,7 +60,7 @@ private:
     void awaitFocus(HWND window);
     void retype(int id, const std::string& text);
     void dragSlider(int slider, int from, int to);
-    void pick(const Action& action, const Model& before);
+    void pick(const Action& action, const Look& before);
     void openPicker(int index);
     void clickSwatch(const Action& action);
     void uncover(HWND window, POINT place);

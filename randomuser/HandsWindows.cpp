@@ -68,7 +68,7 @@ POINT Hands::toolButton(int command) {
     return toolButtons[command] = huevox.toolButton(command);
 }
 
-void Hands::playWindows(const Action& action, const Model& before) {
+void Hands::playWindows(const Action& action, const Look& before) {
     switch (action.kind) {
         case Kind::openPicker: openPicker(action.which); break;
         case Kind::swatch:
@@ -81,15 +81,13 @@ void Hands::playWindows(const Action& action, const Model& before) {
             break;
         }
         case Kind::closePicker:
-            if (before.look().front == Front::main) waitForInput();
+            if (before.front == Front::main) waitForInput();
             closePicker(action.which);
             break;
         case Kind::comeBack: clickAt(eyes.emptyPlace()); break;
         case Kind::close: close(action.which); break;
         case Kind::answer: answer(action); break;
-        case Kind::choosePath:
-            choosePath(action.text, before.look().box.title == "Open Palette In Notepad");
-            break;
+        case Kind::choosePath: choosePath(action.text, before.box.title == "Open Palette In Notepad"); break;
         case Kind::cancelDialog: Press(VK_ESCAPE); break;
         case Kind::vainClick: vainClick(action.value); break;
         default: break;
@@ -143,11 +141,10 @@ void Hands::close(int way) {
     if (way == 2) chooseFromMenu('F', 'E');
 }
 
-void Hands::playOutside(const Action& action, const Model& before) {
-    const Look look = before.look();
+void Hands::playOutside(const Action& action, const Look& before) {
     switch (action.kind) {
         case Kind::otherInFront:
-            if (look.front == Front::main) waitForInput();
+            if (before.front == Front::main) waitForInput();
             other.takeForeground();
             break;
         case Kind::otherCopies: CopyElsewhere(action.text); break;

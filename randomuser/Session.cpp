@@ -42,8 +42,9 @@ Session::Program::~Program() {
 }
 
 std::string Session::play(const Action& action) {
-    const Model before = model;
-    const Look earlier = before.look();
+    const Look earlier = model.look();
+    const Files filesBefore = model.files();
+    const ClipboardFact clipboardBefore = model.clipboard();
     model.play(action);
     const double begin = NowInMilliseconds();
     const bool isAll = ++steps % stepsToEverything == 0 || action.kind == Kind::start;
@@ -52,12 +53,12 @@ std::string Session::play(const Action& action) {
     if (action.kind == Kind::start) {
         found = start(action.value);
     } else {
-        found = program->hands->play(action, before);
+        found = program->hands->play(action, earlier);
     }
     if (found.empty() && action.kind == Kind::settle) found = settle();
     if (found.empty()) found = agree(earlier, extent);
-    if (found.empty()) found = filesDifference(before.files());
-    if (found.empty()) found = clipboardDifference(before);
+    if (found.empty()) found = filesDifference(filesBefore);
+    if (found.empty()) found = clipboardDifference(clipboardBefore);
     if (!model.look().isRunning) {
         program.reset();
     } else {
@@ -120,12 +121,12 @@ std::string Session::filesDifference(const Files& before) const {
 }
 
 /// What was copied stays, and while a copy is due its time counts from now.
-std::string Session::clipboardDifference(const Model& before) {
+std::string Session::clipboardDifference(const ClipboardFact& before) {
     const ClipboardFact& clipboard = model.clipboard();
     const DWORD number = ::GetClipboardSequenceNumber();
-    const bool wasKnown = before.clipboard().state == ClipboardFact::State::known;
+    const bool wasKnown = before.state == ClipboardFact::State::known;
     const bool isKnown = clipboard.state == ClipboardFact::State::known;
-    const bool isKept = wasKnown && isKnown && clipboard.text == before.clipboard().text;
+    const bool isKept = wasKnown && isKnown && clipboard.text == before.text;
     if (isKept && !clipboard.isHeld && number != clipboardNumber && ClipboardText() != clipboard.text)
         return "clipboard: expected " + clipboard.text + ", seen " + ClipboardText();
     clipboardNumber = number;

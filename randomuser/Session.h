@@ -67,7 +67,7 @@ private:
     [[nodiscard]] std::string start(int variant);
     std::string agree(const Look& earlier, Extent extent);
     std::string filesDifference(const Files& before) const;
-    std::string clipboardDifference(const Model& before);
+    std::string clipboardDifference(const ClipboardFact& before);
     std::string settle();
     void measure(const Action& action, double milliseconds);
 

@@ -108,6 +108,10 @@ std::optional<Color> Facts::colorByHue(int index) const {
     return Unpack(javaScript.at(found->second));
 }
 
+int ChannelOf(const Color& color, int channel) {
+    return channel == 0 ? color.red : channel == 1 ? color.green : color.blue;
+}
+
 Color WebsafeColor(int index) { return ColorOf(index / 36 % 6 * 51, index / 6 % 6 * 51, index % 6 * 51); }
 
 Color FailsafeColor(int index) {

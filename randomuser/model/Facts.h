@@ -37,6 +37,9 @@ private:
 inline constexpr const char* noName = "Type a colour name";
 inline constexpr const char* notJavaScript = "Not JavaScript colour";
 
+/// channel: 0 red, 1 green, 2 blue.
+int ChannelOf(const Color& color, int channel);
+
 Color WebsafeColor(int index);
 Color FailsafeColor(int index);
 

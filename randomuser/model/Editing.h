@@ -1,0 +1,39 @@
+// What comes of a colour that is chosen, or shown once more?
+#pragma once
+
+#include <optional>
+
+#include "randomuser/model/Action.h"
+#include "randomuser/model/Box.h"
+#include "randomuser/model/Clipboard.h"
+#include "randomuser/model/MarkSet.h"
+#include "randomuser/model/Values.h"
+
+/// Everyone who chooses a colour comes here.
+class Editing {
+public:
+    Editing(MarkSet& marks, Values& values, Box& box, ClipboardFact& clipboard)
+        : marks(marks), values(values), box(box), clipboard(clipboard) {}
+
+    bool hasCopied() const { return copied.has_value(); }
+
+    void setColor(const Color& color);
+    /// What is shown of the colour is written anew.
+    void applyAgain();
+    void moveSlider(int slider, int value);
+    void stepSlider(int slider, int steps);
+    void pressSliderKey(int slider, SliderKey key);
+    void select(int mark);
+    void selectBeside(int steps);
+    void applyValues();
+    void setMode(bool wantsDecimal);
+    void copy() { copied = marks.current(); }
+    void paste();
+
+private:
+    MarkSet& marks;
+    Values& values;
+    Box& box;
+    ClipboardFact& clipboard;
+    std::optional<Color> copied;
+};

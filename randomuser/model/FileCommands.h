@@ -1,0 +1,52 @@
+// Which palette is shown, and what comes of the commands of the File menu?
+#pragma once
+
+#include <string>
+
+#include "randomuser/model/Dialogs.h"
+#include "randomuser/model/Editing.h"
+#include "randomuser/model/SessionFiles.h"
+#include "randomuser/model/Windows.h"
+
+/// Those that ask first, when there is something to save.
+enum class FileCommand { none, newPalette, open, close };
+
+/// A command that asks first is remembered until the last box that it needs is answered.
+class FileCommands {
+public:
+    FileCommands(Editing& editing, MarkSet& marks, const Dialogs& dialogs, Box& box, Windows& windows)
+        : editing(editing), marks(marks), dialogs(dialogs), box(box), windows(windows) {}
+
+    const Files& files() const { return allFiles; }
+    bool isChanged() const;
+    void tell(Look& look) const { look.title = "Huevox - " + paletteName; }
+
+    /// The program has just started.
+    void start();
+    void begin(FileCommand command);
+    void goOn();
+    void giveUp() { after = FileCommand::none; }
+    void save();
+    void saveChosen() { saveTo(chosenPath); }
+    void choosePath(const std::string& path);
+    void cancelDialog();
+
+private:
+    void newPalette();
+    void saveTo(const std::string& path);
+    void openFile(const std::string& path);
+    void showPalette(const SixMarks& palette, const std::string& name);
+
+    Editing& editing;
+    MarkSet& marks;
+    const Dialogs& dialogs;
+    Box& box;
+    Windows& windows;
+    SixMarks saved;
+    std::string paletteName;
+    std::string folder;
+    std::string chosenPath;
+    Files allFiles;
+    FileCommand after = FileCommand::none;
+    bool wasLastOpenAccepted = false;
+};

@@ -1,0 +1,55 @@
+#include "randomuser/model/Parts.h"
+
+namespace {
+
+constexpr int cancel = 2;
+constexpr int yes = 6;
+
+}  // namespace
+
+void Parts::start(const StoredSettings& found) {
+    windows.open();
+    dialogs.load(found);
+    codeChoice.begin(found.formatIndex);
+    fileCommands.start();
+}
+
+void Parts::showReport() {
+    const std::string& name = marks.currentName();
+    const bool isOffer = !facts.offeredName(marks.current(), name).empty();
+    box.show(isOffer ? Box::Kind::offer : Box::Kind::report, facts.report(marks.current(), name));
+}
+
+void Parts::answer(int button) {
+    switch (box.close()) {
+        case Box::Kind::question:
+            if (button == yes) return fileCommands.save();
+            return button == cancel ? fileCommands.giveUp() : fileCommands.goOn();
+        case Box::Kind::refusal: return values.endTyping();
+        case Box::Kind::offer:
+            if (button == yes) marks.typeName(marks.selectedMark(), facts.nameOf(marks.current()));
+            return;
+        case Box::Kind::fatal: return windows.end(1);
+        case Box::Kind::message: return fileCommands.goOn();
+        case Box::Kind::overwrite:
+            return button == yes ? fileCommands.saveChosen() : box.show(Box::Kind::save);
+        default: return;
+    }
+}
+
+Look Parts::look() const {
+    Look look;
+    windows.tell(look);
+    if (!look.isRunning) return {.exitCode = look.exitCode};
+    box.tell(look);
+    dialogs.tell(look);
+    fileCommands.tell(look);
+    marks.tell(look);
+    values.tell(look);
+    codeChoice.tell(look);
+    look.preview = preview();
+    look.isPickMode = pick.isOn();
+    look.isPasteEnabled = editing.hasCopied();
+    look.focus = focus;
+    return look;
+}

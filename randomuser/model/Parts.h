@@ -1,0 +1,34 @@
+// What does Huevox consist of, told once more in plain words?
+#pragma once
+
+#include "randomuser/model/CodeChoice.h"
+#include "randomuser/model/FileCommands.h"
+#include "randomuser/model/Pick.h"
+
+/// The parts of the model: of one start of the program, until the next.
+struct Parts {
+    explicit Parts(const Facts& facts) : facts(facts) {}
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+    ~Parts() = default;
+
+    void start(const StoredSettings& found);
+    /// A message's answer, by the number of its button.
+    void answer(int button);
+    void showReport();
+    Look look() const;
+    std::string preview() const { return codeChoice.preview(marks.current(), dialogs.inUse().customFormat); }
+
+    const Facts& facts;
+    ClipboardFact clipboard = {};
+    Windows windows{facts, clipboard};
+    Box box{clipboard};
+    MarkSet marks{facts};
+    Values values = {};
+    Editing editing{marks, values, box, clipboard};
+    CodeChoice codeChoice{facts, editing};
+    Pick pick{editing, marks};
+    Dialogs dialogs{box};
+    FileCommands fileCommands{editing, marks, dialogs, box, windows};
+    int focus = 0;  ///< the control that must have it, 0 for any
+};
