@@ -1,11 +1,13 @@
 // What can a user, or another program, do to Huevox in one step?
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+/// Each has a row in Rows.cpp, which tells all but the keys and clicks that it takes.
 enum class Kind {
     start,        ///< value: the stored settings that the program finds
     sliderKeys,   ///< which: 0 to 2; value: the key plus 8 times how often
@@ -63,7 +65,10 @@ enum class Kind {
     openAbout,
     closeDialog,  ///< which: 0 by Enter or Escape, 1 by the access key; value: 1 OK, 2 Cancel
     help,         ///< which: as of all commands; the help is shown and closed
+    count,        ///< stays the last: so many kinds there are
 };
+
+inline constexpr auto kindCount = static_cast<std::size_t>(Kind::count);
 
 /// The keys of a slider, in this order.
 enum class SliderKey { left, right, up, down, pageUp, pageDown, home, end };

@@ -30,6 +30,10 @@ void Editing::stepSlider(int slider, int steps) {
     moveSlider(slider, ChannelOf(marks.current(), slider) + steps);
 }
 
+void Editing::pressSliderKeys(int slider, int keys) {
+    for (int times = keys / 8; times > 0; --times) pressSliderKey(slider, static_cast<SliderKey>(keys % 8));
+}
+
 void Editing::pressSliderKey(int slider, SliderKey key) {
     switch (key) {
         case SliderKey::left:
@@ -57,6 +61,10 @@ void Editing::applyValues() {
     if (!typed) return box.show(Box::Kind::refusal, values.refusal());
     setColor(*typed);
     values.endTyping();
+}
+
+void Editing::pressSet() {
+    if (values.canSet()) applyValues();
 }
 
 void Editing::setMode(bool wantsDecimal) {

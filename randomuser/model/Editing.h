@@ -22,15 +22,21 @@ public:
     void applyAgain();
     void moveSlider(int slider, int value);
     void stepSlider(int slider, int steps);
-    void pressSliderKey(int slider, SliderKey key);
+    /// keys: as the value of Kind::sliderKeys.
+    void pressSliderKeys(int slider, int keys);
+    /// A step of the bar.
+    void takeStep(int step) { setColor(BarColor(marks.current(), step)); }
     void select(int mark);
     void selectBeside(int steps);
     void applyValues();
+    void pressSet();
     void setMode(bool wantsDecimal);
     void copy() { copied = marks.current(); }
     void paste();
 
 private:
+    void pressSliderKey(int slider, SliderKey key);
+
     MarkSet& marks;
     Values& values;
     Box& box;

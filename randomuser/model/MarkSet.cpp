@@ -34,7 +34,8 @@ void MarkSet::refreshLetters() {
 /// Typed, so nothing that was empty and stays so is a change.
 void MarkSet::typeName(int mark, const std::string& name) {
     if (name.empty() && six.names.at(mark).empty()) return;
-    six.names.at(mark) = name == notJavaScript ? noName : name;
+    constexpr std::size_t longest = 21;
+    six.names.at(mark) = name == notJavaScript ? noName : name.substr(0, longest);
     highlighted.at(mark) = false;
 }
 

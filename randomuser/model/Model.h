@@ -21,14 +21,6 @@ public:
     bool isChanged() const { return parts->fileCommands.isChanged(); }
 
 private:
-    void playOutside(const Action& action);
-    void playEditing(const Action& action);
-    void playKeys(const Action& action);
-    void playFiles(const Action& action);
-    void playDialogs(const Action& action);
-    bool isPossibleInDialog(const Action& action) const;
-    bool isPossibleInMain(const Action& action) const;
-
     const Facts& facts;
     std::unique_ptr<Parts> parts;
 };

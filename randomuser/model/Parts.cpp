@@ -14,6 +14,29 @@ void Parts::start(const StoredSettings& found) {
     fileCommands.start();
 }
 
+void Parts::takeSwatch(int picker, int index) {
+    windows.comeToPicker(picker);
+    editing.setColor(*windows.swatchColor(picker, index));
+}
+
+void Parts::takeSwatchBeside(int picker, int index) {
+    takeSwatch(picker, index);
+    takeSwatch(picker, SwatchRightOf(picker, index));
+}
+
+void Parts::openPalette() {
+    if (!pick.isOn()) fileCommands.begin(FileCommand::open);
+}
+
+void Parts::openInNotepad() {
+    if (!pick.isOn()) box.show(Box::Kind::notepad);
+}
+
+void Parts::settle() {
+    clipboard.put(preview());
+    marks.refreshLetters();
+}
+
 void Parts::showReport() {
     const std::string& name = marks.currentName();
     const bool isOffer = !facts.offeredName(marks.current(), name).empty();

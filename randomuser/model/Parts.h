@@ -3,6 +3,7 @@
 
 #include "randomuser/model/CodeChoice.h"
 #include "randomuser/model/FileCommands.h"
+#include "randomuser/model/Focus.h"
 #include "randomuser/model/Pick.h"
 
 /// The parts of the model: of one start of the program, until the next.
@@ -13,6 +14,15 @@ struct Parts {
     ~Parts() = default;
 
     void start(const StoredSettings& found);
+    void openPicker(int picker) { windows.openPicker(picker, dialogs.inUse().sortIndex == 1); }
+    void takeSwatch(int picker, int index);
+    /// The swatch, and the one that the key Right leads to from there.
+    void takeSwatchBeside(int picker, int index);
+    void openPalette();
+    void openInNotepad();
+    /// The preview has been copied, and the letters have followed.
+    void settle();
+    void tab(int times) { focus = StopAfter(look(), times); }
     /// A message's answer, by the number of its button.
     void answer(int button);
     void showReport();

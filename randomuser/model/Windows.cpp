@@ -1,5 +1,11 @@
 #include "randomuser/model/Windows.h"
 
+namespace {
+
+constexpr int javaScript = 2;
+
+}  // namespace
+
 std::optional<Color> Windows::swatchColor(int picker, int index) const {
     if (picker == 0) return WebsafeColor(index);
     if (picker == 1) return FailsafeColor(index);
@@ -24,8 +30,12 @@ void Windows::comeToMain() {
 }
 
 void Windows::openPicker(int picker, bool isByHue) {
-    constexpr int javaScript = 2;
     if (picker == javaScript && !pickers.at(picker)) isSortedByHue = isByHue;
     pickers.at(picker) = true;
     comeToPicker(picker);
+}
+
+void Windows::sort(bool isByHue) {
+    isSortedByHue = isByHue;
+    comeToPicker(javaScript);
 }

@@ -29,7 +29,7 @@ public:
     /// isByHue: the order that the settings give to a window that was closed.
     void openPicker(int picker, bool isByHue);
     void closePicker(int picker) { pickers.at(picker) = false; }
-    void sort(bool isByHue) { isSortedByHue = isByHue; }
+    void sort(bool isByHue);
 
 private:
     const Facts& facts;

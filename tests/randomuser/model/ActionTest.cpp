@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "randomuser/model/Rows.h"
+
 TEST(ActionLines, AreReadAsTheyWereWritten) {
     const Actions actions = {{Kind::start, 0, 3},
                              {Kind::sliderArrow, 2, -1},
@@ -14,6 +16,13 @@ TEST(ActionLines, AreReadAsTheyWereWritten) {
 TEST(ActionLines, NameTheKindAndItsNumbers) {
     EXPECT_EQ(LineOf({Kind::selectMark, 4}), "selectMark 4 0");
     EXPECT_EQ(LineOf({Kind::typeName, 5, 0, "sea, [deep]"}), "typeName 5 0 sea, [deep]");
+}
+
+TEST(ActionLines, AreReadOfEveryKind) {
+    for (const Row& row : AllRows()) {
+        const std::optional<Action> read = ParseLine(LineOf({row.kind}));
+        EXPECT_TRUE(read && read->kind == row.kind) << row.name << " is another's name, or none";
+    }
 }
 
 TEST(ActionLines, OfAnyOtherFormAreRefused) {

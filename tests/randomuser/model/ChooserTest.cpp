@@ -1,7 +1,9 @@
 #include "randomuser/model/Chooser.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "randomuser/model/Rows.h"
 #include "tests/randomuser/model/SoakModel.h"
 
 TEST_F(SoakModel, IsNeverAtALossForTheNextAction) {
@@ -36,4 +38,26 @@ TEST(SoakChooser, ComesToRarePathsOften) {
         EXPECT_GE(givenUp, 3) << seed;
         EXPECT_GE(searches, 3) << seed;
     }
+}
+
+TEST(SoakChooser, ComesToWhereEachActionIsPossible) {
+    const Facts facts(ReadJavaScriptColors());
+    Chooser chooser(1);
+    Draws draws(1);
+    Model model(facts);
+    std::vector<Row> left(AllRows().begin(), AllRows().end());
+    const auto isPossible = [&](const Row& row) {
+        Action action = {row.kind};
+        row.fill(action, draws);
+        return model.isPossible(action);
+    };
+    for (int step = 0; step < 20'000 && !left.empty(); ++step) {
+        std::erase_if(left, isPossible);
+        model.play(chooser.next(model));
+    }
+    for (const Row& row : left) ADD_FAILURE() << row.name << " has never been possible";
+}
+
+TEST(SoakChooser, LeavesNoActionOut) {
+    for (const Row& row : AllRows()) EXPECT_GT(row.weight, 0) << row.name;
 }

@@ -1,5 +1,6 @@
 #include "randomuser/model/Model.h"
 
+#include "randomuser/model/Rows.h"
 #include "resources/resource.h"
 #include "tests/randomuser/model/SoakModel.h"
 
@@ -104,8 +105,8 @@ TEST_F(SoakModel, NothingButAStartIsPossibleWhileNoProgramRuns) {
     play({Kind::otherHolds});
     play({Kind::close});
     ASSERT_FALSE(model.look().isRunning);
-    for (auto kind = Kind::start; kind <= Kind::help; kind = static_cast<Kind>(static_cast<int>(kind) + 1))
-        EXPECT_EQ(model.isPossible({kind}), kind == Kind::start) << LineOf({kind});
+    for (const Row& row : AllRows())
+        EXPECT_EQ(model.isPossible({row.kind}), row.kind == Kind::start) << row.name;
 }
 
 TEST_F(SoakModel, TakesTheSwatchToTheRight) {

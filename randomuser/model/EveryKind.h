@@ -1,0 +1,26 @@
+// Does a table have one row for every kind of action?
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "randomuser/model/Action.h"
+
+/// When a row is missing, the compiler names its kind.
+template <const auto& table, Kind kind>
+struct RowCheck {
+    static constexpr auto count = std::ranges::count(table, kind, [](const auto& row) { return row.kind; });
+    static_assert(count == 1, "this kind of action has no row, or several");
+    static constexpr bool isPassed = true;
+};
+
+/// Also that the rows stand in the order of Kind, so that a kind is the number of its row.
+template <const auto& table>
+consteval bool HasEveryKind() {
+    const auto hasEach = []<std::size_t... at>(std::index_sequence<at...>) {
+        return (RowCheck<table, static_cast<Kind>(at)>::isPassed && ...);
+    };
+    return hasEach(std::make_index_sequence<kindCount>()) && table.size() == kindCount &&
+           std::ranges::is_sorted(table, {}, [](const auto& row) { return row.kind; });
+}
