@@ -75,7 +75,7 @@ std::string Session::start(int variant) {
     program = std::make_unique<Program>();
     if (!program->huevox.waitForWindow()) return "start: no window";
     const HWND window = program->huevox.window();
-    Hands::moveTo(window, {0, 0});
+    Reach::moveTo(window, {0, 0});
     DWORD id = 0;
     ::GetWindowThreadProcessId(window, &id);
     program->process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
@@ -165,6 +165,6 @@ void Session::measure(const Action& action, double milliseconds) {
         program->firstStep = program->steps;
     }
     growth.steps = program->steps - program->firstStep;
-    growth.pickMovements = program->hands->pickMovements();
+    growth.pickMovements = program->hands->picks.movementCount();
     if (growth.steps >= figures.growth.steps) figures.growth = growth;
 }

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-/// Each has a row in Rows.cpp, which tells all but the keys and clicks that it takes.
+/// Each has a row in Rows.cpp, and its keys and clicks in Ways.cpp.
 enum class Kind {
     start,        ///< value: the stored settings that the program finds
     sliderKeys,   ///< which: 0 to 2; value: the key plus 8 times how often

@@ -1,0 +1,39 @@
+#include "randomuser/PickHands.h"
+
+#include "randomuser/model/Pick.h"
+#include "resources/resource.h"
+#include "tests/driver/Input.h"
+#include "tests/driver/Pixel.h"
+
+POINT PickHands::placeOf(const Action& pick) const {
+    return pick.which < 6 ? CenterOf(eyes.control(IDC_picSample + pick.which)) : eyes.barStep(pick.value);
+}
+
+void PickHands::drag(const Action& pick, const Look& before) {
+    const HWND preview = eyes.control(IDC_picPick);
+    const POINT place = placeOf(pick);
+    const POINT sample = CenterOf(eyes.control(IDC_picSample + before.selected));
+    reach.uncover(eyes.main(), sample);
+    PressButton(sample);
+    reach.await("a preview of the pick", [&] { return ::IsWindowVisible(preview) != FALSE; });
+    awaitColor(place, PickTarget(before.marks, before.selected, pick));
+    ReleaseButton(place);
+    reach.await("the end of a pick", [&] { return ::IsWindowVisible(preview) == FALSE; });
+}
+
+/// Moves, as a hand does, until the preview has followed.
+void PickHands::awaitColor(POINT place, const Color& color) {
+    const HWND preview = eyes.control(IDC_picPick);
+    // To and fro: where the button was pressed there is no movement.
+    reach.await("the pick's colour", [&] {
+        ++movements;
+        MoveMouse({place.x, place.y + movements % 2});
+        return Pixel(CenterOf(preview)) == color;
+    });
+}
+
+void PickHands::clickRight(int selected) {
+    const POINT place = CenterOf(eyes.control(IDC_picSample + selected));
+    reach.uncover(eyes.main(), place);
+    RightClick(place);
+}
