@@ -75,8 +75,8 @@ BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
 }
 
 /// Waits until every program with a visible window, and the one that shows the desktop, has done what it was
-/// doing. A program that hears of the display's keys while one is down writes the states of all keys back as it
-/// read them a moment ago, modifier keys too.
+/// doing. A program that hears of the display's keys while one is down writes the states of all keys back as
+/// it read them a moment ago, modifier keys too.
 void WaitForEverybody() {
     std::set<DWORD> threads;
     ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
