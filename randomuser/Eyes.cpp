@@ -34,14 +34,14 @@ Eyes::Eyes(HWND main, HANDLE process) : form(main), process(process) {
 }
 
 LRESULT Eyes::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!hasAnswered) return 0;
+    if (!isAnswering) return 0;
     const double before = NowInMilliseconds();
     DWORD_PTR result = 0;
     const LRESULT isAnswered =
         ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, hang, &result);
     const double time = NowInMilliseconds() - before;
     slowest = std::max(slowest, time);
-    if (!isAnswered && time >= hang) hasAnswered = false;
+    if (!isAnswered && time >= hang) isAnswering = false;
     return static_cast<LRESULT>(result);
 }
 

@@ -1,4 +1,4 @@
-// Does the window show what it must?
+// What is there to see of the program from outside?
 #pragma once
 
 #include <array>
@@ -8,19 +8,14 @@
 #include "randomuser/model/Look.h"
 #include "toolkit/platform/Platform.h"
 
-/// How much is looked at: whether the program runs and answers, what is in front and the preview, and of the
-/// rest what must have changed; or everything, to the pixels.
-enum class Extent { changes, everything };
-
-class Comparison;
-
 /// Looks at the program from another process. Each question must be answered within a minute.
 class Eyes {
 public:
     Eyes(HWND main, HANDLE process);
 
-    /// The first thing that is not as expected, as "what: ...", or "". earlier is what was seen last.
-    std::string difference(const Look& expected, const Look& earlier, Extent extent);
+    /// From now on it counts whether every question is answered in time.
+    void beginLook() { isAnswering = true; }
+    bool hasAnswered() const { return isAnswering; }
 
     HWND main() const { return form; }
     HWND control(int id) const { return controls.at(id); }
@@ -50,19 +45,9 @@ public:
     LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 private:
-    void lookAtFrame(Comparison& compare, const Look& expected, const Look& earlier);
-    void lookAtBox(Comparison& compare, const BoxLook& expected);
-    void lookAtOptions(Comparison& compare, const BoxLook& expected);
-    void lookAtEditors(Comparison& compare, const Look& expected, const Look& earlier);
-    void lookAtMarks(Comparison& compare, const Look& expected, const Look& earlier);
-    void lookAtCommands(Comparison& compare, const Look& expected, const Look& earlier);
-    void lookAtPixels(Comparison& compare, const Look& expected) const;
-    bool isChecked(int id) { return ask(control(id), BM_GETCHECK) == BST_CHECKED; }
-    bool isEnabled(int id) const { return ::IsWindowEnabled(control(id)) != FALSE; }
-
     HWND form;
     HANDLE process;
     std::map<int, HWND> controls;
     double slowest = 0;
-    bool hasAnswered = true;
+    bool isAnswering = true;
 };

@@ -1,4 +1,4 @@
-// What must there be to see after a step?
+// What is there to see of the program after a step?
 #pragma once
 
 #include <array>

@@ -1,6 +1,10 @@
-#include "randomuser/Session.h"
+#include "randomuser/ClipboardWatch.h"
+
+#include <optional>
+
 #include "randomuser/Soon.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/UiTest.h"
 #include "tests/driver/WindowText.h"
 
 namespace {
@@ -51,26 +55,35 @@ std::optional<std::string> TextMeanwhile(HWND window) {
 
 }  // namespace
 
-/// Until the preview has been copied and the letters have followed.
-std::string Session::settle() {
+std::string ClipboardWatch::difference(const ClipboardFact& before, const ClipboardFact& now) {
+    const DWORD number = ::GetClipboardSequenceNumber();
+    const bool wasKnown = before.state == ClipboardFact::State::known;
+    const bool isKnown = now.state == ClipboardFact::State::known;
+    const bool isKept = wasKnown && isKnown && now.text == before.text;
+    if (isKept && !now.isHeld && number != lastNumber && ClipboardText() != now.text)
+        return "clipboard: expected " + now.text + ", seen " + ClipboardText();
+    lastNumber = number;
+    return "";
+}
+
+std::string ClipboardWatch::settle(HWND program, const std::string& expected, DWORD patience) {
     constexpr DWORD longEnough = 1500;
     constexpr DWORD betweenLooks = 10'000;
-    const std::string expected = model.look().preview;
     ULONGLONG nextLook = ::GetTickCount64() + longEnough;
     std::optional<std::string> seen;
     std::string others;
     MoveMouse({1, 1});
     const auto isCopied = [&] {
         const HWND holder = ::GetOpenClipboardWindow();
-        if (holder && holder != program->eyes->main()) others = ", held meanwhile by " + ClassOf(holder);
+        if (holder && holder != program) others = ", held meanwhile by " + ClassOf(holder);
         // A copy raises the number; it may have come before its step was over.
         const ULONGLONG now = ::GetTickCount64();
         const DWORD number = ::GetClipboardSequenceNumber();
-        const bool hasCopied = number != clipboardNumber;
+        const bool hasCopied = number != lastNumber;
         if (!hasCopied && now < nextLook) return false;
         nextLook = now + betweenLooks;
-        seen = hasCopied ? TextWhenFree() : TextMeanwhile(program->eyes->main());
-        if (seen) clipboardNumber = number;
+        seen = hasCopied ? TextWhenFree() : TextMeanwhile(program);
+        if (seen) lastNumber = number;
         return seen == expected;
     };
     if (Soon(isCopied, patience)) return "";
