@@ -72,13 +72,13 @@ void Inspection::lookAtBox() {
 void Inspection::lookInto(HWND box) {
     constexpr int messageText = 0xFFFF;
     const HWND field = Eyes::nameField(box);
-    const auto textOf = [&](int id) { return eyes.text(::GetDlgItem(box, id)); };
+    const auto textIn = [&](int id) { return eyes.text(::GetDlgItem(box, id)); };
     switch (expected.box.kind) {
-        case BoxKind::message: return compare.same("message", expected.box.text, textOf(messageText));
+        case BoxKind::message: return compare.same("message", expected.box.text, textIn(messageText));
         case BoxKind::file:
             return compare.same("field for a name", true, field != nullptr && eyes.focus() == field);
         case BoxKind::options: return lookAtOptions(box);
-        case BoxKind::format: return compare.same("template", expected.box.text, textOf(IDC_txtFormat));
+        case BoxKind::format: return compare.same("template", expected.box.text, textIn(IDC_txtFormat));
         case BoxKind::about: return compare.same("dialog in front", true, ::GetForegroundWindow() == box);
         case BoxKind::none: return;
     }

@@ -15,12 +15,14 @@ struct RowCheck {
     static constexpr bool isPassed = true;
 };
 
+template <const auto& table, std::size_t... at>
+consteval bool HasEach(std::index_sequence<at...> /*kinds*/) {
+    return (RowCheck<table, static_cast<Kind>(at)>::isPassed && ...);
+}
+
 /// Also that the rows stand in the order of Kind, so that a kind is the number of its row.
 template <const auto& table>
 consteval bool HasEveryKind() {
-    const auto hasEach = []<std::size_t... at>(std::index_sequence<at...>) {
-        return (RowCheck<table, static_cast<Kind>(at)>::isPassed && ...);
-    };
-    return hasEach(std::make_index_sequence<kindCount>()) && table.size() == kindCount &&
+    return HasEach<table>(std::make_index_sequence<kindCount>()) && table.size() == kindCount &&
            std::ranges::is_sorted(table, {}, [](const auto& row) { return row.kind; });
 }
