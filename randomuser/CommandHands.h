@@ -9,8 +9,8 @@
 /// How a command is reached by its shortcut, by the tool bar and by the menu.
 struct Command {
     WORD shortcut;
-    bool isWithControl;  // cppcheck-suppress unusedStructMember
-    int button;          // cppcheck-suppress unusedStructMember
+    bool isWithControl;
+    int button;
     WORD menu;
     WORD item;
 };

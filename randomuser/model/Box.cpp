@@ -11,8 +11,8 @@ namespace {
 struct Shape {
     Box::Kind kind;
     BoxKind look;
-    const char* title;         // cppcheck-suppress unusedStructMember
-    std::string_view buttons;  // cppcheck-suppress unusedStructMember
+    const char* title;
+    std::string_view buttons;
 };
 
 /// In the order of Box::Kind.
