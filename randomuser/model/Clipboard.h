@@ -8,7 +8,7 @@ struct ClipboardFact {
     std::string text = {};
     bool isHeld = false;
 
-    /// Whether the program, or another one, may copy now and it is known what is there afterwards.
+    /// In the state that is wanted, and open to everybody.
     bool isFree(State wanted) const { return state == wanted && !isHeld; }
     /// The program copies half a second from now.
     void restartCountdown() { state = State::due; }

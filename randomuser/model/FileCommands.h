@@ -6,7 +6,7 @@
 #include "randomuser/model/Dialogs.h"
 #include "randomuser/model/Editing.h"
 #include "randomuser/model/SessionFiles.h"
-#include "randomuser/model/Windows.h"
+#include "randomuser/model/WindowSet.h"
 
 /// Those that ask first, when there is something to save.
 enum class FileCommand { none, newPalette, open, close };
@@ -14,7 +14,7 @@ enum class FileCommand { none, newPalette, open, close };
 /// A command that asks first is remembered until the last box that it needs is answered.
 class FileCommands {
 public:
-    FileCommands(Editing& editing, MarkSet& marks, const Dialogs& dialogs, Box& box, Windows& windows)
+    FileCommands(Editing& editing, MarkSet& marks, const Dialogs& dialogs, Box& box, WindowSet& windows)
         : editing(editing), marks(marks), dialogs(dialogs), box(box), windows(windows) {}
 
     const Files& files() const { return allFiles; }
@@ -41,7 +41,7 @@ private:
     MarkSet& marks;
     const Dialogs& dialogs;
     Box& box;
-    Windows& windows;
+    WindowSet& windows;
     SixMarks saved;
     std::string paletteName;
     std::string folder;

@@ -56,7 +56,14 @@ void Parts::answer(int button) {
         case Box::Kind::message: return fileCommands.goOn();
         case Box::Kind::overwrite:
             return button == yes ? fileCommands.saveChosen() : box.show(Box::Kind::save);
-        default: return;
+        case Box::Kind::report:
+        case Box::Kind::none:
+        case Box::Kind::save:
+        case Box::Kind::open:
+        case Box::Kind::notepad:
+        case Box::Kind::options:
+        case Box::Kind::format:
+        case Box::Kind::about: return;
     }
 }
 

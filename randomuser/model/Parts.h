@@ -31,7 +31,7 @@ struct Parts {
 
     const Facts& facts;
     ClipboardFact clipboard = {};
-    Windows windows{facts, clipboard};
+    WindowSet windows{facts, clipboard};
     Box box{clipboard};
     MarkSet marks{facts};
     Values values = {};

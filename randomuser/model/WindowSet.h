@@ -9,9 +9,9 @@
 #include "randomuser/model/Look.h"
 
 /// The main window and the three palette windows.
-class Windows {
+class WindowSet {
 public:
-    Windows(const Facts& facts, ClipboardFact& clipboard) : facts(facts), clipboard(clipboard) {}
+    WindowSet(const Facts& facts, ClipboardFact& clipboard) : facts(facts), clipboard(clipboard) {}
 
     bool areOpen() const { return isMainOpen; }
     bool isInFront(Front window) const { return front == window; }

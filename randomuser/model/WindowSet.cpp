@@ -1,4 +1,4 @@
-#include "randomuser/model/Windows.h"
+#include "randomuser/model/WindowSet.h"
 
 namespace {
 
@@ -6,36 +6,36 @@ constexpr int javaScript = 2;
 
 }  // namespace
 
-std::optional<Color> Windows::swatchColor(int picker, int index) const {
+std::optional<Color> WindowSet::swatchColor(int picker, int index) const {
     if (picker == 0) return WebsafeColor(index);
     if (picker == 1) return FailsafeColor(index);
     return isSortedByHue ? facts.colorByHue(index) : facts.javaScriptColor(index);
 }
 
-void Windows::tell(Look& look) const {
+void WindowSet::tell(Look& look) const {
     look.isRunning = isMainOpen;
     look.exitCode = exitCode;
     look.front = front;
     look.pickers = pickers;
 }
 
-void Windows::end(int code) {
+void WindowSet::end(int code) {
     isMainOpen = false;
     exitCode = code;
 }
 
-void Windows::comeToMain() {
+void WindowSet::comeToMain() {
     if (front != Front::main) clipboard.restartCountdown();
     front = Front::main;
 }
 
-void Windows::openPicker(int picker, bool isByHue) {
+void WindowSet::openPicker(int picker, bool isByHue) {
     if (picker == javaScript && !pickers.at(picker)) isSortedByHue = isByHue;
     pickers.at(picker) = true;
     comeToPicker(picker);
 }
 
-void Windows::sort(bool isByHue) {
+void WindowSet::sort(bool isByHue) {
     isSortedByHue = isByHue;
     comeToPicker(javaScript);
 }
