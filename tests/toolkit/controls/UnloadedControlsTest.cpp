@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int numberOfNone = 9999;  // no template has it
+constexpr Selection selected = {0, 1};
 constexpr std::array<ToolButton, 1> buttons = {{{IDM_firstChoice, IDI_Save, "first"}}};
 const std::array<PackedColor, 1> colors = {0x123456};
 
@@ -57,10 +58,7 @@ const std::vector<Call> calls = {
     {"TextBox::setMaxLength", [](Gone& gone) { gone.form.txtTest(0).setMaxLength(3); }},
     {"TextBox::selectAll", [](Gone& gone) { gone.form.txtTest(0).selectAll(); }},
     {"TextBox::selection", [](Gone& gone) { gone.form.txtTest(0).selection(); }},
-    {"TextBox::setSelection",
-     [](Gone& gone) {
-         gone.form.txtTest(0).setSelection({0, 1});
-     }},
+    {"TextBox::setSelection", [](Gone& gone) { gone.form.txtTest(0).setSelection(selected); }},
     {"TextBox::setCaretToEnd", [](Gone& gone) { gone.form.txtTest(0).setCaretToEnd(); }},
     {"TextBox::setBackColor", [](Gone& gone) { gone.form.txtTest(0).setBackColor(RGB(1, 2, 3)); }},
     {"OptionButton::turnOn", [](Gone& gone) { gone.form.optTest(1).turnOn(); }},
