@@ -55,6 +55,9 @@ TEST_F(PickersJavaScript, EverySwatchSetsItsColorInTheSecondOrder) {
     StoreText("SortIndex", "1");
     const Huevox huevox;
     const PickerWindow javaScript(huevox, javaScriptGrid);
+    // What has been painted is on the screen a moment later: all at once, from the first swatch to the last.
+    for (const auto& known : byHue)
+        ASSERT_BECOMES(javaScript.colorAt(JavaScriptSwatch(known.first)), known.second);
     std::multiset<PackedColor> set;
     for (int i = 0; i < 140; ++i) {
         const Swatch swatch = JavaScriptSwatch(i);
