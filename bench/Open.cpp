@@ -7,7 +7,6 @@
 #include "palette/FirstLines.h"
 #include "palette/PaletteFile.h"
 #include "palette/TextFile.h"
-#include "toolkit/platform/CodePage.h"
 
 namespace {
 
@@ -33,7 +32,7 @@ void OpenAsPalette() {
     const OwnedFile file = OpenForReading(path);
     FirstLines lines(linesLookedAt, mostLines);
     ReadBlocks(file, [&](std::string_view block) { return lines.take(block); });
-    if (!ParsePaletteLines(lines.kept(), IsLeadByte)) std::abort();
+    if (!ParsePaletteLines(lines.kept())) std::abort();
 }
 
 double Milliseconds(void (*work)()) {

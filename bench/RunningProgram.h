@@ -12,7 +12,7 @@
 /// Dispatches all waiting messages.
 inline void PumpAll() {
     MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
 }
 
 /// Tool tips are made when the pointer first enters a window.

@@ -1,7 +1,7 @@
 # How the code is built for Windows: small, hardened, using only what is part of Windows, and the same bytes every time.
 enable_language(RC)
 target_compile_definitions(huevox_flags INTERFACE
-    WIN32_LEAN_AND_MEAN NOMINMAX STRICT
+    WIN32_LEAN_AND_MEAN NOMINMAX STRICT UNICODE
     WINVER=0x0A00 _WIN32_WINNT=0x0A00 _WIN32_IE=0x0A00
     _FORTIFY_SOURCE=2)
 target_compile_options(huevox_flags INTERFACE -ffunction-sections -fdata-sections -fstack-protector-strong)

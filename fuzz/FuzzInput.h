@@ -13,32 +13,28 @@ inline void Require(bool condition) {
     if (!condition) std::abort();
 }
 
-/// Code pages: one without two-byte characters, and one in which every high byte begins such a character.
-inline bool NoLeadByte(char) { return false; }
-inline bool HighLeadByte(char byte) { return (static_cast<unsigned char>(byte) & 0x80) != 0; }
-
-/// The characters of a text, one after another; the last may be cut short.
-inline std::vector<std::string_view> CharactersOf(std::string_view text, bool (*isLeadByte)(char)) {
+/// The characters of a text, one after another. A byte of 10xxxxxx goes on with one, to four bytes in all.
+inline std::vector<std::string_view> CharactersOf(std::string_view text) {
     std::vector<std::string_view> characters;
-    characters.reserve(text.size());
-    bool isSecondByte = false;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (isSecondByte) {
-            characters.back() = text.substr(at - 1, 2);
-        } else {
-            characters.push_back(text.substr(at, 1));
-        }
-        isSecondByte = !isSecondByte && isLeadByte(text[at]);
+    std::size_t start = 0;
+    for (std::size_t at = 1; at <= text.size(); ++at) {
+        const bool goesOn = at < text.size() && text[at] < '\xC0' && at - start < 4;
+        if (goesOn) continue;
+        characters.push_back(text.substr(start, at - start));
+        start = at;
     }
     return characters;
 }
 
-/// At most count characters from first on, as one text again.
-inline std::string Joined(const std::vector<std::string_view>& characters, std::size_t first,
-                          std::size_t count) {
-    std::string text;
-    for (std::size_t at = first; at < characters.size() && at - first < count; ++at) text += characters[at];
-    return text;
+/// How many a box counts: a character of four bytes, whose first is 1111xxxx, takes two of its units.
+inline std::size_t UnitsOf(std::string_view character) {
+    return (static_cast<unsigned char>(character.front()) >> 4) == 0xF ? 2 : 1;
+}
+
+inline std::size_t CountUnits(std::string_view text) {
+    std::size_t count = 0;
+    for (const std::string_view character : CharactersOf(text)) count += UnitsOf(character);
+    return count;
 }
 
 /// Takes an input apart, from its front.

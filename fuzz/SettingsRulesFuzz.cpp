@@ -29,10 +29,10 @@ bool IsOneOf(const std::string& text, int count) {
 }
 
 /// How many of the stored values, in their order, are usable before the first that is not.
-std::size_t CountUsable(const Store& store, LeadByteTest isLeadByte) {
+std::size_t CountUsable(const Store& store) {
     const auto isUsable = [&](std::size_t setting) {
         const std::string& text = store[setting];
-        if (setting == 0) return CharactersOf(text, isLeadByte).size() <= 250;
+        if (setting == 0) return CountUnits(text) <= 250;
         if (text.empty()) return true;
         return setting == 4 ? IsFolder(text) : IsOneOf(text, setting == 1 ? 12 : 2);
     };
@@ -45,8 +45,8 @@ std::string TextOr(const std::string& text, const std::string& whenEmpty) {
     return text.empty() ? whenEmpty : text;
 }
 
-void RequireAcceptable(const AppState& state, LeadByteTest isLeadByte) {
-    Require(CharactersOf(state.settings.customFormat, isLeadByte).size() <= 250);
+void RequireAcceptable(const AppState& state) {
+    Require(CountUnits(state.settings.customFormat) <= 250);
     Require(state.settings.formatIndex >= 0 && state.settings.formatIndex <= 11);
     Require(state.savedFormatIndex >= 0 && state.savedFormatIndex <= 11);
     Require(state.settings.sortIndex == 0 || state.settings.sortIndex == 1);
@@ -73,30 +73,29 @@ void RequireRepaired(const AppState& before, const AppState& state, const Store&
     Require(state.settings.promptToSave == 1 && state.settings.standardFolder == desktop);
 }
 
-void Try(Store store, int startIndex, bool jsNamesOnly, LeadByteTest isLeadByte) {
+void Try(Store store, int startIndex, bool jsNamesOnly) {
     AppState state;
     state.desktopFolder = desktop;
     state.settings.standardFolder = desktop;
     state.settings.formatIndex = state.savedFormatIndex = startIndex;
     state.jsNamesOnly = jsNamesOnly;
     const auto read = [&](std::string_view name) { return store[PlaceOf(name)]; };
-    const TextChecks checks = {IsFolder, isLeadByte};
 
-    const std::size_t usable = CountUsable(store, isLeadByte);
-    Require(TakeSettings(state, read, checks) == (usable == valueNames.size()));
+    const std::size_t usable = CountUsable(store);
+    Require(TakeSettings(state, read, IsFolder) == (usable == valueNames.size()));
     RequireTaken(state, store, usable);
     const int shown = usable >= 2 && !jsNamesOnly ? state.settings.formatIndex : startIndex;
     Require(state.savedFormatIndex == shown);
-    RequireAcceptable(state, isLeadByte);
+    RequireAcceptable(state);
     if (usable == valueNames.size()) return;
 
     const AppState before = state;
     RestoreDefaultSettings(
         state, [&](std::string_view name, std::string_view text) { store[PlaceOf(name)] = text; });
     RequireRepaired(before, state, store);
-    RequireAcceptable(state, isLeadByte);
+    RequireAcceptable(state);
     // What a repair stores needs no repair at the next start.
-    Require(TakeSettings(state, read, checks));
+    Require(TakeSettings(state, read, IsFolder));
 }
 
 }  // namespace
@@ -106,7 +105,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const int start = input.takeByte();
     Store store;
     for (std::string& text : store) text = input.takeLine();
-    Try(store, start % 12, start >= 128, NoLeadByte);
-    Try(store, start % 12, start >= 128, HighLeadByte);
+    Try(store, start % 12, start >= 128);
     return 0;
 }

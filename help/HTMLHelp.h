@@ -24,7 +24,7 @@ public:
     void HelpClose() const;
 
 private:
-    using Viewer = HWND WINAPI(HWND owner, LPCSTR file, UINT command, DWORD_PTR data);
+    using Viewer = HWND WINAPI(HWND owner, LPCWSTR file, UINT command, DWORD_PTR data);
 
     Viewer* viewer = nullptr;
     std::string file;

@@ -4,15 +4,15 @@
 
 #include "core/PathText.h"
 #include "support/Reported.h"
-#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
 /// With a closing backslash.
 std::string GetProgramFolder() {
-    std::array<char, 1024> path{};
-    ::GetModuleFileNameA(nullptr, path.data(), path.size());
-    return std::string(FolderPart(path.data(), IsLeadByte));
+    std::array<wchar_t, 1024> path{};
+    ::GetModuleFileNameW(nullptr, path.data(), path.size());
+    return std::string(FolderPart(Utf8(path.data())));
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ void frmMain::Form_Load() {
 void frmMain::CheckColorDepth() {
     constexpr int goodDepth = 24;
     // Asked for once in a run; Windows takes the context back when the program ends.
-    const HDC display = ::CreateICA("DISPLAY", "", "", nullptr);
+    const HDC display = ::CreateICW(L"DISPLAY", L"", L"", nullptr);
     if (!display || ::GetDeviceCaps(display, BITSPIXEL) >= goodDepth) return;
     MsgBox(this, messages::lowColorDepth, MB_OK | MB_ICONINFORMATION, messages::title);
 }

@@ -1,6 +1,7 @@
 #include "palette/PaletteCommands.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "core/PathText.h"
@@ -12,8 +13,20 @@
 #include "support/Reported.h"
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/MsgBox.h"
-#include "toolkit/platform/CodePage.h"
 #include "toolkit/platform/FlagGuard.h"
+#include "toolkit/platform/Text.h"
+
+namespace {
+
+/// A file is in the system's code page. Its lines are found before it is converted: CR LF is no part of any
+/// character.
+std::optional<Palette> ParseFile(const FirstLines& file) {
+    std::vector<std::string> lines;
+    std::ranges::transform(file.kept(), std::back_inserter(lines), FromAnsi);
+    return ParsePaletteLines(std::vector<std::string_view>(lines.begin(), lines.end()));
+}
+
+}  // namespace
 
 PaletteCommands::PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
                                  ChannelEditors& channels, ColorMarks& marks, ColorTarget& target)
@@ -103,7 +116,7 @@ void PaletteCommands::Open(const std::string& path) {
         return Refuse(path);
     }
     file = {};
-    const std::optional palette = ParsePaletteLines(lines.kept(), IsLeadByte);
+    const std::optional palette = ParseFile(lines);
     lastOpenAccepted = palette.has_value();
     if (!palette) return Refuse(path);
     ShowPalette(*palette);
@@ -112,7 +125,7 @@ void PaletteCommands::Open(const std::string& path) {
 
 void PaletteCommands::Refuse(const std::string& path) {
     const std::string refusal = messages::notMadeHereBeforePath + path + messages::notMadeHereAfterPath;
-    MsgBox(&form, refusal.c_str(), MB_OK | MB_ICONEXCLAMATION, messages::title);
+    MsgBox(&form, refusal, MB_OK | MB_ICONEXCLAMATION, messages::title);
 }
 
 void PaletteCommands::ShowPalette(const Palette& palette) {
@@ -133,7 +146,7 @@ bool PaletteCommands::Save(const std::string& path) {
     filesLeftOpen.clear();
     const bool isSaved = Reported(form, messages::couldNotSave, [&] {
         const Palette saved = AsSaved(marks.Shown());
-        ReplaceTextFile(path, WritePaletteFile(saved, state.settings.customFormat));
+        ReplaceTextFile(path, Ansi(WritePaletteFile(saved, state.settings.customFormat)));
         state.marks.savedMarkName = saved.names;
         state.marks.savedMarkColor = saved.colors;
     });
@@ -142,5 +155,5 @@ bool PaletteCommands::Save(const std::string& path) {
 }
 
 void PaletteCommands::NamePalette(std::string_view path) {
-    form.setText(std::string(messages::titlePrefix) + std::string(GetFileNamePart(path, "\\", IsLeadByte)));
+    form.setText(std::string(messages::titlePrefix) + std::string(GetFileNamePart(path, "\\")));
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "core/ChannelText.h"
+#include "core/Characters.h"
 #include "core/ColorCode.h"
 #include "support/Messages.h"
 
@@ -91,25 +92,25 @@ Color Limited(const Color& color) {
     return ColorOf(channel(color.red), channel(color.green), channel(color.blue));
 }
 
-std::optional<std::string_view> WithoutFirst(std::string_view text, LeadByteTest isLeadByte) {
+std::optional<std::string_view> WithoutFirst(std::string_view text) {
     if (text.empty()) return std::nullopt;
-    return text.substr(FirstCharacters(text, 1, isLeadByte).size());
+    return text.substr(FirstCharacters(text, 1).size());
 }
 
 /// Without its first and its last character.
-std::optional<std::string_view> WithoutEnds(std::string_view text, LeadByteTest isLeadByte) {
-    const std::optional<std::string_view> rest = WithoutFirst(text, isLeadByte);
+std::optional<std::string_view> WithoutEnds(std::string_view text) {
+    const std::optional<std::string_view> rest = WithoutFirst(text);
     if (!rest || rest->empty()) return std::nullopt;
-    return rest->substr(0, rest->size() - LastCharacter(*rest, isLeadByte).size());
+    return rest->substr(0, rest->size() - LastCharacter(*rest).size());
 }
 
 /// A label, then "255, 0, 128)": what stands in the place of a blank or the bracket is dropped unseen.
-std::optional<Color> ParseOlderColor(std::string_view line, LeadByteTest isLeadByte) {
-    const std::size_t label = FirstCharacters(line, labelLength, isLeadByte).size();
+std::optional<Color> ParseOlderColor(std::string_view line) {
+    const std::size_t label = FirstCharacters(line, labelLength).size();
     std::optional<ColorParts> parts = SplitColor(line.substr(label));
     if (!parts) return std::nullopt;
-    const std::optional green = WithoutFirst((*parts)[1], isLeadByte);
-    const std::optional blue = WithoutEnds((*parts)[2], isLeadByte);
+    const std::optional green = WithoutFirst((*parts)[1]);
+    const std::optional blue = WithoutEnds((*parts)[2]);
     if (!green || !blue) return std::nullopt;
     return ParseColor({(*parts)[0], *green, *blue});
 }
@@ -134,12 +135,12 @@ std::optional<Palette> ParseCurrent(Lines lines) {
     return palette;
 }
 
-std::optional<Palette> ParseOlder(Lines lines, std::size_t period, LeadByteTest isLeadByte) {
+std::optional<Palette> ParseOlder(Lines lines, std::size_t period) {
     if (lines.size() <= olderColorLine + period * (marksInFile - 1)) return std::nullopt;
     Palette palette;
     for (std::size_t mark = 0; mark < marksInFile; ++mark) {
-        const std::optional color = ParseOlderColor(lines[olderColorLine + period * mark], isLeadByte);
-        const std::optional name = WithoutEnds(lines[olderNameLine + period * mark], isLeadByte);
+        const std::optional color = ParseOlderColor(lines[olderColorLine + period * mark]);
+        const std::optional name = WithoutEnds(lines[olderNameLine + period * mark]);
         if (!color || !IsInRange(*color) || !name) return std::nullopt;
         palette.names[mark] = *name;
         palette.colors[mark] = *color;
@@ -147,12 +148,12 @@ std::optional<Palette> ParseOlder(Lines lines, std::size_t period, LeadByteTest 
     return palette;
 }
 
-std::optional<Palette> ParseGeneration(Lines lines, LeadByteTest isLeadByte) {
+std::optional<Palette> ParseGeneration(Lines lines) {
     if (lines.empty()) return std::nullopt;
     if (lines[0] == currentHeader) return ParseCurrent(lines);
     const auto older = std::ranges::find(olderGenerations, lines[0], &OlderGeneration::header);
     if (older == olderGenerations.end()) return std::nullopt;
-    return ParseOlder(lines, older->period, isLeadByte);
+    return ParseOlder(lines, older->period);
 }
 
 }  // namespace
@@ -177,9 +178,9 @@ std::string WritePaletteFile(const Palette& palette, std::string_view customForm
     return text;
 }
 
-std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines, LeadByteTest isLeadByte) {
-    std::optional<Palette> palette = ParseGeneration(lines, isLeadByte);
+std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines) {
+    std::optional<Palette> palette = ParseGeneration(lines);
     if (!palette) return std::nullopt;
-    for (std::string& name : palette->names) name = FirstCharacters(name, longestName, isLeadByte);
+    for (std::string& name : palette->names) name = FirstCharacters(name, longestName);
     return palette;
 }

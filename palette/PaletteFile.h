@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/Characters.h"
 #include "support/Marks.h"
 
 /// The palette as a file keeps it: the placeholder for "no JavaScript colour" becomes that for "no name".
@@ -22,4 +21,4 @@ inline constexpr std::size_t linesLookedAt = 46;
 
 /// The palette of a file of any of the four generations; nothing when it is none of them. Names are cut to
 /// what a name box takes; channels of the current generation, which are not checked, are limited to 0..255.
-std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines, LeadByteTest isLeadByte);
+std::optional<Palette> ParsePaletteLines(std::span<const std::string_view> lines);

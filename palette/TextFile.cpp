@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/PathText.h"
-#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -16,14 +16,14 @@ void Check(bool hasSucceeded) {
 }
 
 OwnedFile Open(const std::string& path, DWORD access, DWORD sharing) {
-    const HANDLE file =
-        ::CreateFileA(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = ::CreateFileW(Wide(path).c_str(), access, sharing, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
     Check(file != INVALID_HANDLE_VALUE);
     return OwnedFile(file);
 }
 
 bool IsReadOnly(const std::string& path) {
-    const DWORD attributes = ::GetFileAttributesA(path.c_str());
+    const DWORD attributes = ::GetFileAttributesW(Wide(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
@@ -37,8 +37,8 @@ public:
         for (UINT attempt = 0; !file && attempt < numbers; ++attempt) {
             // Given 0, Windows would choose the number and create a file that stays.
             const UINT number = 1 + (::GetCurrentProcessId() + attempt) % numbers;
-            Check(::GetTempFileNameA(folder.c_str(), "hvx", number, name.data()) != 0);
-            const HANDLE created = ::CreateFileA(name.data(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+            Check(::GetTempFileNameW(Wide(folder).c_str(), L"hvx", number, name.data()) != 0);
+            const HANDLE created = ::CreateFileW(name.data(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                                                  FILE_ATTRIBUTE_NORMAL, nullptr);
             Check(created != INVALID_HANDLE_VALUE || ::GetLastError() == ERROR_FILE_EXISTS);
             if (created != INVALID_HANDLE_VALUE) file = OwnedFile(created);
@@ -50,7 +50,7 @@ public:
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile() {
         file = {};
-        if (!isMoved) ::DeleteFileA(name.data());
+        if (!isMoved) ::DeleteFileW(name.data());
     }
 
     void write(std::string_view text) const {
@@ -81,10 +81,10 @@ private:
     }
     bool moveTo(const std::string& path) const {
         constexpr DWORD inOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-        return ::MoveFileExA(name.data(), path.c_str(), inOneStep) != FALSE;
+        return ::MoveFileExW(name.data(), Wide(path).c_str(), inOneStep) != FALSE;
     }
 
-    std::array<char, MAX_PATH> name{};
+    std::array<wchar_t, MAX_PATH> name{};
     OwnedFile file;
     bool isMoved = false;
 };
@@ -106,7 +106,7 @@ void ReadBlocks(const OwnedFile& file, const std::function<bool(std::string_view
 void ReplaceTextFile(const std::string& path, std::string_view text) {
     // Windows lets some users replace a read-only file.
     Check(!IsReadOnly(path));
-    const std::string folder(FolderPart(path, IsLeadByte));
+    const std::string folder(FolderPart(path));
     TemporaryFile temporary(folder.empty() ? "." : folder);
     temporary.write(text);
     temporary.takePlaceOf(path);

@@ -4,6 +4,7 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ void BoxHands::answer(int button, bool isByMouse) {
 
 void BoxHands::choosePath(const std::string& path) {
     const HWND field = Eyes::nameField(eyes.box());
-    eyes.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    eyes.ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(path).c_str()));
     Press(VK_RETURN);
 }
 

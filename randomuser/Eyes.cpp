@@ -6,6 +6,7 @@
 #include "tests/driver/Figures.h"
 #include "tests/driver/Input.h"
 #include "tests/driver/WindowText.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ LRESULT Eyes::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const double before = NowInMilliseconds();
     DWORD_PTR result = 0;
     const LRESULT isAnswered =
-        ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, hang, &result);
+        ::SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, hang, &result);
     const double time = NowInMilliseconds() - before;
     slowest = std::max(slowest, time);
     if (!isAnswered && time >= hang) isAnswering = false;
@@ -46,9 +47,9 @@ LRESULT Eyes::ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 std::string Eyes::text(HWND window) {
-    std::array<char, 512> buffer{};
+    std::array<wchar_t, 512> buffer{};
     ask(window, WM_GETTEXT, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
-    return buffer.data();
+    return Utf8(buffer.data());
 }
 
 bool Eyes::isRunning() const { return ::WaitForSingleObject(process, 0) == WAIT_TIMEOUT; }

@@ -28,7 +28,7 @@ HWND CreateInFront() {
 void Run(std::promise<HWND> created) {
     created.set_value(CreateInFront());
     MSG message;
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) ::DispatchMessageW(&message);
 }
 
 }  // namespace

@@ -4,11 +4,13 @@
 #include <shlobj.h>
 
 #include <array>
+#include <cctype>
 #include <cstddef>
 #include <memory>
 
+#include "core/Characters.h"
 #include "core/PathText.h"
-#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -20,13 +22,13 @@ struct FreeItem {
 using OwnedItem = std::unique_ptr<ITEMIDLIST, FreeItem>;
 
 std::string PathOf(const OwnedItem& item) {
-    std::array<char, MAX_PATH> path{};
-    const bool isPath = item && ::SHGetPathFromIDListA(item.get(), path.data()) != FALSE;
-    return isPath ? std::string(path.data()) : "";
+    std::array<wchar_t, MAX_PATH> path{};
+    const bool isPath = item && ::SHGetPathFromIDListW(item.get(), path.data()) != FALSE;
+    return isPath ? Utf8(path.data()) : "";
 }
 
 std::string WithoutLastBackslash(std::string path) {
-    if (!path.empty() && GetFileNamePart(path, "\\", IsLeadByte).empty()) path.pop_back();
+    if (!path.empty() && GetFileNamePart(path, "\\").empty()) path.pop_back();
     return path;
 }
 
@@ -45,24 +47,25 @@ private:
 };
 
 bool IsFolderOnDisk(const std::string& path) {
-    const std::string_view name = GetFileNamePart(path, "\\", IsLeadByte);
-    WIN32_FIND_DATAA found{};
-    const HANDLE search = ::FindFirstFileA(path.c_str(), &found);
+    const std::string_view name = GetFileNamePart(path, "\\");
+    const std::wstring wide = Wide(path);
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW(wide.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return false;
     ::FindClose(search);
-    const DWORD attributes = ::GetFileAttributesA(path.c_str());
-    return name == found.cFileName && attributes != INVALID_FILE_ATTRIBUTES &&
+    const DWORD attributes = ::GetFileAttributesW(wide.c_str());
+    return name == Utf8(found.cFileName) && attributes != INVALID_FILE_ATTRIBUTES &&
            (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 /// Windows would give a relative path such as ".." the type of the current drive.
 bool IsDrive(const std::string& text) {
-    return text.size() == 2 && ::IsCharAlphaA(text[0]) != FALSE && text[1] == ':';
+    return text.size() == 2 && std::isalpha(static_cast<unsigned char>(text[0])) != 0 && text[1] == ':';
 }
 
 bool IsUsableDrive(const std::string& drive) {
     if (!IsDrive(drive)) return false;
-    const UINT type = ::GetDriveTypeA((drive + '\\').c_str());
+    const UINT type = ::GetDriveTypeW(Wide(drive + '\\').c_str());
     return type >= DRIVE_REMOVABLE && type <= DRIVE_RAMDISK;
 }
 
@@ -77,17 +80,17 @@ bool GetDesktopFolder(std::string& desktopFolder) {
 
 bool IsValidFolder(std::string_view path) {
     const std::string folder = WithoutLastBackslash(std::string(path));
-    return path.size() > rootLength ? IsFolderOnDisk(folder) : IsUsableDrive(folder);
+    return CharacterCount(path) > rootLength ? IsFolderOnDisk(folder) : IsUsableDrive(folder);
 }
 
 std::string BrowseForFolder(HWND owner) {
     const ComInUse com;
-    std::array<char, MAX_PATH> displayName{};
-    BROWSEINFOA browse{};
+    std::array<wchar_t, MAX_PATH> displayName{};
+    BROWSEINFOW browse{};
     browse.hwndOwner = owner;
     browse.pszDisplayName = displayName.data();
-    browse.lpszTitle = "C:\\";
+    browse.lpszTitle = L"C:\\";
     browse.ulFlags = BIF_RETURNONLYFSDIRS;
-    const std::string path = PathOf(OwnedItem(::SHBrowseForFolderA(&browse)));
-    return path.size() > rootLength ? WithoutLastBackslash(path) : path;
+    const std::string path = PathOf(OwnedItem(::SHBrowseForFolderW(&browse)));
+    return CharacterCount(path) > rootLength ? WithoutLastBackslash(path) : path;
 }

@@ -4,7 +4,7 @@
 #include "settings/SettingsRules.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MsgBox.h"
-#include "toolkit/platform/CodePage.h"
+#include "toolkit/platform/Text.h"
 
 void StoreSetting(const RegistryStringHandler& registry, std::string_view valueName, std::string_view text) {
     registry.WriteString(HKEY_CURRENT_USER, settingsKey, valueName, text);
@@ -15,7 +15,11 @@ void LoadSettings(AppState& state, const RegistryStringHandler& registry, const 
     const auto read = [&](std::string_view valueName) {
         return registry.ReadString(HKEY_CURRENT_USER, settingsKey, valueName);
     };
-    if (TakeSettings(state, read, {IsValidFolder, IsLeadByte})) return;
+    if (TakeSettings(state, read, IsValidFolder)) {
+        // As the box for it can hold it, and a palette file.
+        state.settings.customFormat = FromAnsi(Ansi(state.settings.customFormat));
+        return;
+    }
     RestoreDefaultSettings(state, [&](std::string_view valueName, std::string_view text) {
         StoreSetting(registry, valueName, text);
     });

@@ -3,26 +3,27 @@
 #include <array>
 #include <charconv>
 
+#include "core/Characters.h"
 #include "core/ColorCode.h"
 
 namespace {
 
 /// Whether text is a number from 0 to last in decimal digits, without sign or padding.
 template <int last>
-bool IsNumber(std::string_view text, const TextChecks&) {
+bool IsNumber(std::string_view text, const FolderCheck&) {
     for (int number = 0; number <= last; ++number) {
         if (text == std::to_string(number)) return true;
     }
     return false;
 }
 
-bool IsShortEnough(std::string_view text, const TextChecks& checks) {
-    return CharacterCount(text, checks.isLeadByte) <= customFormatLimit;
+bool IsShortEnough(std::string_view text, const FolderCheck&) {
+    return CharacterCount(text) <= customFormatLimit;
 }
 
 /// "" stands for the desktop folder, unchecked, so that a first start never finds its settings unusable.
-bool IsFolder(std::string_view text, const TextChecks& checks) {
-    return text.empty() || checks.isValidFolder(text);
+bool IsFolder(std::string_view text, const FolderCheck& isValidFolder) {
+    return text.empty() || isValidFolder(text);
 }
 
 using NumberSetting = int Settings::*;
@@ -66,11 +67,11 @@ constexpr std::array rows = std::to_array<Setting>({
 
 constinit const std::span<const Setting> allSettings = rows;
 
-bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks) {
+bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck& isValidFolder) {
     for (const Setting& setting : allSettings) {
         const std::string stored = read(setting.valueName);
         const std::string_view text = stored.empty() ? setting.defaultText : std::string_view(stored);
-        if (!setting.isUsable(text, checks)) return false;
+        if (!setting.isUsable(text, isValidFolder)) return false;
         setting.hold(state, text);
     }
     return true;

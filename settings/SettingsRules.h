@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/Characters.h"
 #include "support/AppState.h"
 
 /// What the settings that a dialog edits are called where they are stored.
@@ -24,17 +23,14 @@ inline constexpr std::string_view standardFolder = "StandardFolder";
 /// The length of the longest custom template, in characters.
 inline constexpr std::size_t customFormatLimit = 250;
 
-/// What only Windows can tell about a text.
-struct TextChecks {
-    std::function<bool(std::string_view path)> isValidFolder;
-    LeadByteTest isLeadByte;
-};
+/// Whether a folder can be used, which only Windows can tell.
+using FolderCheck = std::function<bool(std::string_view path)>;
 
 /// One stored value.
 struct Setting {
     std::string_view valueName;
     std::string_view defaultText;  ///< what a missing or empty value stands for; a folder's "": the desktop
-    bool (*isUsable)(std::string_view text, const TextChecks& checks);
+    bool (*isUsable)(std::string_view text, const FolderCheck& isValidFolder);
     void (*hold)(AppState& state, std::string_view text);
     std::string (*text)(const AppState& state);
 };
@@ -48,7 +44,7 @@ using SettingWriter = std::function<void(std::string_view valueName, std::string
 
 /// Takes the stored settings one after another into state; desktopFolder is already set. Returns false at the
 /// first unusable value: those before it have been taken, it and those after it have not.
-bool TakeSettings(AppState& state, const SettingReader& read, const TextChecks& checks);
+bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck& isValidFolder);
 
 /// Puts every setting back to its default and writes them all. The start-up notation in memory is kept.
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write);

@@ -1,15 +1,16 @@
 #include "settings/TokenInsertion.h"
 
+#include "core/Characters.h"
 #include "settings/SettingsRules.h"
 
 std::optional<TokenInsertion> InsertedToken(std::string_view text, std::size_t start, std::size_t length,
-                                            std::string_view token, LeadByteTest isLeadByte) {
-    const std::string_view before = FirstCharacters(text, start, isLeadByte);
-    const std::string_view selected = FirstCharacters(text.substr(before.size()), length, isLeadByte);
+                                            std::string_view token) {
+    const std::string_view before = FirstCharacters(text, start);
+    const std::string_view selected = FirstCharacters(text.substr(before.size()), length);
     const std::string_view after = text.substr(before.size() + selected.size());
-    const std::size_t kept = CharacterCount(before, isLeadByte) + CharacterCount(after, isLeadByte);
+    const std::size_t kept = CharacterCount(before) + CharacterCount(after);
     if (kept + token.size() > customFormatLimit) return std::nullopt;
-    TokenInsertion inserted{std::string(before), start + token.size()};
+    TokenInsertion inserted{std::string(before), CharacterCount(before) + token.size()};
     inserted.text.append(token).append(after);
     return inserted;
 }

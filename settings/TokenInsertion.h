@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/Characters.h"
-
 struct TokenInsertion {
     std::string text;   ///< the new template
     std::size_t caret;  ///< after the placeholder, in characters
@@ -16,4 +14,4 @@ struct TokenInsertion {
 /// Replaces length characters of text from start on with token. start counts from 0, both in characters.
 /// Nothing when the template would become longer than one may be.
 std::optional<TokenInsertion> InsertedToken(std::string_view text, std::size_t start, std::size_t length,
-                                            std::string_view token, LeadByteTest isLeadByte);
+                                            std::string_view token);

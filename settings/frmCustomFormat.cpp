@@ -9,7 +9,6 @@
 #include "settings/SettingsRules.h"
 #include "settings/TokenInsertion.h"
 #include "support/Messages.h"
-#include "toolkit/platform/CodePage.h"
 
 namespace {
 
@@ -73,7 +72,7 @@ void frmCustomFormat::cmdToken_Click(int index) { InsertToken(tokens[index].plac
 void frmCustomFormat::InsertToken(const char* token) {
     const Selection selected = txtFormat.selection();
     const auto inserted =
-        InsertedToken(txtFormat.text(), selected.start, selected.end - selected.start, token, IsLeadByte);
+        InsertedToken(txtFormat.text(), selected.start, selected.end - selected.start, token);
     txtFormat.setFocus();
     if (inserted) txtFormat.setText(inserted->text);
     txtFormat.setSelection(inserted ? Selection{inserted->caret, inserted->caret} : selected);

@@ -20,9 +20,9 @@ bool isTelling = false;  // the message is on the screen
 
 /// Message boxes and the dialogs of Windows run loops of their own, which do not end with their owner.
 BOOL CALLBACK EndModalDialog(HWND window, LPARAM) {
-    std::array<char, 16> className{};
-    ::GetClassNameA(window, className.data(), className.size());
-    if (std::string_view(className.data()) == "#32770") ::EndDialog(window, IDCANCEL);
+    std::array<wchar_t, 16> className{};
+    ::GetClassNameW(window, className.data(), className.size());
+    if (std::wstring_view(className.data()) == L"#32770") ::EndDialog(window, IDCANCEL);
     return TRUE;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 bool allowMultipleInstances = false;
 
-bool IsPreviousInstanceRunning() { return ::FindWindowA("frmMain", nullptr) != nullptr; }
+bool IsPreviousInstanceRunning() { return ::FindWindowW(L"frmMain", nullptr) != nullptr; }
 
 /// Returns the exit code.
 int RunProgram(int showCommand) {

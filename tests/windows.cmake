@@ -25,6 +25,7 @@ add_executable(program_tests
     toolkit/controls/EventContractTest.cpp
     toolkit/controls/IconPixelsTest.cpp
     toolkit/controls/LabelTest.cpp
+    toolkit/controls/TextBoxTest.cpp
     toolkit/controls/ToolBarTest.cpp
     toolkit/controls/UnloadedControlsTest.cpp
     toolkit/forms/FormTest.cpp
@@ -32,7 +33,8 @@ add_executable(program_tests
     toolkit/forms/ModalFormTest.cpp
     toolkit/forms/ModalHoldTest.cpp
     toolkit/forms/ScalingTest.cpp
-    toolkit/forms/YieldTest.cpp)
+    toolkit/forms/YieldTest.cpp
+    toolkit/platform/TextTest.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
 set_target_properties(Planted PROPERTIES PREFIX "")
 target_link_libraries(Planted PRIVATE huevox_flags)
@@ -55,7 +57,7 @@ add_library(ui_driver STATIC
     driver/Theme.cpp
     driver/UiTest.cpp
     driver/Usage.cpp)
-target_link_libraries(ui_driver PUBLIC huevox_flags gtest advapi32 gdi32 psapi)
+target_link_libraries(ui_driver PUBLIC huevox_toolkit gtest advapi32 gdi32 psapi)
 # Where the system scales what DPI-unaware programs see, a program that drives Huevox must see the same places as Huevox does.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"

@@ -106,7 +106,7 @@ void ChannelEditors::txtSet_EnterKey(int channel) {
     txtSet(channel).selectAll();
 }
 
-void ChannelEditors::txtSet_KeyPress(char& character) { ::CharUpperBuffA(&character, 1); }
+void ChannelEditors::txtSet_KeyPress(wchar_t& character) { ::CharUpperBuffW(&character, 1); }
 
 void ChannelEditors::cmdSetColor_Click() {
     if (optSetDec.value()) {

@@ -40,7 +40,7 @@ private:
     void txtSet_Change();
     void txtSet_GotFocus(int channel);
     void txtSet_EnterKey(int channel);
-    void txtSet_KeyPress(char& character);
+    void txtSet_KeyPress(wchar_t& character);
     void cmdSetColor_Click();
     void optSetMode_Click();
 

@@ -21,8 +21,7 @@ void ColorProperties::mnuHelpColorProperties_Click() {
     const int mark = state.marks.selectedMark;
     const ColorReport report = ReportColor(marks.SampleColor(mark), marks.Name(mark));
     const auto show = [&](UINT buttons) {
-        return MsgBox(&form, report.text.c_str(), buttons | MB_ICONINFORMATION,
-                      messages::colorPropertiesTitle);
+        return MsgBox(&form, report.text, buttons | MB_ICONINFORMATION, messages::colorPropertiesTitle);
     };
     if (report.offeredName.empty()) {
         show(MB_OK);

@@ -75,7 +75,7 @@ void ScreenPick::picSample_MouseCaptureLost(int /*mark*/) {
 }
 
 void ScreenPick::ShowPreview(PictureBox& pressed) {
-    form.setPointer(::LoadCursorA(nullptr, IDC_CROSS));
+    form.setPointer(::LoadCursorW(nullptr, IDC_CROSS));
     pressed.captureMouse();
     channels.HideSliders();
     picPick.setVisible(true);

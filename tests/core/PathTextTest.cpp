@@ -2,56 +2,39 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/core/LeadBytes.h"
-
 TEST(GetFileNamePart, IsWhatFollowsTheLastDelimiter) {
-    EXPECT_EQ(GetFileNamePart("D:\\pal\\Reds.txt", "\\", NoLeadByte), "Reds.txt");
-    EXPECT_EQ(GetFileNamePart("D:\\pal\\", "\\", NoLeadByte), "");
-    EXPECT_EQ(GetFileNamePart("a--b--c", "--", NoLeadByte), "c");
+    EXPECT_EQ(GetFileNamePart("D:\\pal\\Reds.txt", "\\"), "Reds.txt");
+    EXPECT_EQ(GetFileNamePart("D:\\pal\\", "\\"), "");
+    EXPECT_EQ(GetFileNamePart("a--b--c", "--"), "c");
 }
 
-TEST(GetFileNamePart, IsEmptyForAnEmptyText) { EXPECT_EQ(GetFileNamePart("", "\\", NoLeadByte), ""); }
+TEST(GetFileNamePart, IsEmptyForAnEmptyText) { EXPECT_EQ(GetFileNamePart("", "\\"), ""); }
 
 TEST(GetFileNamePart, IsTheWholeTextWithoutADelimiter) {
-    EXPECT_EQ(GetFileNamePart("Reds.txt", "\\", NoLeadByte), "Reds.txt");
-    EXPECT_EQ(GetFileNamePart("a\\b", "", NoLeadByte), "a\\b");
+    EXPECT_EQ(GetFileNamePart("Reds.txt", "\\"), "Reds.txt");
+    EXPECT_EQ(GetFileNamePart("a\\b", ""), "a\\b");
 }
 
-TEST(GetFileNamePart, TheSecondByteOfACharacterIsNoBackslash) {
-    EXPECT_EQ(GetFileNamePart("D:\\a\x83\\b", "\\", IsLeadByte83), "a\x83\\b");
-    EXPECT_EQ(GetFileNamePart("D:\\a\x83\\b", "\\", NoLeadByte), "b");
+TEST(GetFileNamePart, MayBeInAnyScript) {
+    EXPECT_EQ(GetFileNamePart("D:\\Палитра\\赤ソ表.txt", "\\"), "赤ソ表.txt");
 }
 
 TEST(FolderPart, EndsWithTheLastBackslash) {
-    EXPECT_EQ(FolderPart("D:\\pal\\Reds.txt", NoLeadByte), "D:\\pal\\");
-    EXPECT_EQ(FolderPart("D:\\", NoLeadByte), "D:\\");
-    EXPECT_EQ(FolderPart("Reds.txt", NoLeadByte), "");
-    EXPECT_EQ(FolderPart("D:\\a\x83\\b", IsLeadByte83), "D:\\");
+    EXPECT_EQ(FolderPart("D:\\pal\\Reds.txt"), "D:\\pal\\");
+    EXPECT_EQ(FolderPart("D:\\"), "D:\\");
+    EXPECT_EQ(FolderPart("Reds.txt"), "");
+    EXPECT_EQ(FolderPart("D:\\ソ表\\赤.txt"), "D:\\ソ表\\");
 }
 
 TEST(WithExtension, AddsOneWhereThereIsNoDotAfterTheLastBackslash) {
-    EXPECT_EQ(WithExtension("D:\\pal\\Reds", NoLeadByte), "D:\\pal\\Reds.txt");
-    EXPECT_EQ(WithExtension("D:\\pal.old\\Reds", NoLeadByte), "D:\\pal.old\\Reds.txt");
-    EXPECT_EQ(WithExtension("D:\\a.b\x83\\c", IsLeadByte83), "D:\\a.b\x83\\c");
-    EXPECT_EQ(WithExtension("D:\\a.b\x83\\c", NoLeadByte), "D:\\a.b\x83\\c.txt");
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds"), "D:\\pal\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\pal.old\\Reds"), "D:\\pal.old\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\pal.old\\Красные"), "D:\\pal.old\\Красные.txt");
 }
 
 TEST(WithExtension, KeepsAnyOther) {
-    EXPECT_EQ(WithExtension("D:\\pal\\Reds.txt", NoLeadByte), "D:\\pal\\Reds.txt");
-    EXPECT_EQ(WithExtension("D:\\pal\\Reds.", NoLeadByte), "D:\\pal\\Reds.");
-    EXPECT_EQ(WithExtension("Reds.pal", NoLeadByte), "Reds.pal");
-}
-
-TEST(FirstCharacters, NeverEndsInTheMiddleOfACharacter) {
-    EXPECT_EQ(FirstCharacters("a\x83\\b", 2, IsLeadByte83), "a\x83\\");
-    EXPECT_EQ(FirstCharacters("a\x83\\b", 2, NoLeadByte), "a\x83");
-    EXPECT_EQ(FirstCharacters("ab", 3, NoLeadByte), "ab");
-    EXPECT_EQ(FirstCharacters("ab\x83", 3, IsLeadByte83), "ab\x83");
-    EXPECT_EQ(FirstCharacters("ab", 0, NoLeadByte), "");
-}
-
-TEST(LastCharacter, MayTakeTwoBytes) {
-    EXPECT_EQ(LastCharacter("ab", NoLeadByte), "b");
-    EXPECT_EQ(LastCharacter("a\x83\\", IsLeadByte83), "\x83\\");
-    EXPECT_EQ(LastCharacter("", NoLeadByte), "");
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds.txt"), "D:\\pal\\Reds.txt");
+    EXPECT_EQ(WithExtension("D:\\pal\\Reds."), "D:\\pal\\Reds.");
+    EXPECT_EQ(WithExtension("Reds.pal"), "Reds.pal");
+    EXPECT_EQ(WithExtension("D:\\pal\\赤.表"), "D:\\pal\\赤.表");
 }

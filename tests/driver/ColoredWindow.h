@@ -23,7 +23,7 @@ public:
 private:
     void paint(COLORREF color) const {
         MSG message;
-        while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
         const HDC context = ::GetDC(window);
         const HBRUSH brush = ::CreateSolidBrush(color);
         constexpr RECT all = {0, 0, 40, 40};

@@ -17,13 +17,13 @@ HWND IconOf(HWND box) {
 }
 
 /// The icon on that ground, row by row.
-std::vector<Color> PixelsOfIcon(LPCSTR icon, int size, const Color& ground) {
+std::vector<Color> PixelsOfIcon(LPCWSTR icon, int size, const Color& ground) {
     const HDC screen = ::GetDC(nullptr);
     const HDC memory = ::CreateCompatibleDC(screen);
     const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, size, size);
     const HGDIOBJ before = ::SelectObject(memory, bitmap);
     const HBRUSH brush = ::CreateSolidBrush(static_cast<COLORREF>(Pack(ground)));
-    ::DrawIconEx(memory, 0, 0, ::LoadIconA(nullptr, icon), size, size, 0, brush, DI_NORMAL);
+    ::DrawIconEx(memory, 0, 0, ::LoadIconW(nullptr, icon), size, size, 0, brush, DI_NORMAL);
     std::vector<Color> pixels = PixelsIn(memory, {0, 0, size, size});
     ::SelectObject(memory, before);
     ::DeleteObject(brush);
@@ -78,7 +78,7 @@ HWND BringRefusal(const Huevox& huevox) {
     return huevox.waitForDialog();
 }
 
-bool ShowsIcon(HWND box, LPCSTR icon) {
+bool ShowsIcon(HWND box, LPCWSTR icon) {
     const RECT area = AreaOf(IconOf(box));
     const int size = static_cast<int>(area.right - area.left);
     const Color ground = Pixel({area.left - 2, area.top});

@@ -19,4 +19,4 @@ void CloseMessage(const Huevox& huevox, std::string_view text);
 [[nodiscard]] HWND BringRefusal(const Huevox& huevox);
 
 /// Whether a message box shows that icon of Windows, such as IDI_EXCLAMATION, pixel by pixel.
-bool ShowsIcon(HWND box, LPCSTR icon);
+bool ShowsIcon(HWND box, LPCWSTR icon);

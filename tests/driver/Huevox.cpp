@@ -37,11 +37,11 @@ void Huevox::startInSight(const std::string& program, WORD showCommand) {
 }
 
 void Huevox::start(const std::string& program, WORD showCommand) {
-    STARTUPINFOA startup{};
+    STARTUPINFOW startup{};
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = showCommand;
     // The program of the current folder: Windows would look for one beside the tests first.
-    process = StartProgram('"' + std::filesystem::absolute(program).string() + '"', startup);
+    process = StartProgram('"' + Utf8(std::filesystem::absolute(Wide(program)).wstring()) + '"', startup);
 }
 
 Huevox::~Huevox() {

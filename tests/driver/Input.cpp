@@ -100,6 +100,19 @@ void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
     }
 }
 
+/// As a keyboard on the screen does: the unit of UTF-16 comes without a key.
+void PressWithoutKey(wchar_t unit) {
+    WaitForKeys();
+    LetGoOfOthers({});
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = unit;
+    for (const DWORD flags : {0UL, static_cast<DWORD>(KEYEVENTF_KEYUP)}) {
+        input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+        ::SendInput(1, &input, sizeof input);
+    }
+}
+
 /// Waits until the window's program, if it is another, has no input left to handle: only then does it paint.
 void WaitForEndOfInput(HWND window) {
     DWORD process = 0;
@@ -143,10 +156,12 @@ void Press(WORD key, std::initializer_list<WORD> modifiers) {
 }
 
 void Type(std::string_view text) {
-    for (const char character : text) {
-        const SHORT scan = ::VkKeyScanA(character);
+    for (const wchar_t unit : Wide(text)) {
+        const SHORT scan = ::VkKeyScanW(unit);
         const auto key = static_cast<WORD>(LOBYTE(scan));
-        if (HIBYTE(scan) & 1) {
+        if (scan == -1) {
+            PressWithoutKey(unit);
+        } else if (HIBYTE(scan) & 1) {
             Press(key, {VK_SHIFT});
         } else {
             Press(key);

@@ -12,7 +12,7 @@ void Press(WORD key, std::initializer_list<WORD> modifiers = {});
 void KeyDown(WORD key);
 void KeyUp(WORD key);
 
-/// Types text by the keys that the keyboard has for it.
+/// Types text by the keys that the keyboard has for it, and without a key what it has none for.
 void Type(std::string_view text);
 
 /// A point on the screen, from the left and top of the window's client area.

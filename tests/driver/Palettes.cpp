@@ -43,36 +43,39 @@ std::string PathOf(std::string_view name) { return std::string(paletteFolder) + 
 std::string OtherPathOf(std::string_view name) { return std::string(otherFolder) + '\\' + std::string(name); }
 
 std::string ContentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(std::filesystem::path(Wide(path)), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void WriteContent(const std::string& path, std::string_view content) {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file(std::filesystem::path(Wide(path)), std::ios::binary);
     file << content;
 }
 
-bool Exists(const std::string& path) { return ::GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
-
-ReadOnlyFile::ReadOnlyFile(std::string path) : path(std::move(path)) {
-    EXPECT_TRUE(::SetFileAttributesA(this->path.c_str(), FILE_ATTRIBUTE_READONLY));
+bool Exists(const std::string& path) {
+    return ::GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-ReadOnlyFile::~ReadOnlyFile() { ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL); }
+ReadOnlyFile::ReadOnlyFile(std::string path) : path(std::move(path)) {
+    EXPECT_TRUE(::SetFileAttributesW(Wide(this->path).c_str(), FILE_ATTRIBUTE_READONLY));
+}
+
+ReadOnlyFile::~ReadOnlyFile() { ::SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL); }
 
 LockedFile::LockedFile(const std::string& path)
-    : file(::CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {
+    : file(::CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
+                         nullptr)) {
     EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
 }
 
 LockedFile::~LockedFile() { ::CloseHandle(file); }
 
 int CountFiles(const std::string& folder, const char* pattern) {
-    WIN32_FIND_DATAA found{};
-    const HANDLE search = ::FindFirstFileA((folder + '\\' + pattern).c_str(), &found);
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW(Wide(folder + '\\' + pattern).c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return 0;
     int count = 1;
-    while (::FindNextFileA(search, &found)) ++count;
+    while (::FindNextFileW(search, &found)) ++count;
     ::FindClose(search);
     return count;
 }

@@ -3,10 +3,11 @@
 #include <fstream>
 
 #include "toolkit/platform/Platform.h"
+#include "toolkit/platform/Text.h"
 
 int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/,
                    int /*nShowCmd*/) {
     std::ofstream file("C:\\Huevox Palettes\\command.txt", std::ios::binary);
-    file << ::GetCommandLineA();
+    file << Utf8(::GetCommandLineW());
     return 0;
 }

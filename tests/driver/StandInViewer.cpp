@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include "toolkit/platform/Platform.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -17,7 +18,8 @@ BOOL WINAPI DllMain(HINSTANCE /*library*/, DWORD reason, LPVOID /*reserved*/) {
     return TRUE;
 }
 
-extern "C" __declspec(dllexport) HWND WINAPI HtmlHelpA(HWND owner, LPCSTR file, UINT call, DWORD_PTR data) {
-    Calls() << owner << '|' << file << '|' << call << '|' << reinterpret_cast<LPCSTR>(data) << '\n';
+extern "C" __declspec(dllexport) HWND WINAPI HtmlHelpW(HWND owner, LPCWSTR file, UINT call, DWORD_PTR data) {
+    Calls() << owner << '|' << Utf8(file) << '|' << call << '|' << Utf8(reinterpret_cast<LPCWSTR>(data))
+            << '\n';
     return nullptr;
 }

@@ -41,6 +41,6 @@ int main() {
                           two_colors::height, nullptr, nullptr, instance, nullptr);
     ::ShowWindow(window, SW_SHOWNOACTIVATE);
     MSG message;
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) ::DispatchMessageA(&message);
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) ::DispatchMessageW(&message);
     return 0;
 }

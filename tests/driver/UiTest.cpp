@@ -1,7 +1,6 @@
 #include "tests/driver/UiTest.h"
 
 #include <array>
-#include <cstring>
 
 namespace {
 
@@ -58,12 +57,13 @@ std::wstring ClipboardUnicodeText() { return ClipboardData<wchar_t>(CF_UNICODETE
 void CopyElsewhere(std::string_view text) {
     ASSERT_TRUE(OpenClipboardSoon());
     ::EmptyClipboard();
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-    auto* target = static_cast<char*>(::GlobalLock(memory));
-    std::memcpy(target, text.data(), text.size());
-    target[text.size()] = '\0';
+    const std::wstring wide = Wide(text);
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, (wide.size() + 1) * sizeof(wchar_t));
+    auto* target = static_cast<wchar_t*>(::GlobalLock(memory));
+    wide.copy(target, wide.size());
+    target[wide.size()] = L'\0';
     ::GlobalUnlock(memory);
-    ::SetClipboardData(CF_TEXT, memory);
+    ::SetClipboardData(CF_UNICODETEXT, memory);
     ::CloseClipboard();
 }
 
@@ -82,17 +82,19 @@ void ExpectDefaultsStored() {
 void StoreText(const char* valueName, std::string_view text) {
     HKEY key = nullptr;
     ::RegCreateKeyA(HKEY_CURRENT_USER, settingsKey, &key);
-    ::RegSetValueExA(key, valueName, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.data()),
-                     static_cast<DWORD>(text.size()));
+    const std::wstring wide = Wide(text);
+    ::RegSetValueExW(key, Wide(valueName).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(wide.data()),
+                     static_cast<DWORD>(wide.size() * sizeof(wchar_t)));
     ::RegCloseKey(key);
 }
 
 std::string StoredText(const char* valueName) {
-    std::array<char, 1024> text{};
-    DWORD size = text.size();
+    std::array<wchar_t, 1024> text{};
+    DWORD size = sizeof text;
     const LSTATUS status =
-        ::RegGetValueA(HKEY_CURRENT_USER, settingsKey, valueName, RRF_RT_REG_SZ, nullptr, text.data(), &size);
-    return status == ERROR_SUCCESS ? text.data() : "(missing)";
+        ::RegGetValueW(HKEY_CURRENT_USER, Wide(settingsKey).c_str(), Wide(valueName).c_str(), RRF_RT_REG_SZ,
+                       nullptr, text.data(), &size);
+    return status == ERROR_SUCCESS ? Utf8(text.data()) : "(missing)";
 }
 
 bool HasStoredSettings() {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "toolkit/platform/Platform.h"
+#include "toolkit/platform/Text.h"
 
 inline std::string ClassOf(HWND window) {
     std::array<char, 64> name{};
@@ -16,15 +17,15 @@ inline std::string ClassOf(HWND window) {
 inline LRESULT AnswerOf(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     constexpr UINT limit = 300'000;
     DWORD_PTR result = 0;
-    ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, limit, &result);
+    ::SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, limit, &result);
     return static_cast<LRESULT>(result);
 }
 
 /// The text of any window, of another process as well.
 inline std::string TextOf(HWND window) {
-    std::string text(AnswerOf(window, WM_GETTEXTLENGTH) + 1, '\0');
+    std::wstring text(AnswerOf(window, WM_GETTEXTLENGTH) + 1, L'\0');
     text.resize(AnswerOf(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
-    return text;
+    return Utf8(text);
 }
 
 /// The text of a message box.

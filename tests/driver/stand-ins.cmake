@@ -1,8 +1,8 @@
 # What the program starts or loads in tests in place of Windows programs and libraries, built for the same word length.
 add_executable(StandIn WIN32 driver/StandIn.cpp)
-target_link_libraries(StandIn PRIVATE huevox_flags)
+target_link_libraries(StandIn PRIVATE huevox_toolkit)
 add_library(StandInViewer MODULE driver/StandInViewer.cpp)
 set_target_properties(StandInViewer PROPERTIES PREFIX "" OUTPUT_NAME hhctrl SUFFIX .ocx)
-target_link_libraries(StandInViewer PRIVATE huevox_flags)
+target_link_libraries(StandInViewer PRIVATE huevox_toolkit)
 # Windows libraries export plain names, without what 32-bit compilers add to them.
 target_link_options(StandInViewer PRIVATE -Wl,--kill-at)

@@ -6,12 +6,6 @@
 
 namespace {
 
-/// As in a code page of Japanese, where 0x5C, a backslash, may be the second byte of a character.
-bool ShiftJisLeadByte(char byte) {
-    const auto value = static_cast<unsigned char>(byte);
-    return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
-}
-
 std::string Joined(const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines) text += line + "\r\n";
@@ -190,17 +184,15 @@ TEST(ParsePaletteLines, NamesAreCutTo21Characters) {
     EXPECT_EQ(Parsed(OlderWith("123456789012341, 2, 3)", '[' + letters + "v]"))->names[2], letters);
 }
 
-TEST(ParsePaletteLines, NeverCutsACharacterOfTwoBytes) {
-    std::vector<std::string> lines = CurrentLines();
-    const std::string character = "\x83\x5C";
-    for (int count = 0; count < 22; ++count) lines[6] += character;
-    lines[6].erase(0, 3);
-    EXPECT_EQ(Parsed(Joined(lines), ShiftJisLeadByte)->names[1],
-              lines[6].substr(0, std::size_t{2} * longestName));
-    const std::string label = "1234567890123" + character;
-    const std::optional<Palette> read =
-        Parsed(OlderWith(label + "1," + character + "2, 3" + character, character + "x" + character),
-               ShiftJisLeadByte);
+TEST(ParsePaletteLines, CountsCharactersNotBytes) {
+    std::string letters;
+    for (int count = 0; count < longestName; ++count) letters += "ソ";
+    EXPECT_EQ(CurrentWith(6, letters)->names[1], letters);
+    EXPECT_EQ(CurrentWith(6, letters + "ソ")->names[1], letters);
+    const std::string pairs = letters.substr(3) + "\U0001F3A8";
+    EXPECT_EQ(CurrentWith(6, pairs)->names[1], letters.substr(3)) << "half a character is none";
+    EXPECT_EQ(CurrentWith(6, pairs.substr(3))->names[1], pairs.substr(3));
+    const std::optional<Palette> read = Parsed(OlderWith("1234567890123ソ1,表2, 3色", "【x】"));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->names[2], "x");
     EXPECT_EQ(read->colors[2], ColorOf(1, 2, 3));

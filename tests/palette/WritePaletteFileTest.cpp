@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 #include "tests/palette/PaletteTexts.h"
@@ -53,13 +54,15 @@ TEST(PaletteFile, WrittenAndReadBackIsTheSame) {
 TEST(PaletteFile, AnyNamesAndColorsComeBack) {
     std::mt19937 random(20041);
     const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };
+    const auto anyCharacter = [&]() -> std::string {
+        const auto character = static_cast<char>(1 + upTo(126));
+        const std::array<std::string, 4> choices = {"é", "Ж", "表", {character}};
+        return character == '\n' ? "" : choices[upTo(3)];
+    };
     for (int round = 0; round < 5000; ++round) {
         Palette palette;
         for (int mark = 0; mark < markCount; ++mark) {
-            for (int left = upTo(longestName); left > 0; --left) {
-                const char character = static_cast<char>(1 + upTo(254));
-                if (character != '\n') palette.names[mark] += character;
-            }
+            for (int left = upTo(longestName); left > 0; --left) palette.names[mark] += anyCharacter();
             palette.colors[mark] = ColorOf(upTo(255), upTo(255), upTo(255));
         }
         ASSERT_EQ(Parsed(WritePaletteFile(palette, "%LD%")), palette) << round;

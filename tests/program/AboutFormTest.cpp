@@ -65,8 +65,8 @@ private:
     COLORREF before;
 };
 
-bool PointerBecomes(LPCSTR shape) {
-    return PumpUntil([&] { return ::GetCursor() == ::LoadCursorA(nullptr, shape); });
+bool PointerBecomes(LPCWSTR shape) {
+    return PumpUntil([&] { return ::GetCursor() == ::LoadCursorW(nullptr, shape); });
 }
 
 }  // namespace

@@ -37,8 +37,8 @@ TEST_F(LongPick, StillReadsRightAndPaintsAfter30000Movements) {
 }
 
 TEST_F(PickPointer, IsACrossFromThePressToTheRelease) {
-    const HCURSOR arrow = ::LoadCursorA(nullptr, IDC_ARROW);
-    const HCURSOR cross = ::LoadCursorA(nullptr, IDC_CROSS);
+    const HCURSOR arrow = ::LoadCursorW(nullptr, IDC_ARROW);
+    const HCURSOR cross = ::LoadCursorW(nullptr, IDC_CROSS);
     // What Windows asks at each movement.
     const auto askForShape = [&] {
         ::SendMessageA(sample(0), WM_SETCURSOR, reinterpret_cast<WPARAM>(sample(0)),

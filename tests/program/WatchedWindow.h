@@ -16,18 +16,18 @@ public:
         : window(window), afterFirstPaint(std::move(afterFirstPaint)) {
         watching = this;
         before = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Receive)));
+            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Receive)));
     }
     WatchedWindow(const WatchedWindow&) = delete;
     WatchedWindow& operator=(const WatchedWindow&) = delete;
-    ~WatchedWindow() { ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before)); }
+    ~WatchedWindow() { ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before)); }
 
     int paints = 0;
     std::vector<std::string> texts;
 
 private:
     static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        const LRESULT result = ::CallWindowProcA(watching->before, window, message, wParam, lParam);
+        const LRESULT result = ::CallWindowProcW(watching->before, window, message, wParam, lParam);
         if (message == WM_SETTEXT) watching->texts.push_back(TextOf(window));
         if (message == WM_PAINT) watching->countPaint();
         return result;

@@ -9,8 +9,7 @@
 
 namespace {
 
-const TextChecks checks = {[](std::string_view path) { return path == "D:\\Palettes"; },
-                           [](char byte) { return byte == '\x83'; }};
+bool IsFolder(std::string_view path) { return path == "D:\\Palettes"; }
 
 /// A registry of a map, with one folder that exists.
 struct Store {
@@ -24,7 +23,7 @@ struct Store {
                 const auto found = values.find(name);
                 return found == values.end() ? std::string() : found->second;
             },
-            checks);
+            IsFolder);
     }
 
     void restore(AppState& state) {
@@ -52,9 +51,9 @@ TEST(EverySetting, TakesItsOwnDefaultAndWhatItIsStoredAs) {
     for (const Setting& setting : allSettings) {
         AppState state;
         state.desktopFolder = "D:\\Palettes";
-        EXPECT_TRUE(setting.isUsable(setting.defaultText, checks)) << setting.valueName;
+        EXPECT_TRUE(setting.isUsable(setting.defaultText, IsFolder)) << setting.valueName;
         setting.hold(state, setting.defaultText);
-        EXPECT_TRUE(setting.isUsable(setting.text(state), checks)) << setting.valueName;
+        EXPECT_TRUE(setting.isUsable(setting.text(state), IsFolder)) << setting.valueName;
     }
 }
 
@@ -107,9 +106,11 @@ TEST(TakeSettings, CustomFormatHasAtMost250Characters) {
     EXPECT_FALSE(IsUsable("CustomFormat", std::string(1'000'000, 'x')));
 }
 
-TEST(TakeSettings, ACharacterOfTwoBytesCountsOnceInTheCustomFormat) {
-    EXPECT_TRUE(IsUsable("CustomFormat", std::string(249, 'x') + "\x83%"));
-    EXPECT_FALSE(IsUsable("CustomFormat", std::string(249, 'x') + "\x83%y"));
+TEST(TakeSettings, TheCustomFormatCountsCharactersNotBytes) {
+    EXPECT_TRUE(IsUsable("CustomFormat", std::string(249, 'x') + "表"));
+    EXPECT_FALSE(IsUsable("CustomFormat", std::string(249, 'x') + "表y"));
+    EXPECT_TRUE(IsUsable("CustomFormat", std::string(248, 'x') + "\U0001F3A8"));
+    EXPECT_FALSE(IsUsable("CustomFormat", std::string(249, 'x') + "\U0001F3A8"));
 }
 
 TEST(TakeSettings, SortIndexIs0Or1) {

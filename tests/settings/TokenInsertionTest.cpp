@@ -4,13 +4,11 @@
 
 #include <string>
 
-#include "tests/core/LeadBytes.h"
-
 namespace {
 
 /// The new template with "|" for the caret; "-" when nothing may be inserted.
 std::string Inserted(std::string_view text, std::size_t start, std::size_t length, std::string_view token) {
-    const auto inserted = InsertedToken(text, start, length, token, NoLeadByte);
+    const auto inserted = InsertedToken(text, start, length, token);
     if (!inserted) return "-";
     std::string shown = inserted->text;
     return shown.insert(inserted->caret, "|");
@@ -56,14 +54,25 @@ TEST(InsertedToken, IntoAFullTemplateNeedsFourSelectedCharacters) {
     EXPECT_EQ(Inserted(std::string(247, 'x'), 0, 1, "%UR%"), "%UR%|" + std::string(246, 'x'));
 }
 
-TEST(InsertedToken, PlacesCountCharactersOfTwoBytesOnce) {
-    const auto inserted = InsertedToken("\x83%b\x83%d", 2, 1, "%UR%", IsLeadByte83);
+TEST(InsertedToken, PlacesCountCharactersNotBytes) {
+    const auto inserted = InsertedToken("表b色d", 2, 1, "%UR%");
     ASSERT_TRUE(inserted);
-    EXPECT_EQ(inserted->text, "\x83%b%UR%d");
+    EXPECT_EQ(inserted->text, "表b%UR%d");
     EXPECT_EQ(inserted->caret, 6U);
 }
 
-TEST(InsertedToken, TheLimitCountsCharactersOfTwoBytesOnce) {
-    EXPECT_TRUE(InsertedToken("\x83%" + std::string(245, 'x'), 1, 0, "%UR%", IsLeadByte83));
-    EXPECT_FALSE(InsertedToken("\x83%" + std::string(246, 'x'), 1, 0, "%UR%", IsLeadByte83));
+TEST(InsertedToken, PlacesCountAPairTwiceAndNeverPartIt) {
+    const auto behind = InsertedToken("\U0001F3A8b", 2, 0, "%UR%");
+    ASSERT_TRUE(behind);
+    EXPECT_EQ(behind->text, "\U0001F3A8%UR%b");
+    EXPECT_EQ(behind->caret, 6U);
+    const auto inside = InsertedToken("\U0001F3A8b", 1, 0, "%UR%");
+    ASSERT_TRUE(inside);
+    EXPECT_EQ(inside->text, "%UR%\U0001F3A8b");
+    EXPECT_EQ(inside->caret, 4U);
+}
+
+TEST(InsertedToken, TheLimitCountsCharactersNotBytes) {
+    EXPECT_TRUE(InsertedToken("表" + std::string(245, 'x'), 1, 0, "%UR%"));
+    EXPECT_FALSE(InsertedToken("表" + std::string(246, 'x'), 1, 0, "%UR%"));
 }

@@ -61,16 +61,16 @@ struct TwipsForm : Form {
 /// Takes back the end of the message loop that the last form of an earlier test has asked for.
 inline void ForgetQuit() {
     MSG message;
-    while (::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
+    while (::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) continue;
 }
 
 /// Dispatches what is waiting now.
 inline void PumpAll() {
     MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (Form::preTranslate(message)) continue;
         ::TranslateMessage(&message);
-        ::DispatchMessageA(&message);
+        ::DispatchMessageW(&message);
     }
 }
 

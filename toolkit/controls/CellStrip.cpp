@@ -12,6 +12,7 @@
 #include "toolkit/forms/ToolTips.h"
 #include "toolkit/platform/Mouse.h"
 #include "toolkit/platform/Painting.h"
+#include "toolkit/platform/WindowText.h"
 
 namespace {
 
@@ -171,8 +172,7 @@ LRESULT CellStrip::onKey(WPARAM key, LPARAM lParam) {
 }
 
 void CellStrip::tellCell() const {
-    if (static_cast<std::size_t>(framedCell) < colors.size())
-        ::SetWindowTextA(handle(), textOf(framedCell).c_str());
+    if (static_cast<std::size_t>(framedCell) < colors.size()) SetTextOf(handle(), textOf(framedCell));
 }
 
 std::string CellStrip::textOf(std::size_t cell) const {
@@ -181,7 +181,7 @@ std::string CellStrip::textOf(std::size_t cell) const {
 
 void CellStrip::paintBackground(const Painting& painting) const {
     const LRESULT brush =
-        ::SendMessageA(form.handle(), WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(painting.context()),
+        ::SendMessageW(form.handle(), WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(painting.context()),
                        reinterpret_cast<LPARAM>(form.handle()));
     ::FillRect(painting.context(), &painting.area(), reinterpret_cast<HBRUSH>(brush));
 }

@@ -4,6 +4,7 @@
 
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/ToolTips.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ Control::Control(Form& form, int id) : FormPart(id), form(form) { form.join(*thi
 
 Control::~Control() {
     form.leave(*this);
-    if (original) ::SetWindowLongPtrA(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    if (original) ::SetWindowLongPtrW(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
     receivers.erase(handle());
 }
 
@@ -41,7 +42,7 @@ void Control::setVisible(bool isVisible) {
 }
 
 void Control::setFocus() {
-    if (handle()) ::SendMessageA(form.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(handle()), TRUE);
+    if (handle()) ::SendMessageW(form.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(handle()), TRUE);
 }
 
 void Control::setToolTip(std::string_view text) {
@@ -62,32 +63,33 @@ void Control::repaint(bool withGround) const {
 }
 
 void Control::registerOwnClass(const char* name) {
-    WNDCLASSA own{};
+    WNDCLASSW own{};
     own.lpfnWndProc = &Control::proc;
-    own.hInstance = ::GetModuleHandleA(nullptr);
-    own.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
-    own.lpszClassName = name;
-    ::RegisterClassA(&own);
+    own.hInstance = ::GetModuleHandleW(nullptr);
+    own.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    const std::wstring className = Wide(name);
+    own.lpszClassName = className.c_str();
+    ::RegisterClassW(&own);
 }
 
 void Control::receive() {
     receivers[handle()] = this;
-    original = ::DefWindowProcA;
+    original = ::DefWindowProcW;
 }
 
 void Control::subclass() {
     receivers[handle()] = this;
     original = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrA(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::proc)));
+        ::SetWindowLongPtrW(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Control::proc)));
 }
 
 LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto receiver = receivers.find(window);
     // A window of the program's own classes sends its first messages before its control is attached.
-    if (receiver == receivers.end()) return ::DefWindowProcA(window, message, wParam, lParam);
+    if (receiver == receivers.end()) return ::DefWindowProcW(window, message, wParam, lParam);
     return receiver->second->onMessage(message, wParam, lParam);
 }
 
 LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::CallWindowProcA(original, handle(), message, wParam, lParam);
+    return ::CallWindowProcW(original, handle(), message, wParam, lParam);
 }

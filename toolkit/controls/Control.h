@@ -41,7 +41,7 @@ protected:
 
     /// Sends a message to the control's window.
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
-        return ::SendMessageA(handle(), message, wParam, lParam);
+        return ::SendMessageW(handle(), message, wParam, lParam);
     }
 
     /// Registers a window class for controls that draw themselves.

@@ -13,7 +13,7 @@ void Paint(HWND window, HDC context) {
 }
 
 LRESULT CALLBACK FrameProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != WM_ERASEBKGND) return ::DefWindowProcA(window, message, wParam, lParam);
+    if (message != WM_ERASEBKGND) return ::DefWindowProcW(window, message, wParam, lParam);
     Paint(window, reinterpret_cast<HDC>(wParam));
     return TRUE;
 }
@@ -21,10 +21,10 @@ LRESULT CALLBACK FrameProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 }  // namespace
 
 void RegisterFieldFrame() {
-    WNDCLASSA frame{};
+    WNDCLASSW frame{};
     frame.lpfnWndProc = FrameProc;
-    frame.hInstance = ::GetModuleHandleA(nullptr);
-    frame.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
-    frame.lpszClassName = "FieldFrame";
-    ::RegisterClassA(&frame);
+    frame.hInstance = ::GetModuleHandleW(nullptr);
+    frame.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    frame.lpszClassName = L"FieldFrame";
+    ::RegisterClassW(&frame);
 }

@@ -24,8 +24,8 @@ public:
         : context(::CreateCompatibleDC(like)),
           bitmap(::CreateCompatibleBitmap(like, size, size)),
           selected(context.get(), bitmap.get()) {
-        const OwnedIcon drawing(static_cast<HICON>(::LoadImageA(
-            ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(icon), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+        const OwnedIcon drawing(static_cast<HICON>(::LoadImageW(
+            ::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(icon), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
         const RECT all = {0, 0, size, size};
         FillWithColor(context.get(), all, ::GetSysColor(COLOR_BTNFACE));
         ::DrawIconEx(context.get(), 0, 0, drawing.get(), size, size, 0, nullptr, DI_NORMAL);

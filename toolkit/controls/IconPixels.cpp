@@ -9,9 +9,9 @@ namespace {
 
 using OwnedBitmap = Owned<HBITMAP, &::DeleteObject>;
 
-void* LockedResource(int number, LPCSTR type) {
-    const HINSTANCE instance = ::GetModuleHandleA(nullptr);
-    const HRSRC found = ::FindResourceA(instance, MAKEINTRESOURCEA(number), type);
+void* LockedResource(int number, LPCWSTR type) {
+    const HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    const HRSRC found = ::FindResourceW(instance, MAKEINTRESOURCEW(number), type);
     const HGLOBAL loaded = found ? ::LoadResource(instance, found) : nullptr;
     if (!loaded) throw std::runtime_error("no icon of that number");
     return ::LockResource(loaded);

@@ -7,7 +7,7 @@
 void Label::setText(std::string_view text) {
     if (shown == text || !handle()) return;
     shown = text;
-    ::SetWindowTextA(handle(), shown.c_str());
+    SetTextOf(handle(), shown);
 }
 
 void Label::attached() {

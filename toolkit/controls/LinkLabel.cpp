@@ -37,7 +37,7 @@ COLORREF LinkColor() {
 
 std::string LinkLabel::text() const { return WindowText(handle()); }
 
-void LinkLabel::setText(std::string_view text) { ::SetWindowTextA(handle(), std::string(text).c_str()); }
+void LinkLabel::setText(std::string_view text) { SetTextOf(handle(), text); }
 
 void LinkLabel::attached() {
     receive();
@@ -52,7 +52,7 @@ LRESULT LinkLabel::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFONT: underline(reinterpret_cast<HFONT>(wParam)); return 0;
         case WM_GETFONT: return reinterpret_cast<LRESULT>(font.get());
         case WM_NCHITTEST: return isOnText(point) ? HTCLIENT : HTTRANSPARENT;
-        case WM_SETCURSOR: ::SetCursor(::LoadCursorA(nullptr, IDC_HAND)); return TRUE;
+        case WM_SETCURSOR: ::SetCursor(::LoadCursorW(nullptr, IDC_HAND)); return TRUE;
         case WM_GETDLGCODE: return IsPress(wParam) ? DLGC_WANTMESSAGE : 0;
         case WM_KEYDOWN:
             if (IsPress(wParam) && !IsRepeated(lParam) && isUsable()) Click.raise();
@@ -93,7 +93,7 @@ void LinkLabel::paint() const {
     {
         const Selected underlined(context, font.get());
         ::SetTextColor(context, LinkColor());
-        ::DrawTextA(context, text().c_str(), -1, &area, oneLine);
+        ::DrawTextW(context, WideWindowText(handle()).c_str(), -1, &area, oneLine);
     }
     if (!hasFocus()) return;
     // Windows draws the dots in the difference of the context's two colours.
@@ -110,7 +110,7 @@ RECT LinkLabel::textArea() const {
     const int room = form.scaled(focusRoom);
     RECT area = {room, room, client.right - room, client.bottom - room};
     const Selected underlined(context.get(), font.get());
-    ::DrawTextA(context.get(), text().c_str(), -1, &area, oneLine | DT_CALCRECT);
+    ::DrawTextW(context.get(), WideWindowText(handle()).c_str(), -1, &area, oneLine | DT_CALCRECT);
     area.right = std::min(area.right, client.right - room);
     return area;
 }

@@ -1,10 +1,9 @@
 #include "toolkit/controls/ListBox.h"
 
-#include <string>
+#include "toolkit/platform/Text.h"
 
 void ListBox::addItem(std::string_view text) {
-    const std::string item(text);
-    send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text).c_str()));
 }
 
 void ListBox::setIndex(int index) {

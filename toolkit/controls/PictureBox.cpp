@@ -3,6 +3,7 @@
 #include "toolkit/forms/Form.h"
 #include "toolkit/platform/Mouse.h"
 #include "toolkit/platform/Painting.h"
+#include "toolkit/platform/WindowText.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ void PictureBox::setBackColor(COLORREF color) {
 void PictureBox::setText(std::string_view text) {
     if (spoken == text) return;
     spoken = text;
-    ::SetWindowTextA(handle(), spoken.c_str());
+    SetTextOf(handle(), spoken);
 }
 
 void PictureBox::setFocusFrame(bool isWanted) {

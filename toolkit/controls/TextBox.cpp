@@ -2,13 +2,26 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+#include <utility>
+
+#include "core/Characters.h"
 #include "toolkit/controls/Keys.h"
 #include "toolkit/forms/Form.h"
+#include "toolkit/platform/Clipboard.h"
 #include "toolkit/platform/FlagGuard.h"
+#include "toolkit/platform/Text.h"
 #include "toolkit/platform/WindowText.h"
+
+namespace {
+
+bool IsHalf(wchar_t unit) { return IS_HIGH_SURROGATE(unit) || IS_LOW_SURROGATE(unit); }
+
+}  // namespace
 
 void TextBox::attached() {
     known.reset();
+    firstHalf = L'\0';
     subclass();
     const int margin = form.scaled(1);  // the longest placeholder just fits between
     send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
@@ -20,11 +33,11 @@ std::string TextBox::text() const {
 }
 
 void TextBox::setText(std::string_view text) {
-    const std::string wanted(text);
-    if (this->text() == wanted) return;
+    const std::wstring wanted = WithinAnsi(Wide(text));
+    if (this->text() == Utf8(wanted)) return;
     {
         const Raised setting(isSettingText);
-        ::SetWindowTextA(handle(), wanted.c_str());
+        ::SetWindowTextW(handle(), wanted.c_str());
     }
     known.reset();
     if (handle()) Change.raise();
@@ -47,7 +60,7 @@ void TextBox::setSelection(const Selection& wanted) {
 }
 
 void TextBox::setCaretToEnd() {
-    const auto end = static_cast<std::size_t>(::GetWindowTextLengthA(handle()));
+    const auto end = static_cast<std::size_t>(::GetWindowTextLengthW(handle()));
     setSelection({end, end});
 }
 
@@ -60,6 +73,7 @@ void TextBox::setBackColor(std::optional<COLORREF> color) {
 void TextBox::onCommand(int /*id*/, int code) {
     // Windows may or may not report a text that the program sets; setText raises Change itself.
     if (code != EN_CHANGE || isSettingText) return;
+    keepWithinAnsi();
     known.reset();
     Change.raise();
 }
@@ -82,7 +96,10 @@ LRESULT TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam != VK_RETURN || !EnterKey.isBound()) break;
             EnterKey.raise();
             return 0;
-        case WM_CHAR: return onCharacter(wParam, lParam);
+        case WM_CHAR: return onCharacter(static_cast<wchar_t>(wParam), lParam);
+        case WM_PASTE:
+            if (pasteCharacters()) return 0;
+            break;
         case WM_LBUTTONDBLCLK: isDoubleClick = true; break;
         default: break;
     }
@@ -93,11 +110,54 @@ LRESULT TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-LRESULT TextBox::onCharacter(WPARAM character, LPARAM lParam) {
-    if (character == '\r' && EnterKey.isBound()) return 0;
-    auto typed = static_cast<char>(character);
+LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {
+    if (unit == L'\r' && EnterKey.isBound()) return 0;
+    const wchar_t before = std::exchange(firstHalf, L'\0');
+    if (IS_HIGH_SURROGATE(unit)) {
+        firstHalf = unit;
+        return 0;
+    }
+    if (before != L'\0' && IS_LOW_SURROGATE(unit)) {
+        insert({before, unit});
+        return 0;
+    }
+    wchar_t typed = unit;
     KeyPress.raise(typed);
-    return Control::onMessage(WM_CHAR, static_cast<unsigned char>(typed), lParam);
+    return Control::onMessage(WM_CHAR, WithinAnsi({&typed, 1}).front(), lParam);
+}
+
+/// Windows would paste characters that the code page does not hold, and half of one where the box ends. What
+/// is replaced only afterwards comes back when the user takes the pasting back.
+bool TextBox::pasteCharacters() {
+    const std::wstring text = TextOnClipboard(handle());
+    const bool arePlain = OutsideAnsi(text).empty() && std::ranges::none_of(text, IsHalf);
+    if (!arePlain) insert(text.substr(0, text.find_first_of(L"\r\n")));
+    return !arePlain;
+}
+
+void TextBox::insert(std::wstring text) {
+    const auto [start, end] = selection();
+    const auto limit = static_cast<std::size_t>(send(EM_GETLIMITTEXT));
+    const std::size_t kept = ::GetWindowTextLengthW(handle()) - (end - start);
+    text = Wide(FirstCharacters(Utf8(WithinAnsi(text)), limit - std::min(kept, limit)));
+    if (!text.empty()) send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+/// A palette file is in the system's code page: the user sees at once what it cannot hold, wherever the text
+/// has come from.
+void TextBox::keepWithinAnsi() {
+    std::vector<CharacterPlace> outside = OutsideAnsi(WideWindowText(handle()));
+    if (outside.empty()) return;
+    const Raised setting(isSettingText);
+    auto [start, end] = selection();
+    for (; !outside.empty(); outside.pop_back()) {
+        const CharacterPlace& last = outside.back();
+        send(EM_SETSEL, last.start, static_cast<LPARAM>(last.start + last.length));
+        send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"?"));
+        if (start > last.start) start -= last.length - 1;
+        if (end > last.start) end -= last.length - 1;
+    }
+    send(EM_SETSEL, start, static_cast<LPARAM>(end));
 }
 
 void TextBox::onRelease(LPARAM position) {

@@ -9,13 +9,16 @@
 #include "toolkit/controls/Control.h"
 #include "toolkit/forms/Event.h"
 
-/// Positions in characters, from 0: the first selected one and the one after the last. Without a selection
-/// both are the caret's.
+/// Positions in units of UTF-16, from 0: the first selected one and the one after the last. Without a
+/// selection both are the caret's.
 struct Selection {
     std::size_t start;
     std::size_t end;
 };
 
+/// Its text consists of what the system's ANSI code page holds: any other character, whoever puts it there,
+/// is
+/// "?" before Change is raised.
 class TextBox : public Control {
 public:
     using Control::Control;
@@ -26,7 +29,8 @@ public:
     Event<> GotFocus;
     Event<> LostFocus;
     Event<> EnterKey;
-    Event<char&> KeyPress;  ///< a typed character, which the handler may replace
+    Event<wchar_t&>
+        KeyPress;  ///< a typed character, which the handler may replace; none that takes two units
 
     std::string text() const;
     /// Raises Change when the text differs.
@@ -51,11 +55,17 @@ private:
     void onCommand(int id, int code) override;
     HBRUSH onColor(HDC context) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    LRESULT onCharacter(WPARAM character, LPARAM lParam);
+    LRESULT onCharacter(wchar_t unit, LPARAM lParam);
+    /// False when Windows may paste the text as it is.
+    bool pasteCharacters();
+    /// Puts text in the place of the selection, as far as there is room.
+    void insert(std::wstring text);
+    void keepWithinAnsi();
     void onRelease(LPARAM position);
 
     mutable std::optional<std::string> known;  // the window's text, once it has been read
     std::optional<COLORREF> back;
+    wchar_t firstHalf = L'\0';  // of a character that is typed in two
     bool isSettingText = false;
     bool isDoubleClick = false;
 };

@@ -38,7 +38,7 @@ void ToolBar::fill(std::span<const ToolButton> buttons, int pressed) {
     if (wanted != icons) drawnSize = 0;
     icons = std::move(wanted);
     send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
-    send(TB_ADDBUTTONSA, records.size(), reinterpret_cast<LPARAM>(records.data()));
+    send(TB_ADDBUTTONSW, records.size(), reinterpret_cast<LPARAM>(records.data()));
     setSizes();
 }
 
@@ -98,11 +98,11 @@ void ToolBar::setGaps() const {
         TBBUTTON button{};
         send(TB_GETBUTTON, index, reinterpret_cast<LPARAM>(&button));
         if (!(button.fsStyle & BTNS_SEP)) continue;
-        TBBUTTONINFOA gap{};
+        TBBUTTONINFOW gap{};
         gap.cbSize = sizeof gap;
         gap.dwMask = TBIF_BYINDEX | TBIF_SIZE;
         gap.cx = static_cast<WORD>(form.scaled(gapSize));
-        send(TB_SETBUTTONINFOA, index, reinterpret_cast<LPARAM>(&gap));
+        send(TB_SETBUTTONINFOW, index, reinterpret_cast<LPARAM>(&gap));
     }
 }
 

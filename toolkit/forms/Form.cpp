@@ -24,7 +24,7 @@ void Form::load() {
     const DialogTemplate dialog = LoadDialogTemplate(name);
     createFrame(dialog);
     for (const TemplateItem& item : dialog.items) createControl(item);
-    accelerators = ::LoadAcceleratorsA(::GetModuleHandleA(nullptr), name);
+    accelerators = ::LoadAcceleratorsW(::GetModuleHandleW(nullptr), Wide(name).c_str());
     for (const Timer* timer : timers) timer->start(window);
     Load.pass();
     if (window) state = State::loaded;
@@ -55,8 +55,8 @@ void Form::createControl(const TemplateItem& item) {
     const HWND created = layout.create(container ? container->window : window, item);
     if (!created) throw std::runtime_error("Windows refused a control");
     if (part) part->attach(created);
-    if (::SendMessageA(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
-        ::SendMessageA(window, DM_SETDEFID, item.id, 0);
+    if (::SendMessageW(created, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
+        ::SendMessageW(window, DM_SETDEFID, item.id, 0);
 }
 
 void Form::show(int showCommand) { ::ShowWindow(window, showCommand); }
@@ -114,11 +114,11 @@ void Form::stopAllTimers() {
 
 std::string Form::text() const { return WindowText(window); }
 
-void Form::setText(std::string_view caption) { ::SetWindowTextA(window, std::string(caption).c_str()); }
+void Form::setText(std::string_view caption) { SetTextOf(window, caption); }
 
 void Form::setPointer(HCURSOR shape) {
     pointer = shape;
-    ::SetCursor(shape ? shape : ::LoadCursorA(nullptr, IDC_ARROW));
+    ::SetCursor(shape ? shape : ::LoadCursorW(nullptr, IDC_ARROW));
 }
 
 void Form::setMenuItemEnabled(int command, bool isEnabled) {
@@ -132,5 +132,5 @@ void Form::tipChanged(const FormPart& part) {
 void Form::focusLeaves(HWND leaving) {
     // Posted, so that the next control is chosen after the handler has finished enabling and disabling.
     if (leaving && ::GetFocus() == leaving)
-        ::PostMessageA(window, focusLeftMessage, 0, reinterpret_cast<LPARAM>(leaving));
+        ::PostMessageW(window, focusLeftMessage, 0, reinterpret_cast<LPARAM>(leaving));
 }

@@ -36,7 +36,7 @@ void FormLayout::rescale(int dpi, const POINT& corner) {
         const RECT place = placeOf(control.units, ::GetParent(control.window));
         ::SetWindowPos(control.window, nullptr, place.left, place.top, place.right - place.left,
                        place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-        ::SendMessageA(control.window, WM_SETFONT, reinterpret_cast<WPARAM>(MessageFont(dpi)), TRUE);
+        ::SendMessageW(control.window, WM_SETFONT, reinterpret_cast<WPARAM>(MessageFont(dpi)), TRUE);
     }
 }
 

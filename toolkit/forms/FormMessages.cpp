@@ -12,7 +12,7 @@ constexpr UINT activatedMessage = WM_APP + 1;
 HWND Window(LPARAM parameter) { return reinterpret_cast<HWND>(parameter); }
 
 BOOL CALLBACK PassOn(HWND child, LPARAM message) {
-    ::SendMessageA(child, static_cast<UINT>(message), 0, 0);
+    ::SendMessageW(child, static_cast<UINT>(message), 0, 0);
     return TRUE;
 }
 
@@ -23,7 +23,7 @@ void MoveFocusOn(HWND form, HWND left) {
     if (focus && focus != form && focus != left) return;
     const bool isLeftUsable = ::IsWindowEnabled(left) && ::IsWindowVisible(left);
     const HWND next = isLeftUsable ? left : ::GetNextDlgTabItem(form, left, FALSE);
-    ::SendMessageA(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    ::SendMessageW(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
 }
 
 }  // namespace
@@ -61,14 +61,14 @@ bool Form::preTranslate(MSG& message) {
     const auto found = std::ranges::find(loadedForms, root, &Form::window);
     if (found == loadedForms.end()) return false;
     const Form& form = **found;
-    if (form.accelerators && ::TranslateAcceleratorA(form.window, form.accelerators, &message)) return true;
-    return ::IsDialogMessageA(form.window, &message) != FALSE;
+    if (form.accelerators && ::TranslateAcceleratorW(form.window, form.accelerators, &message)) return true;
+    return ::IsDialogMessageW(form.window, &message) != FALSE;
 }
 
 LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto found = std::ranges::find(loadedForms, window, &Form::window);
     if (found != loadedForms.end()) return Receiver(**found).onMessage(message, wParam, lParam);
-    if (!formBeingCreated) return ::DefDlgProcA(window, message, wParam, lParam);
+    if (!formBeingCreated) return ::DefDlgProcW(window, message, wParam, lParam);
     formBeingCreated->window = window;
     return Receiver(*formBeingCreated).onMessage(message, wParam, lParam);
 }
@@ -101,7 +101,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NCDESTROY: onDestroyed(); break;
         default: break;
     }
-    return ::DefDlgProcA(window, message, wParam, lParam);
+    return ::DefDlgProcW(window, message, wParam, lParam);
 }
 
 /// A form that a modal window has disabled ignores commands from every source.
@@ -171,7 +171,7 @@ void Form::Receiver::onActivate(int how) {
     } else {
         // The message arrives while Windows is still busy, closing a message box for instance.
         form.isActivatePending = true;
-        ::PostMessageA(form.window, activatedMessage, 0, 0);
+        ::PostMessageW(form.window, activatedMessage, 0, 0);
     }
 }
 

@@ -1,42 +1,42 @@
 #include "toolkit/forms/FormWindow.h"
 
 #include <algorithm>
-#include <cstring>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "toolkit/platform/Text.h"
 #include "toolkit/platform/WindowPlace.h"
 
 namespace {
 
 constexpr int programIcon = 1;  // the lowest number, which Windows takes as the program's icon too
 
-HINSTANCE Instance() { return ::GetModuleHandleA(nullptr); }
+HINSTANCE Instance() { return ::GetModuleHandleW(nullptr); }
 
-const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
+const wchar_t* Units(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
 
-void RegisterFormClass(const char* name, DWORD exStyle, WNDPROC proc) {
-    WNDCLASSEXA windowClass{};
+void RegisterFormClass(const wchar_t* name, DWORD exStyle, WNDPROC proc) {
+    WNDCLASSEXW windowClass{};
     windowClass.cbSize = sizeof windowClass;
-    if (::GetClassInfoExA(Instance(), name, &windowClass)) return;  // the form has been loaded before
+    if (::GetClassInfoExW(Instance(), name, &windowClass)) return;  // the form has been loaded before
     windowClass.lpfnWndProc = proc;
     windowClass.cbWndExtra = DLGWINDOWEXTRA;
     windowClass.hInstance = Instance();
     // A tool window shows its icon nowhere.
     const bool hasPicture = !(exStyle & WS_EX_TOOLWINDOW);
-    windowClass.hIcon = hasPicture ? ::LoadIconA(Instance(), MAKEINTRESOURCEA(programIcon)) : nullptr;
-    windowClass.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hIcon = hasPicture ? ::LoadIconW(Instance(), MAKEINTRESOURCEW(programIcon)) : nullptr;
+    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     windowClass.lpszClassName = name;
-    ::RegisterClassExA(&windowClass);
+    ::RegisterClassExW(&windowClass);
 }
 
 }  // namespace
 
 DialogTemplate LoadDialogTemplate(const char* name) {
-    const HRSRC found = ::FindResourceA(Instance(), name, RT_DIALOG);
+    const HRSRC found = ::FindResourceW(Instance(), Wide(name).c_str(), RT_DIALOG);
     const HGLOBAL loaded = found ? ::LoadResource(Instance(), found) : nullptr;
     if (!loaded) throw std::runtime_error("no dialog template of that name");
     const auto* bytes = static_cast<const std::byte*>(::LockResource(loaded));
@@ -46,12 +46,12 @@ DialogTemplate LoadDialogTemplate(const char* name) {
 // Not by the dialog manager, which would choose another size and place.
 HWND CreateFormWindow(const char* name, const DialogTemplate& layout, const Area& place, HWND owner,
                       WNDPROC proc) {
-    RegisterFormClass(name, layout.exStyle, proc);
-    const std::wstring className(name, name + std::strlen(name));
+    const std::wstring className = Wide(name);
+    RegisterFormClass(className.c_str(), layout.exStyle, proc);
     Owned<HMENU, &::DestroyMenu> menu(layout.menu.empty() ? nullptr
-                                                          : ::LoadMenuW(Instance(), Wide(layout.menu)));
+                                                          : ::LoadMenuW(Instance(), Units(layout.menu)));
     const HWND window =
-        ::CreateWindowExW(layout.exStyle, className.c_str(), Wide(layout.caption), layout.style, place.left,
+        ::CreateWindowExW(layout.exStyle, className.c_str(), Units(layout.caption), layout.style, place.left,
                           place.top, place.width(), place.height(), owner, menu.get(), Instance(), nullptr);
     if (window) menu.release();  // the window owns it now
     return window;
@@ -77,9 +77,9 @@ Area CenteredPlace(HWND owner, const SIZE& frame) {
 
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
     const HWND control = ::CreateWindowExW(
-        item.exStyle | WS_EX_NOPARENTNOTIFY, Wide(item.className), Wide(item.text), item.style | WS_CHILD,
+        item.exStyle | WS_EX_NOPARENTNOTIFY, Units(item.className), Units(item.text), item.style | WS_CHILD,
         place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(item.id)), Instance(), nullptr);
-    ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     return control;
 }

@@ -8,21 +8,21 @@ namespace {
 void Deliver(MSG& message) {
     if (Form::preTranslate(message)) return;
     ::TranslateMessage(&message);
-    ::DispatchMessageA(&message);
+    ::DispatchMessageW(&message);
 }
 
 }  // namespace
 
 int RunMessageLoop() {
     MSG message{};
-    while (::GetMessageA(&message, nullptr, 0, 0) > 0) Deliver(message);
+    while (::GetMessageW(&message, nullptr, 0, 0) > 0) Deliver(message);
     return static_cast<int>(message.wParam);
 }
 
 void RunModalLoop(const Form& form) {
     MSG message{};
     while (form.isLoaded()) {
-        if (::GetMessageA(&message, nullptr, 0, 0) <= 0) {
+        if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
             ::PostQuitMessage(static_cast<int>(message.wParam));  // for the program's own loop
             return;
         }
@@ -34,7 +34,7 @@ void Yield() {
     constexpr int limit = 1000;  // a window that never validates itself must not hang the program
     MSG message;
     for (int count = 0; count < limit; ++count) {
-        if (!::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
-        ::DispatchMessageA(&message);
+        if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
+        ::DispatchMessageW(&message);
     }
 }

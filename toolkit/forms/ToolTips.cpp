@@ -1,14 +1,16 @@
 #include "toolkit/forms/ToolTips.h"
 
+#include "toolkit/platform/Text.h"
+
 ToolTips::ToolTips(HWND form)
     : form(form),
-      window(::CreateWindowExA(
-          WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
-          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, ::GetModuleHandleA(nullptr), nullptr)) {
+      window(::CreateWindowExW(
+          WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, ::GetModuleHandleW(nullptr), nullptr)) {
 }
 
 void ToolTips::set(HWND control, const std::string& text) const {
-    TTTOOLINFOA tool{};
+    TTTOOLINFOW tool{};
     tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
     tool.hwnd = form;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
@@ -16,7 +18,7 @@ void ToolTips::set(HWND control, const std::string& text) const {
 }
 
 void ToolTips::set(HWND control, int part, const RECT& area, const std::string& text) const {
-    TTTOOLINFOA tool{};
+    TTTOOLINFOW tool{};
     tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = control;
     tool.uId = part;
@@ -24,13 +26,13 @@ void ToolTips::set(HWND control, int part, const RECT& area, const std::string& 
     replace(tool, text);
 }
 
-void ToolTips::setShown(bool isShown) const { ::SendMessageA(window, TTM_ACTIVATE, isShown, 0); }
+void ToolTips::setShown(bool isShown) const { ::SendMessageW(window, TTM_ACTIVATE, isShown, 0); }
 
-void ToolTips::replace(TTTOOLINFOA& tool, const std::string& text) const {
-    std::string writable = text;
+void ToolTips::replace(TTTOOLINFOW& tool, const std::string& text) const {
+    std::wstring writable = Wide(text);
     tool.cbSize = sizeof tool;
     tool.lpszText = writable.data();
     const auto argument = reinterpret_cast<LPARAM>(&tool);
-    ::SendMessageA(window, TTM_DELTOOLA, 0, argument);
-    if (!text.empty()) ::SendMessageA(window, TTM_ADDTOOLA, 0, argument);
+    ::SendMessageW(window, TTM_DELTOOLW, 0, argument);
+    if (!text.empty()) ::SendMessageW(window, TTM_ADDTOOLW, 0, argument);
 }

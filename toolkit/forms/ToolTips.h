@@ -18,7 +18,7 @@ public:
     void setShown(bool isShown) const;
 
 private:
-    void replace(TTTOOLINFOA& tool, const std::string& text) const;
+    void replace(TTTOOLINFOW& tool, const std::string& text) const;
 
     HWND form;
     HWND window;  // owned by the form's window, and destroyed with it

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "toolkit/platform/Handles.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -30,23 +31,27 @@ void PutBytes(UINT format, const void* bytes, std::size_t size) {
     if (::SetClipboardData(format, memory.get())) memory.release();
 }
 
-std::wstring Widened(std::string_view text) {
-    const char* const first = text.data();
-    const int size = static_cast<int>(text.size());
-    std::wstring wide(::MultiByteToWideChar(CP_ACP, 0, first, size, nullptr, 0), L'\0');
-    ::MultiByteToWideChar(CP_ACP, 0, first, size, wide.data(), static_cast<int>(wide.size()));
-    return wide;
-}
-
 }  // namespace
 
 void PutTextOnClipboard(HWND owner, std::string_view text) {
-    const std::string bytes(text);
-    // Windows would make the Unicode text with the code page of the keyboard's language.
-    const std::wstring wide = Widened(text);
+    // Windows would convert one into the other with the code page of the keyboard's language.
+    const std::string bytes = Ansi(text);
+    const std::wstring wide = Wide(text);
     const OpenedClipboard clipboard(owner);
     if (!clipboard) return;
     ::EmptyClipboard();
     PutBytes(CF_TEXT, bytes.c_str(), bytes.size() + 1);
     PutBytes(CF_UNICODETEXT, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+}
+
+std::wstring TextOnClipboard(HWND reader) {
+    const OpenedClipboard clipboard(reader);
+    const HANDLE data = clipboard ? ::GetClipboardData(CF_UNICODETEXT) : nullptr;
+    const auto* units = data ? static_cast<const wchar_t*>(::GlobalLock(data)) : nullptr;
+    if (!units) return L"";
+    // Another program has put it there, and may have left out the NUL.
+    const std::wstring_view all(units, ::GlobalSize(data) / sizeof(wchar_t));
+    std::wstring text(all.substr(0, all.find(L'\0')));
+    ::GlobalUnlock(data);
+    return text;
 }

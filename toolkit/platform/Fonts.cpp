@@ -4,13 +4,14 @@
 #include <map>
 
 #include "toolkit/platform/Contexts.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
 bool IsFace(HDC context, std::string_view face) {
-    std::array<char, LF_FACESIZE> selected{};
-    ::GetTextFaceA(context, selected.size(), selected.data());
-    return face == selected.data();
+    std::array<wchar_t, LF_FACESIZE> selected{};
+    ::GetTextFaceW(context, selected.size(), selected.data());
+    return Wide(face) == selected.data();
 }
 
 OwnedFont SegoeUi(int dpi) {
@@ -40,18 +41,18 @@ HFONT MessageFont(int dpi) {
 }
 
 OwnedFont FontOfHeight(std::string_view face, int pixels) {
-    LOGFONTA wanted{};
+    LOGFONTW wanted{};
     wanted.lfHeight = -pixels;
     wanted.lfWeight = FW_NORMAL;
     wanted.lfCharSet = DEFAULT_CHARSET;
     wanted.lfQuality = CLEARTYPE_QUALITY;
-    face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
-    return OwnedFont(::CreateFontIndirectA(&wanted));
+    Wide(face).copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    return OwnedFont(::CreateFontIndirectW(&wanted));
 }
 
 OwnedFont Underlined(HFONT plain) {
-    LOGFONTA wanted{};
-    ::GetObjectA(plain, sizeof wanted, &wanted);
+    LOGFONTW wanted{};
+    ::GetObjectW(plain, sizeof wanted, &wanted);
     wanted.lfUnderline = TRUE;
-    return OwnedFont(::CreateFontIndirectA(&wanted));
+    return OwnedFont(::CreateFontIndirectW(&wanted));
 }

@@ -26,7 +26,7 @@ inline void PaintEdge(HDC context, const RECT& area) {
 
 /// Windows may hide the focus until the keyboard is used.
 inline bool ShowsFocus(HWND window) {
-    return !(::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
+    return !(::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
 }
 
 /// Shows the focus: black around white, to be visible on any colour; width is that of each line.

@@ -2,8 +2,10 @@
 
 #include <stdexcept>
 
+#include "toolkit/platform/Text.h"
+
 FARPROC FindSystemFunction(const char* library, const char* name) {
-    const HMODULE loaded = ::LoadLibraryExA(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    const HMODULE loaded = ::LoadLibraryExW(Wide(library).c_str(), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     const FARPROC found = loaded ? ::GetProcAddress(loaded, name) : nullptr;
     if (!found) throw std::runtime_error("Windows lacks a function");
     return found;

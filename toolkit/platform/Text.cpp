@@ -1,5 +1,7 @@
 #include "toolkit/platform/Text.h"
 
+#include <algorithm>
+
 #include "toolkit/platform/Platform.h"
 
 namespace {
@@ -23,12 +25,44 @@ std::string Narrowed(UINT codePage, std::wstring_view text) {
     return narrow;
 }
 
+bool IsHeld(std::wstring_view text) {
+    // Most texts are plain, and every code page holds those.
+    const bool isPlain = std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
+    return isPlain || Widened(::GetACP(), Narrowed(::GetACP(), text)) == text;
+}
+
+std::size_t LengthAt(std::wstring_view text, std::size_t at) {
+    const bool isPair = at + 1 < text.size() && IS_SURROGATE_PAIR(text[at], text[at + 1]);
+    return isPair ? 2 : 1;
+}
+
 }  // namespace
 
 std::wstring Wide(std::string_view text) { return Widened(CP_UTF8, text); }
 
 std::string Utf8(std::wstring_view text) { return Narrowed(CP_UTF8, text); }
 
-std::string Ansi(std::string_view text) { return Narrowed(::GetACP(), Wide(text)); }
+std::string Ansi(std::string_view text) { return Narrowed(::GetACP(), WithinAnsi(Wide(text))); }
 
 std::string FromAnsi(std::string_view bytes) { return Utf8(Widened(::GetACP(), bytes)); }
+
+std::vector<CharacterPlace> OutsideAnsi(std::wstring_view text) {
+    std::vector<CharacterPlace> outside;
+    if (IsHeld(text)) return outside;
+    std::size_t length = 0;
+    for (std::size_t at = 0; at < text.size(); at += length) {
+        length = LengthAt(text, at);
+        if (!IsHeld(text.substr(at, length))) outside.push_back({at, length});
+    }
+    return outside;
+}
+
+std::wstring WithinAnsi(std::wstring_view text) {
+    std::wstring within;
+    std::size_t done = 0;
+    for (const auto& [start, length] : OutsideAnsi(text)) {
+        within.append(text.substr(done, start - done)).append(1, L'?');
+        done = start + length;
+    }
+    return within.append(text.substr(done));
+}

@@ -30,7 +30,7 @@ Area WorkAreaAt(HWND window) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     const DWORD otherwise = window ? MONITOR_DEFAULTTONEAREST : MONITOR_DEFAULTTOPRIMARY;
-    ::GetMonitorInfoA(::MonitorFromWindow(window, otherwise), &monitor);
+    ::GetMonitorInfoW(::MonitorFromWindow(window, otherwise), &monitor);
     return AreaOf(monitor.rcWork);
 }
 

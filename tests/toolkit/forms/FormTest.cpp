@@ -17,7 +17,7 @@ TEST_F(FormTest, LoadComesFirstAndTicksAndActivationsWaitForItsEnd) {
         const ULONGLONG end = ::GetTickCount64() + 100;
         MSG message;
         while (::GetTickCount64() < end) {
-            if (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageA(&message);
+            if (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
         }
         events.emplace_back("Load");
     });

@@ -66,7 +66,7 @@ TEST_F(FormTest, TheLastOneEndsTheMessageLoop) {
     second.load();
     form.unload();
     MSG message;
-    EXPECT_FALSE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_FALSE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     second.unload();
     EXPECT_EQ(RunMessageLoop(), 0);
 }
@@ -79,7 +79,7 @@ TEST_F(FormTest, AMessageForAWindowThatHasGoneReachesNoOther) {
     const HWND other = second.handle();
     const auto proc = reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(gone, GWLP_WNDPROC));
     form.unload();
-    ::CallWindowProcA(proc, gone, WM_NULL, 0, 0);
+    ::CallWindowProcW(proc, gone, WM_NULL, 0, 0);
     EXPECT_EQ(second.handle(), other);
     second.unload();
 }

@@ -23,7 +23,7 @@ protected:
     static bool isEnabled(const Form& form) { return ::IsWindowEnabled(form.handle()) != FALSE; }
     /// Makes the dialog what a modal form is.
     void own(const Form& dialog) const {
-        ::SetWindowLongPtrA(dialog.handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(main.handle()));
+        ::SetWindowLongPtrW(dialog.handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(main.handle()));
     }
 
     TestForm main;

@@ -49,9 +49,7 @@ TEST_F(About, SaysWhatTheProgramIs) {
     EXPECT_EQ(box.text(IDC_lblMoreInfo), "Learn more about Huevox on the web:");
     EXPECT_EQ(box.text(IDC_lblFeedbackInfo), "Send comments and suggestions to:");
     EXPECT_EQ(box.text(IDC_lblVersion), "Version " + VersionOfFile());
-    EXPECT_EQ(box.text(IDC_lblCopyright),
-              "Copyright \xA9 2004\x96"
-              "2026 the Huevox authors");
+    EXPECT_EQ(box.text(IDC_lblCopyright), "Copyright © 2004–2026 the Huevox authors");
     EXPECT_TRUE(Holds(box.text(IDC_lblDisclaimer), "free"));
     EXPECT_TRUE(Holds(box.text(IDC_lblDisclaimer), "without warranties of any kind"));
     EXPECT_TRUE(Holds(box.text(IDC_lblDisclaimer), "no responsibility"));

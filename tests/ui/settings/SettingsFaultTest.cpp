@@ -26,7 +26,7 @@ std::vector<Content> AllContents() {
             {"a number with its NUL", REG_SZ, {"1\0", 2}, one},
             {"bytes that begin with a NUL", REG_SZ, {"\0\1\2\xFF", 4}, ""},
             {"bytes with a NUL inside", REG_SZ, {"1\0\x80\xFF\n", 5}, one},
-            {"high bytes and line ends", REG_SZ, "\x80\x99\xFF\r\n\t", "\x80\x99\xFF\r\n\t"},
+            {"high bytes and line ends", REG_SZ, "\x80\x99\xFF\r\n\t", "€™ÿ\r\n\t"},
             {"a megabyte", REG_SZ, std::string(1'000'000, 'x'), std::string(1'000'000, 'x')},
             {"a DWORD", REG_DWORD, {"\7\0\0\0", 4}, ""},
             {"a QWORD", REG_QWORD, {"\7\0\0\0\0\0\0\0", 8}, ""},

@@ -56,7 +56,7 @@ TEST_F(Autocopy, IsOwnedByTheMainWindow) {
 }
 
 TEST_F(Autocopy, UnicodeTextIsMadeOfTheSameCharacters) {
-    StoreText("CustomFormat", "caf\xE9 \x80 %UR%");
+    StoreText("CustomFormat", "café € %UR%");
     const Huevox huevox;
     huevox.chooseNotation(11);
     EXPECT_BECOMES(ClipboardText(), "caf\xE9 \x80 FF");
