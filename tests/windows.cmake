@@ -44,6 +44,19 @@ target_link_libraries(program_tests PRIVATE huevox_program test_resources gtest_
 # Reading the framework's headers takes longer than compiling a test.
 target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 
+# The program once more, for a system whose code page is UTF-8: its manifest asks for that.
+file(READ ${PROJECT_BINARY_DIR}/resources/app.manifest manifest)
+set(utf8 "<activeCodePage xmlns=\"http://schemas.microsoft.com/SMI/2019/WindowsSettings\">UTF-8</activeCodePage>")
+string(REPLACE "</windowsSettings>" "${utf8}</windowsSettings>" manifest "${manifest}")
+file(CONFIGURE OUTPUT utf8/app.manifest CONTENT "${manifest}" @ONLY)
+add_library(huevox_utf8_resources OBJECT ${PROJECT_SOURCE_DIR}/resources/app.rc)
+target_include_directories(huevox_utf8_resources PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/utf8
+    $<TARGET_PROPERTY:huevox_resources,INCLUDE_DIRECTORIES>)
+add_dependencies(huevox_utf8_resources huevox_resources)
+add_executable(Huevox_utf8 WIN32 ${PROJECT_SOURCE_DIR}/support/Main.cpp ${PROJECT_SOURCE_DIR}/support/Terminate.cpp)
+target_link_libraries(Huevox_utf8 PRIVATE huevox_program huevox_utf8_resources)
+set_target_properties(Huevox_utf8 PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+
 # Drives the running program from another process, with real keys and mouse.
 add_library(ui_driver STATIC
     driver/Dialogs.cpp
@@ -60,7 +73,8 @@ add_library(ui_driver STATIC
 target_link_libraries(ui_driver PUBLIC huevox_toolkit gtest advapi32 gdi32 psapi)
 # Where the system scales what DPI-unaware programs see, a program that drives Huevox must see the same places as Huevox does.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
-target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
+target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_UTF8_EXE="Huevox_utf8.exe"
+    HUEVOX_STAND_IN="tests/StandIn.exe"
     HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
     HUEVOX_TEST_FILES="Z:${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
     HUEVOX_COLOR_NAMES="Z:${color_names}")
@@ -98,6 +112,8 @@ add_executable(ui_tests
     ui/mainwindow/panels/WaitingValuesTest.cpp
     ui/palette/ChangedFileTest.cpp
     ui/palette/ChangedNewPaletteTest.cpp
+    ui/palette/CodePageTest.cpp
+    ui/palette/FileNamesTest.cpp
     ui/palette/NotepadTest.cpp
     ui/palette/PaletteFaultTest.cpp
     ui/palette/PaletteOpenTest.cpp
@@ -118,7 +134,7 @@ add_executable(ui_tests
 target_link_libraries(ui_tests PRIVATE ui_driver gtest_main version)
 target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
-add_dependencies(ui_tests Huevox)
+add_dependencies(ui_tests Huevox Huevox_utf8)
 
 include(driver/stand-ins.cmake)
 add_executable(TwoColors WIN32 driver/TwoColors.cpp)
@@ -163,6 +179,20 @@ add_test(NAME ui.on_two_monitors
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --monitors 2
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=LeftMonitor.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+# The tests of characters in the three other code pages: two come with the language of the system, one with the program.
+add_test(NAME ui.in_code_page_65001
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=CodePage.*
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.in_code_page_65001 PROPERTIES ${alone} ENVIRONMENT HUEVOX_CODE_PAGE=65001)
+foreach(page IN ITEMS 1251:ru_RU.UTF-8 932:ja_JP.UTF-8)
+    string(REGEX MATCH "^([0-9]+):(.*)$" page ${page})
+    add_test(NAME ui.in_code_page_${CMAKE_MATCH_1}
+        COMMAND ${PROJECT_SOURCE_DIR}/scripts/desktop --locale ${CMAKE_MATCH_2}
+            ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=CodePage.*
+        WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+    set_tests_properties(ui.in_code_page_${CMAKE_MATCH_1} PROPERTIES ${patient}
+        ENVIRONMENT HUEVOX_CODE_PAGE=${CMAKE_MATCH_1})
+endforeach()
 # At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
 string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
