@@ -24,7 +24,8 @@ if(WIN32)
     endforeach()
     get_target_property(definitions huevox_flags INTERFACE_COMPILE_DEFINITIONS)
     list(TRANSFORM definitions PREPEND -D)
-    list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe" -DHUEVOX_STAND_IN="StandIn.exe"
+    list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe" -DHUEVOX_UTF8_EXE="Huevox_utf8.exe"
+            -DHUEVOX_STAND_IN="StandIn.exe"
         -DHUEVOX_STAND_IN_VIEWER="hhctrl.ocx"
         -DHUEVOX_VERSION="1.2.3" -DHUEVOX_NEWER_VERSION="1.2.4")
 endif()

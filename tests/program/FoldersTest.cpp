@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <thread>
@@ -62,6 +63,24 @@ TEST_F(ValidFolder, TheLetterCaseOfTheLastPartCounts) {
     EXPECT_FALSE(IsValidFolder("C:\\folders test"));
     EXPECT_FALSE(IsValidFolder("C:\\Folders Test\\inner"));
     EXPECT_TRUE(IsValidFolder("C:\\folders test\\Inner"));
+}
+
+TEST_F(ValidFolder, MayHaveANameInAnyScript) {
+    const std::filesystem::path folder = L"C:\\Folders Test\\Палитры 色見本";
+    std::filesystem::create_directory(folder);
+    EXPECT_TRUE(IsValidFolder("C:\\Folders Test\\Палитры 色見本"));
+    EXPECT_TRUE(IsValidFolder("C:\\Folders Test\\Палитры 色見本\\"));
+    EXPECT_FALSE(IsValidFolder("C:\\Folders Test\\палитры 色見本"));
+    std::filesystem::remove(folder);
+}
+
+TEST_F(ValidFolder, AShortTextIsNoneHoweverManyBytesItTakes) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path("C:\\Folders Test");
+    std::filesystem::create_directory(L"Жук");
+    EXPECT_FALSE(IsValidFolder("Жук"));
+    std::filesystem::remove(L"Жук");
+    std::filesystem::current_path(before);
 }
 
 TEST_F(ValidFolder, AWildcardIsNone) {

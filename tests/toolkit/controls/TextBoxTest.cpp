@@ -61,6 +61,13 @@ TEST_F(TextBoxCharacters, AnyOtherIsAQuestionMarkBeforeChangeIsRaised) {
     EXPECT_EQ(seen, (Seen{"a", "a?", "a??"}));
 }
 
+TEST_F(TextBoxCharacters, ATypedOneCanBeTakenBack) {
+    type(L"Ж");
+    ASSERT_EQ(box().text(), "?");
+    undo();
+    EXPECT_EQ(box().text(), "");
+}
+
 TEST_F(TextBoxCharacters, OneThatIsTypedInTwoHalvesIsOne) {
     type(L"a\U0001F3A8b");
     EXPECT_EQ(seen, (Seen{"a", "a?", "a?b"}));
