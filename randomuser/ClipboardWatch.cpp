@@ -6,6 +6,7 @@
 #include "tests/driver/Input.h"
 #include "tests/driver/UiTest.h"
 #include "tests/driver/WindowText.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -31,18 +32,17 @@ private:
     HANDLE thread;
 };
 
-/// The text on the clipboard, or nothing while it is open elsewhere. What is copied has no letters beyond
-/// ASCII.
+/// The text on the clipboard, or nothing while it is open elsewhere.
 std::optional<std::string> TextWhenFree() {
     if (!::OpenClipboard(nullptr)) return std::nullopt;
-    std::string narrow;
+    std::string text;
     const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
-    if (const auto* text = data ? static_cast<const wchar_t*>(::GlobalLock(data)) : nullptr) {
-        for (const wchar_t character : std::wstring_view(text)) narrow += static_cast<char>(character);
+    if (const auto* units = data ? static_cast<const wchar_t*>(::GlobalLock(data)) : nullptr) {
+        text = Utf8(units);
         ::GlobalUnlock(data);
     }
     ::CloseClipboard();
-    return narrow;
+    return text;
 }
 
 /// The same while a copy may be due. The program does not copy again when it finds the clipboard open
@@ -60,8 +60,9 @@ std::string ClipboardWatch::difference(const ClipboardFact& before, const Clipbo
     const bool wasKnown = before.state == ClipboardFact::State::known;
     const bool isKnown = now.state == ClipboardFact::State::known;
     const bool isKept = wasKnown && isKnown && now.text == before.text;
-    if (isKept && !now.isHeld && number != lastNumber && ClipboardText() != now.text)
-        return "clipboard: expected " + now.text + ", seen " + ClipboardText();
+    const bool isWritten = isKept && !now.isHeld && number != lastNumber;
+    const std::string seen = isWritten ? FromAnsi(ClipboardText()) : now.text;
+    if (seen != now.text) return "clipboard: expected " + now.text + ", seen " + seen;
     lastNumber = number;
     return "";
 }

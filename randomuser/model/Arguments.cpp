@@ -10,18 +10,36 @@ constexpr std::array valueTexts = std::to_array<const char*>(
     {"0",  "7",  "007", "255", "256", "128", "51", "102", "204", "240", "-1",  "1.5", "1e2", "x",
      "ff", "0f", "F",   "FFF", "G0",  "c0",  "80", "FA",  "33",  "",    " 9 ", "9 ",  "999", "ABCD"});
 
-constexpr std::array nameTexts = std::to_array<const char*>(
-    {"navy", "Navy", "red", "cyan", "aqua", "magenta", "White", "white", "black", "sea, [deep]",
-     "Type a colour name", "Not JavaScript colour", "not javascript colour", "", "x", "100% & more",
-     "a name that is far too long"});
+constexpr std::array nameTexts = std::to_array<const char*>({"navy",
+                                                             "Navy",
+                                                             "red",
+                                                             "cyan",
+                                                             "aqua",
+                                                             "magenta",
+                                                             "White",
+                                                             "white",
+                                                             "black",
+                                                             "sea, [deep]",
+                                                             "Type a colour name",
+                                                             "Not JavaScript colour",
+                                                             "not javascript colour",
+                                                             "",
+                                                             "x",
+                                                             "100% & more",
+                                                             "a name that is far too long",
+                                                             "café, naïve",
+                                                             "Очень длинное название",
+                                                             "Θάλασσα 海",
+                                                             "🎨 €"});
 
-constexpr std::array paths = std::to_array<const char*>({"some.txt", "old.txt", "long.txt", "letter.txt",
-                                                         "locked.txt", "other\\some.txt", "one.txt",
-                                                         "two.txt", "other\\one.txt", "New palette.txt"});
+constexpr std::array paths = std::to_array<const char*>(
+    {"some.txt", "old.txt", "long.txt", "letter.txt", "locked.txt", "other\\some.txt", "one.txt", "two.txt",
+     "other\\one.txt", "New palette.txt", "Красные 赤.txt", "other\\Θάλασσα 🎨.txt"});
 constexpr const char* missingPath = "nowhere.txt";
 
-constexpr std::array formats = std::to_array<const char*>(
-    {"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb %DR%, %DG%, %DB%;", "no token at all"});
+constexpr std::array formats =
+    std::to_array<const char*>({"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb %DR%, %DG%, %DB%;",
+                                "no token at all", "цвет %UR% 色 %UG% café 🎨"});
 
 constexpr std::array copiedTexts = std::to_array<const char*>({"theirs", "#123456", "two\r\nlines"});
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "core/Characters.h"
+
 namespace {
 
 constexpr std::size_t longestFormat = 250;
@@ -42,7 +44,7 @@ void Dialogs::chooseOption(int option) {
 
 void Dialogs::insertToken(int token) {
     const std::string text = tokens.at(token);
-    if (chosen.customFormat.size() + text.size() <= longestFormat) chosen.customFormat += text;
+    if (CharacterCount(chosen.customFormat) + text.size() <= longestFormat) chosen.customFormat += text;
 }
 
 void Dialogs::close(bool isAccepted) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "randomuser/model/Box.h"
+#include "randomuser/model/CodePage.h"
 #include "randomuser/model/StoredSettings.h"
 
 /// The settings in memory, those that are stored, and what is chosen in the dialog that is open.
@@ -19,7 +20,7 @@ public:
     void openAbout() { box.show(Box::Kind::about); }
     void chooseRow(int row) { chosen.formatIndex = row; }
     void chooseOption(int option);
-    void typeFormat(const std::string& text) { chosen.customFormat = text; }
+    void typeFormat(const std::string& text) { chosen.customFormat = ShownInBox(text); }
     void insertToken(int token);
     void close(bool isAccepted);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "randomuser/model/CodePage.h"
+
 namespace {
 
 std::string NamePart(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
@@ -80,7 +82,7 @@ void FileCommands::saveTo(const std::string& path) {
         return box.show(Box::Kind::message, "Could not save. Check if file or folder is read-only.");
     saved = marks.all();
     std::ranges::replace(saved.names, notJavaScript, noName);
-    file = {PaletteText(saved, dialogs.inUse().customFormat), false, saved};
+    file = {BytesInFile(PaletteText(saved, dialogs.inUse().customFormat)), false, saved};
     paletteName = NamePart(path);
     marks.whiten();
     goOn();

@@ -1,5 +1,8 @@
 #include "randomuser/model/MarkSet.h"
 
+#include "core/Characters.h"
+#include "randomuser/model/CodePage.h"
+
 void MarkSet::tell(Look& look) const {
     look.marks = six;
     look.highlighted = highlighted;
@@ -35,13 +38,14 @@ void MarkSet::refreshLetters() {
 void MarkSet::typeName(int mark, const std::string& name) {
     if (name.empty() && six.names.at(mark).empty()) return;
     constexpr std::size_t longest = 21;
-    six.names.at(mark) = name == notJavaScript ? noName : name.substr(0, longest);
+    six.names.at(mark) =
+        name == notJavaScript ? noName : std::string(FirstCharacters(ShownInBox(name), longest));
     highlighted.at(mark) = false;
 }
 
 void MarkSet::eraseCharacter(int mark) {
     const std::string& name = six.names.at(mark);
-    typeName(mark, name.substr(0, name.empty() ? 0 : name.size() - 1));
+    typeName(mark, name.substr(0, name.size() - LastCharacter(name).size()));
 }
 
 void MarkSet::findNames() {
