@@ -13,6 +13,7 @@ set(filters
     HexValues.*
     ColorBarClicks.*-*.EveryStep*
     Autocopy.*
+    SavingKeeps.*
     SavingPalettes.*
     OpeningPalettes.*
     OpeningInNotepad.*

@@ -14,10 +14,12 @@ add_executable(program_tests
     program/ColorsOnTheWayTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
+    program/KeptTraitsTest.cpp
     program/LibrarySearchTest.cpp
     program/MainWindowTest.cpp
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
+    program/SavingWaysTest.cpp
     program/ScreenPickTest.cpp
     program/SystemColorsTest.cpp
     program/TextFitTest.cpp
@@ -114,6 +116,7 @@ add_executable(ui_tests
     ui/palette/ChangedNewPaletteTest.cpp
     ui/palette/CodePageTest.cpp
     ui/palette/FileNamesTest.cpp
+    ui/palette/KeptFileTest.cpp
     ui/palette/NotepadTest.cpp
     ui/palette/PaletteFaultTest.cpp
     ui/palette/PaletteOpenTest.cpp
@@ -161,7 +164,7 @@ endforeach()
 set(patient TIMEOUT 3000 LABELS windows)
 set(alone RESOURCE_GROUPS "desktops:1" ${patient})
 suite_tests(program_tests program * ${alone})
-suite_tests(ui_tests ui -LowColorDepth.*:FullDisk.*:LeftMonitor.*:WordLength.Is32 ${alone})
+suite_tests(ui_tests ui -LowColorDepth.*:FullDisk.*:ImmovableFile.*:LeftMonitor.*:WordLength.Is32 ${alone})
 suite_tests(installer_tests installer * ${alone} FIXTURES_REQUIRED packages)
 add_test(NAME packages.made
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${newer_version})
@@ -208,11 +211,16 @@ add_test(NAME ui.on_a_full_disk
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/full-disk
         ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=FullDisk.*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+add_test(NAME ui.on_a_file_that_cannot_be_replaced
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/immovable-file
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=ImmovableFile.*
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(ui.on_a_file_that_cannot_be_replaced PROPERTIES SKIP_RETURN_CODE 77)
 add_test(NAME program.with_few_fonts
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/few-fonts
         sans ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:program_tests> --gtest_filter=TextFit.*)
-set_tests_properties(program.with_few_fonts ui.on_a_display_of_16_bits ui.on_a_full_disk ui.on_two_monitors
-    PROPERTIES ${patient})
+set_tests_properties(program.with_few_fonts ui.on_a_display_of_16_bits ui.on_a_file_that_cannot_be_replaced
+    ui.on_a_full_disk ui.on_two_monitors PROPERTIES ${patient})
 # The random users, each on its own desktop, share the minutes that HUEVOX_SOAK_MINUTES gives.
 function(add_random_user name seed folder)
     add_test(NAME ${name}

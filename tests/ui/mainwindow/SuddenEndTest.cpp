@@ -1,4 +1,5 @@
 // Is anything torn or unusable when the program is ended at any moment?
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -7,6 +8,7 @@
 
 #include "tests/driver/Figures.h"
 #include "tests/driver/Palettes.h"
+#include "tests/driver/ReadOnlyFolder.h"
 
 namespace {
 
@@ -82,6 +84,20 @@ private:
     std::array<char, MAX_PATH> folder{};
 };
 
+class EndWhileWritingInPlace : public EndWhileSaving {
+protected:
+    /// Never shorter than the old text was, and each byte is that of the old text or of the new one.
+    bool isMixture(const std::string& content) const {
+        if (content.size() < std::min(before.size(), after.size())) return false;
+        for (std::size_t at = 0; at < content.size(); ++at) {
+            const bool isOld = at < before.size() && content[at] == before[at];
+            const bool isNew = at < after.size() && content[at] == after[at];
+            if (!isOld && !isNew) return false;
+        }
+        return true;
+    }
+};
+
 class EndWhileRepairing : public UiTest {
 protected:
     static constexpr std::array<std::array<const char*, 3>, 4> settings = {{{"FormatIndex", "12", "0"},
@@ -139,6 +155,20 @@ TEST_F(EndWhileSaving, LeavesTheOldPaletteOrTheNewOne) {
     }
     std::printf("%d kills during saves: none torn, %d new, %d old, %d other files left\n", kills, saved,
                 kills - saved, CountFiles(otherFolder, "*.tmp"));
+}
+
+TEST_F(EndWhileWritingInPlace, EmptiesNoFile) {
+    const Milliseconds span = 3 * TimeOfSave();
+    const int kills = CountKills(16) / 4;
+    const ReadOnlyFolder folder(otherFolder);
+    Killer killer;
+    int whole = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+        const std::string content = ContentAfterKill(killer, span);
+        ASSERT_TRUE(isMixture(content)) << "kill " << kill << '\n' << content;
+        whole += content == before || content == after ? 1 : 0;
+    }
+    std::printf("%d kills while files were written in place: none empty, %d old or new\n", kills, whole);
 }
 
 TEST_F(EndWhileRepairing, LeavesSettingsThatTheNextStartCanUse) {

@@ -4,7 +4,7 @@
 
 #include "tests/driver/Below.h"
 #include "tests/driver/Palettes.h"
-#include "tests/driver/Rights.h"
+#include "tests/driver/ReadOnlyFolder.h"
 
 namespace {
 
@@ -54,28 +54,43 @@ protected:
     inline static const std::string before = PaletteOf("mine", "1,2,3");
 };
 
-class FullDisk : public UiTest {};
-
-/// A folder that nobody may write in, for as long as the value lives.
-class ReadOnlyFolder {
+/// A file that its owner, the user, may only read, for as long as the value lives. It has no attribute that
+/// says so, because others may write it.
+class FileOfOthers {
 public:
-    explicit ReadOnlyFolder(const char* path) : path(path) {
-        setRights(readingOnly);
-        WriteContent(OtherPathOf("probe"), "x");
-        EXPECT_FALSE(Exists(OtherPathOf("probe"))) << "the tests must not run with the rights of root";
+    explicit FileOfOthers(std::string path) : path(std::move(path)) {
+        setMode("0466", false);
+        EXPECT_EQ(::GetFileAttributesA(this->path.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
     }
-    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
-    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
-    ~ReadOnlyFolder() { setRights(everything); }
+    FileOfOthers(const FileOfOthers&) = delete;
+    FileOfOthers& operator=(const FileOfOthers&) = delete;
+    ~FileOfOthers() { setMode("0666", true); }
 
 private:
-    void setRights(const char* rights) const {
-        SetRights(rights, [&](PSECURITY_DESCRIPTOR descriptor) {
-            EXPECT_TRUE(::SetFileSecurityA(path, DACL_SECURITY_INFORMATION, descriptor));
-        });
+    void setMode(const std::string& mode, bool isWritable) const {
+        const std::wstring wide(path.begin(), path.end());
+        RunBelow("chmod", mode + " \"" + SystemPathOf(wide.c_str()) + '"');
+        EXPECT_TRUE(Eventually([&] { return isOpenedForWriting() == isWritable; })) << path;
+    }
+    bool isOpenedForWriting() const {
+        const HANDLE file =
+            ::CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+        if (file != INVALID_HANDLE_VALUE) ::CloseHandle(file);
+        return file != INVALID_HANDLE_VALUE;
     }
 
-    const char* path;
+    std::string path;
+};
+
+class FullDisk : public UiTest {
+protected:
+    void TearDown() override {
+        ::DeleteFileA((folder + "\\filler").c_str());
+        UiTest::TearDown();
+    }
+    void fill() const { WriteContent(folder + "\\filler", std::string(1'000'000, 'x')); }
+
+    const std::string folder = std::getenv("HUEVOX_FULL_DISK");
 };
 
 }  // namespace
@@ -91,15 +106,26 @@ TEST_F(RefusedSaving, ByAReadOnlyFile) {
     ExpectSaving(huevox);
 }
 
-TEST_F(RefusedSaving, ByAReadOnlyFolder) {
+TEST_F(RefusedSaving, ByAFileThatTheUserMayNotWrite) {
     const Huevox huevox;
     OpenAndChange(huevox);
     {
-        const ReadOnlyFolder refusing(otherFolder);
+        const FileOfOthers refusing(OtherPathOf("mine.txt"));
         ExpectRefusal(huevox);
         EXPECT_EQ(ContentOf(OtherPathOf("mine.txt")), before);
     }
     ExpectSaving(huevox);
+}
+
+TEST_F(RefusedSaving, OfANewFileByAReadOnlyFolder) {
+    const Huevox huevox;
+    OpenAndChange(huevox);
+    const ReadOnlyFolder refusing(otherFolder);
+    ChooseSaveAs();
+    ChoosePath(huevox, saveTitle, OtherPathOf("new.txt"));
+    CloseMessage(huevox, couldNotSave);
+    EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
+    EXPECT_FALSE(Exists(OtherPathOf("new.txt")));
 }
 
 TEST_F(RefusedSaving, ByAnotherProgramThatHasLockedTheFile) {
@@ -166,13 +192,12 @@ TEST_F(RefusedSaving, ByItsOwnSuddenEndLeavesAWholeFile) {
 }
 
 TEST_F(FullDisk, LeavesTheOldFileAndTheChange) {
-    const std::string folder = std::getenv("HUEVOX_FULL_DISK");
     const std::string before = PaletteOf("mine", "1,2,3");
     WriteContent(folder + "\\mine.txt", before);
     const Huevox huevox;
     OpenPalette(huevox, folder + "\\mine.txt");
     ChangeColor(huevox);
-    WriteContent(folder + "\\filler", std::string(1'000'000, 'x'));
+    fill();
     PressSave();
     CloseMessage(huevox, couldNotSave);
     EXPECT_EQ(ContentOf(folder + "\\mine.txt"), before);
@@ -180,4 +205,17 @@ TEST_F(FullDisk, LeavesTheOldFileAndTheChange) {
     EXPECT_EQ(CountFiles(folder, "*.tmp"), 0);
     PressNew();
     AnswerQuestion(huevox, IDCANCEL);
+}
+
+TEST_F(FullDisk, LeavesAFileThatIsWrittenWhereItIs) {
+    WriteContent(folder + "\\empty.txt", "");
+    fill();
+    const ReadOnlyFolder withoutNewFiles(folder);
+    const Huevox huevox;
+    PressSave();
+    TypePath(huevox, saveTitle, folder + "\\empty.txt");
+    AnswerReplacing(huevox, IDYES);
+    CloseMessage(huevox, couldNotSave);
+    EXPECT_EQ(ContentOf(folder + "\\empty.txt"), "");
+    EXPECT_EQ(huevox.title(), "Huevox - New palette");
 }
