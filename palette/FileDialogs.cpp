@@ -7,6 +7,8 @@
 
 #include "core/PathText.h"
 #include "settings/Folders.h"
+#include "support/Messages.h"
+#include "toolkit/forms/MsgBox.h"
 #include "toolkit/platform/SystemFunction.h"
 #include "toolkit/platform/Text.h"
 
@@ -78,14 +80,27 @@ std::string FileDialogs::Show(const Kind& kind) {
     const auto show = SystemFunction<decltype(::GetOpenFileNameW)>("comdlg32.dll", kind.function);
     // Whether the dialog itself changes the current folder, and when, depends on the version of Windows.
     const std::wstring folderBefore = CurrentFolder();
-    if (!show(&record)) {
-        ::SetCurrentDirectoryW(folderBefore.c_str());
-        return "";
-    }
-    const std::string path = Utf8(file.data());
+    std::string path;
+    do {
+        if (!show(&record)) {
+            ::SetCurrentDirectoryW(folderBefore.c_str());
+            return "";
+        }
+        path = Utf8(file.data());
+        if (!kind.isForExistingFiles || !IsFile(path)) path = WithExtension(path);
+    } while (!kind.isForExistingFiles && path != Utf8(file.data()) && !MayReplace(path));
     folder = FolderPart(path);
     ::SetCurrentDirectoryW(Wide(folder).c_str());
-    return kind.isForExistingFiles && IsFile(path) ? path : WithExtension(path);
+    return path;
+}
+
+/// The dialog has asked about the name without its extension. After No it comes back, as after its own
+/// question.
+bool FileDialogs::MayReplace(const std::string& path) const {
+    if (!IsFile(path)) return true;
+    const std::string question = std::string(GetFileNamePart(path, "\\")) + messages::replaceAfterName;
+    constexpr UINT style = MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2;
+    return MsgBox(&owner, question.c_str(), style, messages::replaceTitle) == IDYES;
 }
 
 /// No folder is called "True" or "False", so Windows then chooses one.

@@ -24,6 +24,7 @@ private:
     struct Kind;
 
     std::string Show(const Kind& kind);
+    bool MayReplace(const std::string& path) const;
     void ReplaceUnusableFolder();
 
     const Form& owner;

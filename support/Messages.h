@@ -17,6 +17,8 @@ inline constexpr const char* lowColorDepth =
     "Huevox will look better if you select a higher value in the Control Panel in Windows.";
 inline constexpr const char* unexpectedError = "Huevox encountered an unexpected error and must close.";
 inline constexpr const char* paletteChanged = "The palette has been changed. Do you want to save it?";
+inline constexpr const char* replaceTitle = "Save Palette As";
+inline constexpr const char* replaceAfterName = " already exists.\r\nDo you want to replace it?";
 inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
 inline constexpr const char* noNotepad = "Could not open file in Notepad.";
 inline constexpr const char* noHelp = "Problem with HTML Help.";

@@ -19,6 +19,7 @@ add_executable(program_tests
     program/MainWindowTest.cpp
     program/PickerFormsTest.cpp
     program/RegistryStringHandlerTest.cpp
+    program/SaveDialogTest.cpp
     program/SavingWaysTest.cpp
     program/ScreenPickTest.cpp
     program/SystemColorsTest.cpp
