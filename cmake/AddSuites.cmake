@@ -13,11 +13,13 @@ if(NOT EXISTS ${kept} OR ${program} IS_NEWER_THAN ${kept})
     file(WRITE ${kept} "${tests}")
 endif()
 
-file(STRINGS ${kept} suites REGEX "^[A-Za-z0-9_]+[.]")
+file(STRINGS ${kept} suites REGEX "^[^ ]+[.]")
 string(REGEX MATCH "-.*" without "${filter}")
 foreach(suite IN LISTS suites)
     string(REGEX REPLACE "[.].*" "" suite ${suite})
-    add_test(${prefix}.${suite} ${starter} ${program} --gtest_filter=${suite}.*${without}
-        --gtest_output=json:results/${prefix}.${suite}.json)
-    set_tests_properties(${prefix}.${suite} PROPERTIES WORKING_DIRECTORY ${folder} ${properties})
+    # A suite with parameters is called "Parameters/Suite"; a file of figures cannot be.
+    string(REPLACE "/" "." name ${prefix}.${suite})
+    add_test(${name} ${starter} ${program} --gtest_filter=${suite}.*${without}
+        --gtest_output=json:results/${name}.json)
+    set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY ${folder} ${properties})
 endforeach()
