@@ -25,6 +25,8 @@ public:
         return {LOWORD(both), HIWORD(both)};
     }
     int focused() const { return huevox.focused(); }
+    /// Expects nothing to be selected, and the caret after so many characters.
+    void expectCaret(int after) const { EXPECT_BECOMES(selection(), (std::pair{after, after})); }
 
     /// Clicks a placeholder's button and waits for what the template becomes.
     void insert(int button, std::string_view expected) const {

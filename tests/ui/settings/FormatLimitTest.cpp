@@ -56,7 +56,7 @@ TEST_F(FormatLimit, APlaceholderFillsTheTemplateTo250Characters) {
     const Huevox huevox;
     const FormatDialog dialog(huevox);
     dialog.insert(IDC_cmdUB, text + "%UB%");
-    EXPECT_BECOMES(dialog.selection(), (std::pair{250, 250}));
+    dialog.expectCaret(250);
 }
 
 TEST_F(FormatLimit, APlaceholderThatWouldPass250CharactersChangesNothing) {

@@ -25,10 +25,6 @@ void ChooseOthers(const OptionsDialog& options) {
     options.turnOn(IDC_optDotNet);
 }
 
-void PressCloseBox(const OptionsDialog& options) {
-    ::PostMessageA(options.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-}
-
 void ExpectNothingKept(const Huevox& huevox, const OptionsDialog& options) {
     EXPECT_FALSE(HasStoredSettings());
     EXPECT_EQ(huevox.listIndex(), 0);
@@ -39,6 +35,21 @@ void ExpectNothingKept(const Huevox& huevox, const OptionsDialog& options) {
     EXPECT_TRUE(options.isOn(IDC_optAlphabetically));
     EXPECT_FALSE(options.isOn(IDC_optDotNet));
     options.close(IDC_cmdCancel);
+}
+
+void PressCloseBox(const OptionsDialog& options) {
+    ::PostMessageA(options.window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+/// Leaves the dialog with every choice changed, in a way that keeps none of them.
+template <class Leave>
+void ExpectCancel(Leave leave) {
+    const Huevox huevox;
+    const OptionsDialog options(huevox);
+    ChooseOthers(options);
+    leave(options);
+    options.waitForReturn();
+    ExpectNothingKept(huevox, options);
 }
 
 }  // namespace
@@ -102,30 +113,14 @@ TEST_F(Options, OkTurnsBothChoicesBack) {
 }
 
 TEST_F(Options, CancelKeepsAndStoresNothing) {
-    const Huevox huevox;
-    const OptionsDialog options(huevox);
-    ChooseOthers(options);
-    options.close(IDC_cmdCancel);
-    ExpectNothingKept(huevox, options);
+    ExpectCancel([](const OptionsDialog& options) { Click(options.control(IDC_cmdCancel)); });
 }
 
 TEST_F(Options, EscapeIsCancel) {
-    const Huevox huevox;
-    const OptionsDialog options(huevox);
-    ChooseOthers(options);
-    Press(VK_ESCAPE);
-    options.waitForReturn();
-    ExpectNothingKept(huevox, options);
+    ExpectCancel([](const OptionsDialog& /*options*/) { Press(VK_ESCAPE); });
 }
 
-TEST_F(Options, TheCloseBoxIsCancel) {
-    const Huevox huevox;
-    const OptionsDialog options(huevox);
-    ChooseOthers(options);
-    PressCloseBox(options);
-    options.waitForReturn();
-    ExpectNothingKept(huevox, options);
-}
+TEST_F(Options, TheCloseBoxIsCancel) { ExpectCancel(PressCloseBox); }
 
 TEST_F(Options, EnterIsOk) {
     const Huevox huevox;

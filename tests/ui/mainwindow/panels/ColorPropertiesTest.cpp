@@ -48,6 +48,15 @@ void ExpectNoOffer(const Huevox& huevox, const std::string& report) {
     ExpectReport(huevox, report, {IDOK}, IDOK);
 }
 
+/// Types a mark's name, and takes the one that is offered in its place.
+void TakeOffered(const Huevox& huevox, int mark, std::string_view typed, const std::string& report,
+                 const std::string& offered) {
+    huevox.retype(Name(mark), typed);
+    Press(VK_F4);
+    ExpectOffer(huevox, report, offered, IDYES);
+    ASSERT_BECOMES(huevox.text(Name(mark)), offered);
+}
+
 }  // namespace
 
 TEST_F(ColorProperties, AreShownByShortcut) {
@@ -143,10 +152,7 @@ TEST_F(ColorProperties, AreAnsweredByKeys) {
 TEST_F(ColorProperties, OfAMarkNamedAquaOfferCyanAndThenNothing) {
     const Huevox huevox;
     huevox.selectMark(3);
-    huevox.retype(Name(3), "aqua");
-    Press(VK_F4);
-    ExpectOffer(huevox, ReportOn("cyan (also known as aqua)"), "cyan", IDYES);
-    ASSERT_BECOMES(huevox.text(Name(3)), "cyan");
+    TakeOffered(huevox, 3, "aqua", ReportOn("cyan (also known as aqua)"), "cyan");
     Press(VK_F4);
     ExpectNoOffer(huevox, ReportOn("cyan (also known as aqua)"));
     EXPECT_EQ(huevox.text(Name(3)), "cyan");
@@ -155,10 +161,7 @@ TEST_F(ColorProperties, OfAMarkNamedAquaOfferCyanAndThenNothing) {
 TEST_F(ColorProperties, OfAMarkNamedFuchsiaOfferMagenta) {
     const Huevox huevox;
     huevox.selectMark(5);
-    huevox.retype(Name(5), "fuchsia");
-    Press(VK_F4);
-    ExpectOffer(huevox, ReportOn("magenta (also known as fuchsia)"), "magenta", IDYES);
-    EXPECT_BECOMES(huevox.text(Name(5)), "magenta");
+    TakeOffered(huevox, 5, "fuchsia", ReportOn("magenta (also known as fuchsia)"), "magenta");
 }
 
 TEST_F(ColorProperties, KnowAliceblue) {
@@ -177,10 +180,7 @@ TEST_F(ColorProperties, KnowAliceblue) {
 TEST_F(ColorProperties, OfAMarkNamedWhiteWithACapitalOfferWhite) {
     const Huevox huevox;
     SetColor(huevox, white);
-    huevox.retype(Name(0), "White");
-    Press(VK_F4);
-    ExpectOffer(huevox, ReportOn("white"), "white", IDYES);
-    EXPECT_BECOMES(huevox.text(Name(0)), "white");
+    TakeOffered(huevox, 0, "White", ReportOn("white"), "white");
 }
 
 TEST_F(ColorProperties, OfAColorInNoTableAreNegativeAndOfferNothing) {
