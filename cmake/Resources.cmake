@@ -3,6 +3,8 @@ find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 find_program(ICOTOOL icotool REQUIRED)
 find_program(OPTIPNG optipng REQUIRED)
 find_program(PERL perl REQUIRED)
+# By its path: Windows has a bash of its own, of another system, which it would find first.
+find_program(BASH bash REQUIRED)
 
 set(icon_dir ${PROJECT_SOURCE_DIR}/resources/icons)
 set(rendered_dir ${PROJECT_BINARY_DIR}/icons)
@@ -15,7 +17,7 @@ function(render_icon name)
     file(GLOB drawings CONFIGURE_DEPENDS ${icon_dir}/${drawing}.svg ${icon_dir}/*/${drawing}.svg)
     add_custom_command(
         OUTPUT ${rendered_dir}/${name}.ico
-        COMMAND bash ${icon_dir}/render.sh ${icon_dir}/${drawing}.svg ${rendered_dir}/${name}.ico ${ARGN}
+        COMMAND ${BASH} ${icon_dir}/render.sh ${icon_dir}/${drawing}.svg ${rendered_dir}/${name}.ico ${ARGN}
         DEPENDS ${drawings} ${icon_dir}/render.sh
         COMMENT "Rendering ${name}.ico"
         VERBATIM)

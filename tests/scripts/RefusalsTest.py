@@ -193,5 +193,14 @@ class Platforms(Script):
         self.assertEqual(list((self.folder / "build/platforms").glob("tree-*")), [])
 
 
+class HelpCompiler(Script):
+    def test_that_is_missing_is_named_with_where_it_comes_from(self):
+        run = subprocess.run([shutil.which("cmake"), "-P", project / "cmake/Help.cmake"],
+                             env={"PATH": self.folder / "bin"}, text=True, capture_output=True, check=False)
+        self.assertNotEqual(run.returncode, 0)
+        self.assertIn("There is no chmcmd on the path, which compiles the help: it comes with Free Pascal.",
+                      " ".join(run.stderr.split()))
+
+
 if __name__ == "__main__":
     unittest.main(argv=[sys.argv[0], *sys.argv[2:]])
