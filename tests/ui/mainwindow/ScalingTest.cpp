@@ -17,10 +17,10 @@ namespace {
 
 class Scaling : public UiTest {};
 
-/// What the desktop was asked to have.
+/// What the desktop was asked to have, or what the user's own has.
 UINT DesktopsDpi() {
     const char* dpi = std::getenv("HUEVOX_DPI");
-    return dpi ? std::stoul(dpi) : USER_DEFAULT_SCREEN_DPI;
+    return dpi ? std::stoul(dpi) : ::GetDpiForSystem();
 }
 
 /// The awareness of a window's process. Not every system that knows per-monitor awareness in its second

@@ -69,7 +69,7 @@ TEST_F(Options, ShowTheDefaultsAtAFirstStart) {
 
 TEST_F(Options, ShowWhatIsStored) {
     StoreAll("7", "1", "0");
-    StoreText("StandardFolder", "C:\\windows");
+    StoreText("StandardFolder", "C:\\Program Files");
     const Huevox huevox;
     const OptionsDialog options(huevox);
     EXPECT_EQ(options.format(), 7);
@@ -78,7 +78,7 @@ TEST_F(Options, ShowWhatIsStored) {
     EXPECT_FALSE(options.isOn(IDC_optYes));
     EXPECT_TRUE(options.isOn(IDC_optDotNet));
     EXPECT_FALSE(options.isOn(IDC_optAlphabetically));
-    EXPECT_EQ(options.folder(), "C:\\windows");
+    EXPECT_EQ(options.folder(), "C:\\Program Files");
 }
 
 TEST_F(Options, OkStoresFourSettingsAsDecimalText) {
