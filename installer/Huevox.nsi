@@ -45,24 +45,27 @@ VIAddVersionKey LegalCopyright "the Huevox authors"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; Ends the setup with exit code 2 while the installed program runs: its file cannot be opened for writing.
-!macro RefuseWhileRunning label
+; Ends the setup with exit code 2 while one of the files is in use: it cannot be opened for writing then.
+!macro RefuseWhileInUse label file sentence
     ${label}:
-    ${If} ${FileExists} "$INSTDIR\Huevox.exe"
+    ${If} ${FileExists} "$INSTDIR\${file}"
         ClearErrors
-        FileOpen $0 "$INSTDIR\Huevox.exe" a
+        FileOpen $0 "$INSTDIR\${file}" a
         ${If} ${Errors}
-            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Huevox is running. Close it and try again." \
-                /SD IDCANCEL IDRETRY ${label}
+            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${sentence}" /SD IDCANCEL IDRETRY ${label}
             SetErrorLevel 2
             Quit
         ${EndIf}
         FileClose $0
     ${EndIf}
 !macroend
+!macro RefuseWhileOpen label
+    !insertmacro RefuseWhileInUse ${label}Program Huevox.exe "Huevox is running. Close it and try again."
+    !insertmacro RefuseWhileInUse ${label}Help huevox.chm "The help of Huevox is open. Close it and try again."
+!macroend
 
 Section
-    !insertmacro RefuseWhileRunning install
+    !insertmacro RefuseWhileOpen install
     SetOutPath "$INSTDIR"
     File "${FILES}\Huevox.exe"
     File "${FILES}\huevox.chm"
@@ -86,7 +89,7 @@ SectionEnd
 
 Section "un.Huevox"
     SectionIn RO
-    !insertmacro RefuseWhileRunning remove
+    !insertmacro RefuseWhileOpen remove
     ; By name: by now the folder may contain palettes.
     Delete "$INSTDIR\Huevox.exe"
     Delete "$INSTDIR\huevox.chm"

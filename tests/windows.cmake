@@ -157,6 +157,7 @@ endif()
 set(newer_version ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.99)
 add_executable(installer_tests
     installer/Installed.cpp
+    installer/InstallerRefusalsTest.cpp
     installer/InstallerTest.cpp)
 target_link_libraries(installer_tests PRIVATE huevox_toolkit GTest::gtest_main advapi32 ole32 shell32 uuid version)
 target_compile_definitions(installer_tests PRIVATE HUEVOX_EXE="Huevox.exe"
