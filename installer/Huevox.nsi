@@ -5,6 +5,7 @@ Target amd64-unicode
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include Sections.nsh
+!include WinVer.nsh
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox"
 !define SHORTCUT "$SMPROGRAMS\Huevox.lnk"
@@ -63,6 +64,17 @@ VIAddVersionKey LegalCopyright "the Huevox authors"
     !insertmacro RefuseWhileInUse ${label}Program Huevox.exe "Huevox is running. Close it and try again."
     !insertmacro RefuseWhileInUse ${label}Help huevox.chm "The help of Huevox is open. Close it and try again."
 !macroend
+
+; Windows' own number for an error of this kind (ERROR_OLD_WIN_VERSION). Its versions are known by their build.
+!define WINDOWS_10_1607 14393
+!define OLD_WINDOWS 1150
+Function .onInit
+    ${IfNot} ${AtLeastBuild} ${WINDOWS_10_1607}
+        MessageBox MB_OK|MB_ICONSTOP "Huevox needs Windows 10, version 1607, or later." /SD IDOK
+        SetErrorLevel ${OLD_WINDOWS}
+        Quit
+    ${EndIf}
+FunctionEnd
 
 Section
     !insertmacro RefuseWhileOpen install

@@ -1,6 +1,7 @@
 // When do the installer and the uninstaller leave everything as it is, and what do they say?
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string_view>
 
 #include "tests/driver/WindowText.h"
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int cancelled = 1;
 constexpr int inUse = 2;
+constexpr int oldWindows = ERROR_OLD_WIN_VERSION;
 
 using InstallerRefusals = Installer;
 
@@ -30,6 +32,34 @@ public:
 
 private:
     HANDLE file;
+};
+
+/// What the system says of itself to programs that start from now on.
+class WindowsBuild {
+public:
+    explicit WindowsBuild(const std::string& number) { write(number); }
+    WindowsBuild(const WindowsBuild&) = delete;
+    WindowsBuild& operator=(const WindowsBuild&) = delete;
+    ~WindowsBuild() { write(original); }
+
+private:
+    static constexpr const char* key = R"(Software\Microsoft\Windows NT\CurrentVersion)";
+    static constexpr const char* name = "CurrentBuildNumber";
+
+    static std::string Read() {
+        std::string text(32, '\0');
+        auto size = static_cast<DWORD>(text.size());
+        ::RegGetValueA(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+        text.resize(std::max<DWORD>(size, 1) - 1);
+        return text;
+    }
+    static void write(const std::string& number) {
+        EXPECT_EQ(::RegSetKeyValueA(HKEY_LOCAL_MACHINE, key, name, REG_SZ, number.c_str(),
+                                    static_cast<DWORD>(number.size() + 1)),
+                  ERROR_SUCCESS);
+    }
+
+    const std::string original = Read();
 };
 
 /// Whether a copy of the uninstaller runs in the folder for temporary files.
@@ -147,4 +177,26 @@ TEST_F(InstallerRefusals, ARemovalThatIsWaitedForLeavesOnlyTheUninstaller) {
     EXPECT_EQ(left->path().filename(), "uninstall.exe");
     EXPECT_EQ(std::distance(left, {}), 1);
     std::filesystem::remove_all(DefaultFolder());
+}
+
+TEST_F(InstallerRefusals, TurnDownAWindowsBefore10Version1607) {
+    const auto before = Traces();
+    {
+        const WindowsBuild last("14392");
+        EXPECT_EQ(RunToEnd(setup.string() + " /S"), oldWindows);
+        EXPECT_EQ(ChangeOfTraces(before), "");
+    }
+    const WindowsBuild first("14393");
+    install();
+    EXPECT_EQ(Value(uninstallKey, "DisplayVersion"), HUEVOX_VERSION);
+}
+
+TEST_F(InstallerRefusals, SayWhichWindowsIsNeeded) {
+    const WindowsBuild last("14392");
+    const Process starting(setup.string());
+    const HWND box = starting.waitForWindow("#32770");
+    ASSERT_TRUE(box);
+    EXPECT_EQ(MessageOf(box), "Huevox needs Windows 10, version 1607, or later.");
+    Press(box, IDOK);
+    EXPECT_EQ(starting.waitForEnd(), oldWindows);
 }
