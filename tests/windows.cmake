@@ -250,6 +250,8 @@ add_test(NAME product.size_imports_and_hardening
     COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
 
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
+add_test(NAME help.pictures COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/PicturesTest.py ${PROJECT_SOURCE_DIR})
+set_tests_properties(help.pictures PROPERTIES ${patient})
 
 add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
 
