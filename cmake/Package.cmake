@@ -23,4 +23,12 @@ set(CPACK_PACKAGE_VENDOR "the Huevox authors")
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_HUEVOX_SOURCE ${PROJECT_SOURCE_DIR})
 set(CPACK_HUEVOX_ICON ${rendered_dir}/huevox.ico)
+set(CPACK_HUEVOX_HOME_PAGE ${HUEVOX_HOME_PAGE})
+set(HUEVOX_DOWNLOADS "https://huevox.example/downloads" CACHE STRING "Address of the folder that offers the packages")
+set(CPACK_HUEVOX_DOWNLOADS ${HUEVOX_DOWNLOADS})
+
+# The bill of materials names what the program is linked with and built by.
+set(CPACK_HUEVOX_MAP ${PROJECT_BINARY_DIR}/Huevox.map)
+target_link_options(Huevox PRIVATE -Wl,-Map=${CPACK_HUEVOX_MAP})
+set(CPACK_HUEVOX_TOOLS ${CMAKE_CXX_COMPILER} ${CMAKE_LINKER} ${CHMCMD})
 include(CPack)

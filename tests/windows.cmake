@@ -173,8 +173,12 @@ suite_tests(program_tests program * ${alone})
 suite_tests(ui_tests ui -LowColorDepth.*:FullDisk.*:ImmovableFile.*:LeftMonitor.*:WordLength.Is32 ${alone})
 suite_tests(installer_tests installer * ${alone} FIXTURES_REQUIRED packages)
 add_test(NAME packages.made
-    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${newer_version})
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/make ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${newer_version})
 set_tests_properties(packages.made PROPERTIES FIXTURES_SETUP packages TIMEOUT 3000)
+add_test(NAME packages.release
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/ReleaseTest.py
+        ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/packages-tested ${PROJECT_VERSION})
+set_tests_properties(packages.release PROPERTIES FIXTURES_REQUIRED packages)
 add_test(NAME packages.are_the_same_bytes_when_built_again_elsewhere
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/reproducible
         ${CMAKE_COMMAND} ${CMAKE_CPACK_COMMAND} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
