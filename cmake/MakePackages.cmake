@@ -1,6 +1,6 @@
 # Makes a zip and an installer of the files that CPack has collected, and what vouches for them: a bill of materials, the
 # manifest for winget and the checksums of all. Their bytes depend only on the files and on the date of the commit (or
-# SOURCE_DATE_EPOCH).
+# SOURCE_DATE_EPOCH); with a certificate in $HUEVOX_CERTIFICATE the programs are signed, which is never the same twice.
 set(epoch $ENV{SOURCE_DATE_EPOCH})
 if(NOT epoch)
     execute_process(
@@ -22,6 +22,13 @@ set(winget ${name}-winget)
 set(sums ${CPACK_PACKAGE_DIRECTORY}/SHA256SUMS)
 file(REMOVE_RECURSE ${zip} ${setup} ${bill} ${winget} ${sums})
 
+set(signing "")
+if(NOT "$ENV{HUEVOX_CERTIFICATE}" STREQUAL "")
+    set(sign ${CPACK_HUEVOX_SOURCE}/installer/sign)
+    set(signing -DSIGN=${sign})
+    execute_process(COMMAND ${sign} ${folder}/Huevox.exe COMMAND_ERROR_IS_FATAL ANY)
+endif()
+
 # The installer's side picture.
 set(picture ${CPACK_TOPLEVEL_DIRECTORY}/side)
 execute_process(
@@ -37,7 +44,7 @@ set(ENV{TZ} UTC)
 execute_process(COMMAND zip -q -X -9 ${zip} ${files} WORKING_DIRECTORY ${folder} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(
     COMMAND makensis -V2 -WX -NOCD -DVERSION=${version} -DFILES=${folder} -DICON=${CPACK_HUEVOX_ICON}
-        -DPICTURE=${picture}.bmp -DOUTPUT=${setup} ${CPACK_HUEVOX_SOURCE}/installer/Huevox.nsi
+        -DPICTURE=${picture}.bmp -DOUTPUT=${setup} ${signing} ${CPACK_HUEVOX_SOURCE}/installer/Huevox.nsi
     COMMAND_ERROR_IS_FATAL ANY)
 
 execute_process(

@@ -1,5 +1,6 @@
 ; Installs Huevox for the current user, without an administrator: files, a Start-menu entry and an entry in the system's list
-; of programs. Needs VERSION, FILES (the folder of the files to install), ICON, PICTURE and OUTPUT.
+; of programs. Needs VERSION, FILES (the folder of the files to install), ICON, PICTURE and OUTPUT. With SIGN, a command that
+; signs the file that it is given, uninstaller and installer are signed.
 Target amd64-unicode
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -9,6 +10,11 @@ Target amd64-unicode
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Huevox"
 !define SHORTCUT "$SMPROGRAMS\Huevox.lnk"
+
+!ifdef SIGN
+    !uninstfinalize '"${SIGN}" "%1"' = 0
+    !finalize '"${SIGN}" "%1"' = 0
+!endif
 
 Name "Huevox"
 OutFile "${OUTPUT}"

@@ -179,6 +179,10 @@ add_test(NAME packages.release
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/ReleaseTest.py
         ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/packages-tested ${PROJECT_VERSION})
 set_tests_properties(packages.release PROPERTIES FIXTURES_REQUIRED packages)
+add_test(NAME packages.signing
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/SigningTest.py
+        ${PROJECT_SOURCE_DIR} ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${PROJECT_VERSION})
+set_tests_properties(packages.signing PROPERTIES FIXTURES_REQUIRED packages ${patient})
 add_test(NAME packages.are_the_same_bytes_when_built_again_elsewhere
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/reproducible
         ${CMAKE_COMMAND} ${CMAKE_CPACK_COMMAND} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})

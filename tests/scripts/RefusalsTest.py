@@ -24,8 +24,8 @@ class Script(unittest.TestCase):
         self.folder = pathlib.Path(tempfile.mkdtemp())
         (self.folder / "bin").mkdir()
         (self.folder / "scripts").mkdir()
-        for name in ("dependencies", "room", "platforms"):
-            shutil.copy(project / "scripts" / name, self.folder / "scripts")
+        for name in ("scripts/dependencies", "scripts/room", "scripts/platforms", "package"):
+            shutil.copy(project / name, self.folder / "scripts")
         for name in ("bash", "cut", "dirname", "du", "env", "grep", "mkdir", "sed", "tail"):
             (self.folder / "bin" / name).symlink_to(shutil.which(name))
 
@@ -41,7 +41,8 @@ class Script(unittest.TestCase):
 
     def run_script(self, *command):
         script = [self.folder / "scripts" / command[0], *command[1:]]
-        return subprocess.run(script, env={"PATH": self.folder / "bin"}, text=True, capture_output=True, check=False)
+        return subprocess.run(script, env={"PATH": self.folder / "bin"}, text=True, capture_output=True, check=False,
+                              stdin=subprocess.DEVNULL)
 
     def calls(self, beginning):
         path = self.folder / "calls"
@@ -200,6 +201,26 @@ class HelpCompiler(Script):
         self.assertNotEqual(run.returncode, 0)
         self.assertIn("There is no chmcmd on the path, which compiles the help: it comes with Free Pascal.",
                       " ".join(run.stderr.split()))
+
+
+class Package(Script):
+    def setUp(self):
+        super().setUp()
+        for name in ("cmake", "cpack", "realpath"):
+            self.program(name, "")
+
+    def test_a_certificate_that_is_not_there(self):
+        self.expect_sentence(self.run_script("package", "--sign", "none.p12"), "none.p12", "cannot be read")
+        self.assertEqual(self.calls("cmake"), [])
+
+    def test_a_password_that_nobody_can_be_asked_for(self):
+        certificate = self.folder / "mine.p12"
+        certificate.write_text("")
+        self.expect_sentence(self.run_script("package", "--sign", certificate), "HUEVOX_CERTIFICATE_PASSWORD")
+        self.assertEqual(self.calls("cmake"), [])
+
+    def test_what_it_does_not_know(self):
+        self.expect_sentence(self.run_script("package", "--seal"), "usage: package [--sign")
 
 
 if __name__ == "__main__":
