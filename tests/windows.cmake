@@ -84,6 +84,7 @@ add_executable(ui_tests
     ui/help/AboutTest.cpp
     ui/help/HelpTest.cpp
     ui/help/HomePageTest.cpp
+    ui/mainwindow/AccessKeysTest.cpp
     ui/mainwindow/ActivationTest.cpp
     ui/mainwindow/BurstTest.cpp
     ui/mainwindow/ClosingTest.cpp

@@ -12,7 +12,7 @@ void Label::setText(std::string_view text) {
 
 void Label::attached() {
     shown = WindowText(handle());  // the template's, not what an earlier window showed
-    if (isField) subclass();
+    subclass();
 }
 
 void Label::setFont(const char* face, int height) {
@@ -34,7 +34,8 @@ HBRUSH Label::onColor(HDC context) {
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 
-/// A field shows its text as it is: "&H" in it is no shortcut that Alt+H could follow.
+/// The text is often the user's: "&H" in it is no access key that Alt+H could follow. As Windows does with a
+/// text box, it passes over a control that wants characters.
 LRESULT Label::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return message == WM_GETDLGCODE ? 0 : Control::onMessage(message, wParam, lParam);
+    return message == WM_GETDLGCODE ? DLGC_WANTCHARS : Control::onMessage(message, wParam, lParam);
 }

@@ -7,6 +7,7 @@
 #include "toolkit/controls/Control.h"
 #include "toolkit/platform/Handles.h"
 
+/// Static text that the program sets. It never has an access key; captions that have one need no Label.
 class Label : public Control {
 public:
     using Control::Control;

@@ -32,6 +32,8 @@ LRESULT PictureBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: paint(); return 0;
+        // The text may hold a name that the user has typed: an ampersand in it is no access key.
+        case WM_GETDLGCODE: return DLGC_WANTCHARS;
         case WM_UPDATEUISTATE: repaint(); break;
         case WM_CAPTURECHANGED: MouseCaptureLost.raise(); return 0;
         default: break;
