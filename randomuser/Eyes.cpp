@@ -129,6 +129,6 @@ HWND Eyes::windowOf(Front front) const {
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
 
 POINT Eyes::barStep(int step) const {
-    constexpr int edge = 1;
-    return OnScreen(control(IDC_lblColorBar), {BarStepLeft(step) + edge, barStepHeight / 2});
+    constexpr int second = 1;  // a neighbour may cover a step's last pixel
+    return OnScreen(control(IDC_lblColorBar), {BarStepLeft(step) + second, barStepHeight / 2});
 }

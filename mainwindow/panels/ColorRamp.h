@@ -13,8 +13,8 @@ int BarStepOf(const Color& color);
 /// Step i adds i - BarStepOf(color) to each channel and limits it to 0..255; step 255 is white.
 std::array<Color, barSteps> ColorRamp(const Color& color);
 
-/// Left edge of step i in pixels at 96 DPI, 0 to 731. A step is barStepWidth wide and lies over its left
-/// neighbour where the two overlap.
-constexpr int BarStepLeft(int step) { return step * 731 / 255; }
+/// Left edge of step i in pixels at 96 DPI, 0 to 731, rounded to the nearest. A step is barStepWidth wide and
+/// lies over its left neighbour where the two overlap.
+constexpr int BarStepLeft(int step) { return (step * 731 + 127) / 255; }
 inline constexpr int barStepWidth = 3;
 inline constexpr int barStepHeight = 20;

@@ -125,9 +125,9 @@ Color Huevox::sliders() const {
 Color Huevox::sample(int mark) const { return PaintedPixel(main, CenterOf(control(IDC_picSample + mark))); }
 
 POINT Huevox::barStepPlace(int step) const {
-    // A neighbour or the bar's edge may cover a step's outermost pixels, but never its second.
-    const int left =
-        ::MulDiv(step * 731 / 255 + 1, static_cast<int>(::GetDpiForSystem()), USER_DEFAULT_SCREEN_DPI);
+    // A neighbour may cover a step's last pixel, but never its second.
+    const int left = ::MulDiv((step * 731 + 127) / 255 + 1, static_cast<int>(::GetDpiForSystem()),
+                              USER_DEFAULT_SCREEN_DPI);
     return OnScreen(control(IDC_lblColorBar), {left, 10});
 }
 

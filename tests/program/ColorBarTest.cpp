@@ -7,7 +7,7 @@ namespace {
 class ColorBarPainting : public ShownMainWindow {
 protected:
     void clickStep(int step) const {
-        const LPARAM place = MAKELPARAM(step * 731 / 255, 10);
+        const LPARAM place = MAKELPARAM((step * 731 + 127) / 255, 10);
         ::SendMessageA(control(IDC_lblColorBar), WM_LBUTTONDOWN, MK_LBUTTON, place);
         ::SendMessageA(control(IDC_lblColorBar), WM_LBUTTONUP, 0, place);
         PumpAll();

@@ -31,7 +31,8 @@ public:
     /// cell lies over an earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
-    /// Draws an edge over the outermost pixels, for strips that do not fill their window.
+    /// Draws an edge around the place that the template gives, for strips that do not fill their window. Call
+    /// it before the form is loaded.
     void setEdged() { isEdged = true; }
 
     /// The cell that the keyboard begins with; it stays while the strip has the focus.
@@ -54,6 +55,10 @@ public:
 
 private:
     void attached() override;
+    void rescaled() override;
+    /// Makes room for the edge around the window's place.
+    void growByEdge() const;
+    void paintEdge() const;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
     void paintCells(HDC context) const;

@@ -18,6 +18,21 @@ private:
     HDC context;
 };
 
+/// The device context of a whole window, with its frame, for a scope.
+class FrameContext {
+public:
+    explicit FrameContext(HWND window) : window(window), context(::GetWindowDC(window)) {}
+    FrameContext(const FrameContext&) = delete;
+    FrameContext& operator=(const FrameContext&) = delete;
+    ~FrameContext() { ::ReleaseDC(window, context); }
+
+    HDC get() const { return context; }
+
+private:
+    HWND window;
+    HDC context;
+};
+
 /// Selects a font, bitmap, pen or brush for a scope.
 class Selected {
 public:

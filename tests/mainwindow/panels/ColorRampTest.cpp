@@ -39,11 +39,16 @@ TEST(ColorRamp, AnyChannelMayBeTheSmallest) {
 
 TEST(BarSteps, SpreadOver734PixelsWithoutAGap) {
     EXPECT_EQ(BarStepLeft(0), 0);
-    EXPECT_EQ(BarStepLeft(1), 2);
-    EXPECT_EQ(BarStepLeft(128), 366);
+    EXPECT_EQ(BarStepLeft(128), 367);
     EXPECT_EQ(BarStepLeft(255) + barStepWidth, 734);
     for (int step = 1; step < barSteps; ++step) {
         const int distance = BarStepLeft(step) - BarStepLeft(step - 1);
         EXPECT_TRUE(distance == 2 || distance == 3) << step;
     }
+}
+
+TEST(BarSteps, AreAsWideAtOneEndAsAtTheOther) {
+    EXPECT_EQ(BarStepLeft(1), barStepWidth);  // the first one lies under no other
+    for (int step = 0; step < barSteps; ++step)
+        EXPECT_EQ(BarStepLeft(step) + BarStepLeft(255 - step), BarStepLeft(255)) << step;
 }

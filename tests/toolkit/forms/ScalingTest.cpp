@@ -136,6 +136,21 @@ TEST_F(Scaling, CellsMeetAndEndWithTheWindowAtEveryScaling) {
     }
 }
 
+TEST_F(Scaling, TheEdgeOfAStripStaysAroundItsPlace) {
+    form.cellTest.setEdged();
+    form.load();
+    for (const int dpi : {144, 192, 96}) {
+        moveTo(form, dpi, {10, 10});
+        RECT cells{};
+        ::GetClientRect(form.cellTest.handle(), &cells);
+        EXPECT_EQ(cells.right, form.scaled(100));
+        EXPECT_EQ(cells.bottom, form.scaled(20));
+        const RECT strip = placeIn(form, form.cellTest);
+        EXPECT_EQ(strip.left, form.scaled(200) - 1);
+        EXPECT_EQ(strip.right, form.scaled(300) + 1);
+    }
+}
+
 TEST_F(Scaling, ToolTipsOfCellsFollow) {
     twips.cellTest.setPlaces({{0, 0, 1500, 750}});
     twips.load();

@@ -1,9 +1,45 @@
-// How does a click on the bar choose a colour?
+// How does a click on the bar choose a colour, and where does each step stand?
+#include <array>
+#include <vector>
+
 #include "tests/driver/UiTest.h"
+#include "tests/ui/mainwindow/Scaled.h"
 
 namespace {
 
 class ColorBarClicks : public UiTest {};
+
+constexpr SIZE barSize = {734, 20};  // in pixels at 96 DPI
+constexpr int stepWidth = 3;
+
+/// The bar's steps on the screen, without the edge around them.
+RECT StepsOf(const Huevox& huevox) {
+    const HWND bar = huevox.control(IDC_lblColorBar);
+    RECT steps{};
+    ::GetClientRect(bar, &steps);
+    ::MapWindowPoints(bar, nullptr, reinterpret_cast<POINT*>(&steps), 2);
+    return steps;
+}
+
+void ExpectAllOf(const RECT& area, const Color& color) {
+    const auto count = static_cast<std::size_t>((area.right - area.left) * (area.bottom - area.top));
+    EXPECT_BECOMES(PixelsOf(area), std::vector(count, color));
+}
+
+/// Pixels so far outside the steps, at the left, right, top and bottom.
+std::array<Color, 4> Around(const Huevox& huevox, int distance) {
+    const RECT steps = StepsOf(huevox);
+    const LONG column = steps.left + 100;
+    const LONG row = steps.top + 10;
+    return {Pixel({steps.left - distance, row}), Pixel({steps.right - 1 + distance, row}),
+            Pixel({column, steps.top - distance}), Pixel({column, steps.bottom - 1 + distance})};
+}
+
+std::array<Color, 4> AllOf(int systemColor) {
+    std::array<Color, 4> same{};
+    same.fill(Unpack(static_cast<PackedColor>(::GetSysColor(systemColor))));
+    return same;
+}
 
 }  // namespace
 
@@ -56,15 +92,27 @@ TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
     EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
 }
 
-TEST_F(ColorBarClicks, AnEdgeTellsTheBarFromTheWindow) {
+TEST_F(ColorBarClicks, AnEdgeOutsideTheStepsTellsTheBarFromTheWindow) {
+    const Huevox huevox;
+    EXPECT_BECOMES(Around(huevox, 1), AllOf(COLOR_3DSHADOW));
+    EXPECT_BECOMES(Around(huevox, 2), AllOf(COLOR_BTNFACE));
+}
+
+TEST_F(ColorBarClicks, TheFirstAndTheLastStepAreSeenWholeAndTakenAtTheirOutermostPixels) {
     const Huevox huevox;
     const HWND bar = huevox.control(IDC_lblColorBar);
-    RECT area{};
-    ::GetClientRect(bar, &area);
-    const Color edge = Unpack(static_cast<PackedColor>(::GetSysColor(COLOR_3DSHADOW)));
-    for (const POINT place :
-         {POINT{0, 10}, POINT{area.right - 1, 10}, POINT{100, 0}, POINT{100, area.bottom - 1}})
-        EXPECT_BECOMES(Pixel(OnScreen(bar, place)), edge) << place.x << ' ' << place.y;
+    const RECT steps = StepsOf(huevox);
+    EXPECT_EQ(steps.right - steps.left, Scaled(bar, barSize.cx));
+    EXPECT_EQ(steps.bottom - steps.top, Scaled(bar, barSize.cy));
+    SetColor(huevox, ColorOf(100, 150, 200));
+    const LONG firstEnd = steps.left + Scaled(bar, stepWidth);
+    const LONG lastBegin = steps.left + Scaled(bar, barSize.cx - stepWidth);
+    ExpectAllOf({steps.left, steps.top, firstEnd, steps.bottom}, ColorOf(0, 50, 100));
+    ExpectAllOf({lastBegin, steps.top, steps.right, steps.bottom}, ColorOf(255, 255, 255));
+    Click({steps.left, steps.top});
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(0, 50, 100));
+    Click({steps.right - 1, steps.bottom - 1});
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(255, 255, 255));
 }
 
 TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
