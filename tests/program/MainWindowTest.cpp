@@ -186,7 +186,8 @@ TEST_F(MainWindow, NoTextIsCutOff) {
 }
 
 TEST_F(MainWindow, NamesSamplesAndLettersStandInSixColumnsAsWideAsTheBar) {
-    const RECT bar = AreaOf(control(IDC_lblColorBar));
+    constexpr int edge = 1;
+    const RECT bar = AreaOf(control(IDC_lblColorBar), edge);
     EXPECT_EQ(bar.right - bar.left, window.scaled(734));
     EXPECT_EQ(bar.bottom - bar.top, window.scaled(20));
     for (int mark = 0; mark < markCount; ++mark) expectColumn(mark, bar.top);
