@@ -1,8 +1,11 @@
 // How do the palette windows look from inside, at any scaling, and with a sort index that no setting can
 // have?
+#include <utility>
+
 #include "core/Color.h"
 #include "tests/program/InsideWindow.h"
 #include "tests/program/MainWindowFixture.h"
+#include "toolkit/platform/WindowPlace.h"
 
 namespace {
 
@@ -101,6 +104,24 @@ TEST_F(PickerForms, JavaScriptIsFilledToItsEdgesBelowTheToolBar) {
     EXPECT_EQ(PixelOf(picker, right, bottom), yellowgreen);
     EXPECT_EQ(PixelOf(picker, 0, bottom), RGB(0x40, 0xE0, 0xD0));
     EXPECT_EQ(PixelOf(picker, right, pixels(420)), RGB(0xFF, 0xE4, 0xC4));
+}
+
+TEST_F(PickerForms, NoneIsWidenedOrCutOffWhenItIsMoved) {
+    for (const auto& [button, name] : {std::pair{IDC_cmdWebsafe, "frmWebsafe"},
+                                       {IDC_cmdFailsafe, "frmFailsafe"},
+                                       {IDC_cmdJavaScript, "frmJavaScript"}}) {
+        const HWND picker = open(button, name);
+        const Area place = PlaceOf(picker);
+        MINMAXINFO limits{};
+        limits.ptMinTrackSize = {::GetSystemMetrics(SM_CXMINTRACK), ::GetSystemMetrics(SM_CYMINTRACK)};
+        ::SendMessageA(picker, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+        EXPECT_EQ(limits.ptMinTrackSize.x, place.width()) << name;
+        EXPECT_EQ(limits.ptMinTrackSize.y, place.height()) << name;
+        // Windows asks for the limits here, as it does while the user drags.
+        ::SetWindowPos(picker, nullptr, 10, 10, place.width(), place.height(), SWP_NOZORDER | SWP_NOACTIVATE);
+        EXPECT_EQ(PlaceOf(picker).width(), place.width()) << name;
+        EXPECT_EQ(PlaceOf(picker).height(), place.height()) << name;
+    }
 }
 
 TEST_F(PickerForms, TheToolBarFitsAboveTheSwatches) {

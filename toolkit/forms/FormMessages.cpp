@@ -47,6 +47,7 @@ private:
     LRESULT onFocusLeft(HWND left);
     LRESULT onScalingWanted(int dpi, SIZE& size);
     LRESULT onScaling(int dpi, const RECT& suggested);
+    void onSizeLimits(MINMAXINFO& limits) const;
     void onActivate(int how);
     void onEnable(bool isEnabled);
     bool onMouse();
@@ -85,6 +86,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_GETDPISCALEDSIZE:
             return onScalingWanted(static_cast<int>(wParam), *reinterpret_cast<SIZE*>(lParam));
         case WM_DPICHANGED: return onScaling(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+        case WM_GETMINMAXINFO: onSizeLimits(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case activatedMessage: return onActivated();
         case focusLeftMessage: return onFocusLeft(Window(lParam));
         case WM_CTLCOLORDLG:
@@ -158,6 +160,13 @@ LRESULT Form::Receiver::onScaling(int dpi, const RECT& suggested) {
     if (form.toolTips) form.parts.showTips(*form.toolTips);
     ::RedrawWindow(form.window, nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN);
     return 0;
+}
+
+/// Windows widens a window with a caption that is narrower than its own limit, and cuts off one that is larger
+/// than the screen, whenever the user drags it.
+void Form::Receiver::onSizeLimits(MINMAXINFO& limits) const {
+    const SIZE frame = form.layout.frameSize();
+    limits.ptMinTrackSize = {frame.cx, frame.cy};
 }
 
 void Form::Receiver::onActivate(int how) {
