@@ -92,6 +92,7 @@ add_executable(ui_tests
     ui/mainwindow/KeyboardTest.cpp
     ui/mainwindow/LeftMonitorTest.cpp
     ui/mainwindow/LowColorDepthTest.cpp
+    ui/mainwindow/OneLineTextTest.cpp
     ui/mainwindow/ScalingTest.cpp
     ui/mainwindow/SessionEndTest.cpp
     ui/mainwindow/StartTest.cpp
@@ -214,7 +215,7 @@ endforeach()
 # At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
 string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
-    PickersJavaScript.Switching* Keyboard.AFrame*)
+    PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.*)
 foreach(dpi IN ITEMS 120 144 192)
     add_test(NAME ui.at_${dpi}_dpi
         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scaled ${dpi}

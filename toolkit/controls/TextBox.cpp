@@ -7,6 +7,7 @@
 
 #include "core/Characters.h"
 #include "toolkit/controls/Keys.h"
+#include "toolkit/controls/MiddleLine.h"
 #include "toolkit/forms/Form.h"
 #include "toolkit/platform/Clipboard.h"
 #include "toolkit/platform/FlagGuard.h"
@@ -23,6 +24,7 @@ void TextBox::attached() {
     known.reset();
     firstHalf = L'\0';
     subclass();
+    moveLine();
     const int margin = form.scaled(1);  // the longest placeholder just fits between
     send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
@@ -67,7 +69,14 @@ void TextBox::setCaretToEnd() {
 void TextBox::setBackColor(std::optional<COLORREF> color) {
     if (back == color) return;
     back = color;
-    repaint(true);
+    constexpr UINT withFrame = RDW_INVALIDATE | RDW_ERASE | RDW_FRAME;
+    if (handle()) ::RedrawWindow(handle(), nullptr, nullptr, withFrame);
+}
+
+/// Windows asks for the client area again, which is as high as a line of the font.
+void TextBox::moveLine() const {
+    constexpr UINT inPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+    ::SetWindowPos(handle(), nullptr, 0, 0, 0, 0, inPlace | SWP_FRAMECHANGED);
 }
 
 void TextBox::onCommand(int /*id*/, int code) {
@@ -101,13 +110,27 @@ LRESULT TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (pasteCharacters()) return 0;
             break;
         case WM_LBUTTONDBLCLK: isDoubleClick = true; break;
+        case WM_NCHITTEST:
+            if (IsInsideOfEdge(handle(), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) return HTCLIENT;
+            break;
         default: break;
     }
     const LRESULT result = Control::onMessage(message, wParam, lParam);
-    if (message == WM_SETFOCUS) GotFocus.raise();
-    if (message == WM_KILLFOCUS) LostFocus.raise();
-    if (message == WM_LBUTTONUP) onRelease(lParam);
+    afterwards(message, lParam);
     return result;
+}
+
+/// When Windows has done its part.
+void TextBox::afterwards(UINT message, LPARAM lParam) {
+    switch (message) {
+        case WM_NCCALCSIZE: KeepMiddleLine(handle(), *reinterpret_cast<RECT*>(lParam)); break;
+        case WM_NCPAINT: PaintAroundLine(handle(), backColor()); break;
+        case WM_SETFONT: moveLine(); break;
+        case WM_SETFOCUS: GotFocus.raise(); break;
+        case WM_KILLFOCUS: LostFocus.raise(); break;
+        case WM_LBUTTONUP: onRelease(lParam); break;
+        default: break;
+    }
 }
 
 LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {
@@ -161,9 +184,9 @@ void TextBox::keepWithinAnsi() {
 }
 
 void TextBox::onRelease(LPARAM position) {
-    RECT area{};
-    ::GetClientRect(handle(), &area);
-    const bool isInside = ::PtInRect(&area, {GET_X_LPARAM(position), GET_Y_LPARAM(position)}) != FALSE;
+    POINT point = {GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    ::ClientToScreen(handle(), &point);
+    const bool isInside = IsInsideOfEdge(handle(), point);
     const bool wasDoubleClick = isDoubleClick;
     isDoubleClick = false;
     if (!isInside) return;

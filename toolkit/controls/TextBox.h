@@ -55,6 +55,8 @@ private:
     void onCommand(int id, int code) override;
     HBRUSH onColor(HDC context) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void afterwards(UINT message, LPARAM lParam);
+    void moveLine() const;
     LRESULT onCharacter(wchar_t unit, LPARAM lParam);
     /// False when Windows may paste the text as it is.
     bool pasteCharacters();

@@ -1,6 +1,8 @@
 // How do the controls that the program draws itself paint?
 #pragma once
 
+#include <initializer_list>
+
 #include "toolkit/platform/Platform.h"
 
 /// BeginPaint and EndPaint around the painting of a window.

@@ -136,6 +136,20 @@ TEST_F(Scaling, CellsMeetAndEndWithTheWindowAtEveryScaling) {
     }
 }
 
+TEST_F(Scaling, TheTextOfABoxStaysInTheMiddle) {
+    form.load();
+    for (const int dpi : {144, 192, 96}) {
+        moveTo(form, dpi, {10, 10});
+        RECT line{};
+        ::GetClientRect(form.txtTest(0).handle(), &line);
+        ::MapWindowPoints(form.txtTest(0).handle(), form.handle(), reinterpret_cast<POINT*>(&line), 2);
+        const RECT box = placeIn(form, form.txtTest(0));
+        EXPECT_NEAR(line.top - box.top, box.bottom - line.bottom, 1) << dpi;
+        EXPECT_GE(line.bottom - line.top, fontHeight(form.txtTest(0))) << dpi;
+        EXPECT_LE(line.bottom - line.top, fontHeight(form.txtTest(0)) * 3 / 2) << dpi;
+    }
+}
+
 TEST_F(Scaling, TheEdgeOfAStripStaysAroundItsPlace) {
     form.cellTest.setEdged();
     form.load();
