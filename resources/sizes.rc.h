@@ -5,7 +5,7 @@
 #define PADDING 12
 #define GAP 8
 
-#define TOOLBAR_HEIGHT 32
+#define TOOLBAR_HEIGHT 30
 #define EDIT_HEIGHT 23
 #define BUTTON_HEIGHT 25
 #define OPTION_SIZE 17

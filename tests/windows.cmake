@@ -219,7 +219,7 @@ string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* Screen
 foreach(dpi IN ITEMS 120 144 192)
     add_test(NAME ui.at_${dpi}_dpi
         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scaled ${dpi}
-            $<TARGET_FILE:ui_tests> ${scaled_ui} $<TARGET_FILE:program_tests> PickerForms.*:CellStripTest.*
+            $<TARGET_FILE:ui_tests> ${scaled_ui} $<TARGET_FILE:program_tests> PickerForms.*:CellStripTest.*:TextFit.*
         WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
     set_tests_properties(ui.at_${dpi}_dpi PROPERTIES ${patient})
 endforeach()

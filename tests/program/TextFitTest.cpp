@@ -1,8 +1,10 @@
-// Is the text of the main window's controls to be read, whatever fonts there are?
+// Is all of the main window to be seen, whatever fonts there are, on a small screen and at any scaling?
+#include <map>
 #include <string>
 
 #include "tests/driver/WindowText.h"
 #include "tests/program/MainWindowFixture.h"
+#include "toolkit/platform/WindowPlace.h"
 
 namespace {
 
@@ -49,10 +51,38 @@ BOOL CALLBACK ExpectFit(HWND control, LPARAM parameter) {
     return TRUE;
 }
 
+/// The height of the smallest usual screens of each scaling, in pixels.
+const std::map<int, int> smallScreens = {{96, 768}, {120, 768}, {144, 1080}, {192, 1080}};
+
+int Pixels(int at96Dpi, int dpi) { return ::MulDiv(at96Dpi, dpi, USER_DEFAULT_SCREEN_DPI); }
+
 }  // namespace
 
 TEST_F(TextFit, EveryTextOfTheMainWindowFitsItsControl) {
     int texts = 0;
     ::EnumChildWindows(window.handle(), ExpectFit, reinterpret_cast<LPARAM>(&texts));
     EXPECT_GE(texts, 20);
+}
+
+TEST_F(TextFit, TheWindowIsNoHigherThanWhatTheTaskBarOfASmallScreenLeaves) {
+    constexpr int taskBar = 48;            // of Windows 11; that of Windows 10 is 40
+    constexpr int captionAndMenu = 43;     // of both
+    constexpr int upperAndLowerEdge = 14;  // of both, at every scaling
+    const auto dpi = static_cast<int>(::GetDpiForWindow(window.handle()));
+    RECT client{};
+    ::GetClientRect(window.handle(), &client);
+    const int height = client.bottom + Pixels(captionAndMenu, dpi) + upperAndLowerEdge;
+    EXPECT_LE(height, smallScreens.at(dpi) - Pixels(taskBar, dpi));
+    EXPECT_LE(PlaceOf(window.handle()).height(), smallScreens.at(dpi) - Pixels(taskBar, dpi));
+}
+
+TEST_F(TextFit, AllNotationsAreSeenAtOnce) {
+    const HWND list = control(IDC_lstAutocopy);
+    ASSERT_EQ(::SendMessageA(list, LB_GETCOUNT, 0, 0), 12);
+    RECT last{};
+    ::SendMessageA(list, LB_GETITEMRECT, 11, reinterpret_cast<LPARAM>(&last));
+    RECT client{};
+    ::GetClientRect(list, &client);
+    EXPECT_LE(last.bottom, client.bottom);
+    EXPECT_FALSE(::GetWindowLongPtrA(list, GWL_STYLE) & WS_VSCROLL);
 }

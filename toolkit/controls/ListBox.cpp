@@ -2,6 +2,23 @@
 
 #include "toolkit/platform/Text.h"
 
+#include "toolkit/forms/Form.h"
+
+namespace {
+
+/// In pixels at 96 DPI. The heights of fonts are rounded, so that as many rows would not fit at every
+/// scaling.
+constexpr int rowHeight = 16;
+
+}  // namespace
+
+void ListBox::attached() {
+    subclass();
+    rescaled();
+}
+
+void ListBox::rescaled() { send(LB_SETITEMHEIGHT, 0, form.scaled(rowHeight)); }
+
 void ListBox::addItem(std::string_view text) {
     send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text).c_str()));
 }

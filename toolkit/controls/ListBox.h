@@ -21,7 +21,8 @@ public:
     void setIndex(int index);
 
 private:
-    void attached() override { subclass(); }
+    void attached() override;
+    void rescaled() override;
     void onCommand(int id, int code) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -162,8 +162,8 @@ LRESULT Form::Receiver::onScaling(int dpi, const RECT& suggested) {
     return 0;
 }
 
-/// Windows widens a window with a caption that is narrower than its own limit, and cuts off one that is larger
-/// than the screen, whenever the user drags it.
+/// Windows widens a window that is narrower than a limit of its own, and cuts off one that is larger than the
+/// screen, whenever the user drags it.
 void Form::Receiver::onSizeLimits(MINMAXINFO& limits) const {
     const SIZE frame = form.layout.frameSize();
     limits.ptMinTrackSize = {frame.cx, frame.cy};
