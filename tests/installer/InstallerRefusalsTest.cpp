@@ -65,12 +65,12 @@ private:
 /// Whether a copy of the uninstaller runs in the folder for temporary files.
 bool IsRemoving() {
     const HANDLE list = ::CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
-    PROCESSENTRY32 process{};
+    PROCESSENTRY32W process{};
     process.dwSize = sizeof process;
     bool found = false;
-    for (BOOL more = ::Process32First(list, &process); more; more = ::Process32Next(list, &process)) {
-        const std::string_view name = process.szExeFile;
-        found = found || name.starts_with("Un_") || name.starts_with("Au_");
+    for (BOOL more = ::Process32FirstW(list, &process); more; more = ::Process32NextW(list, &process)) {
+        const std::wstring_view name = process.szExeFile;
+        found = found || name.starts_with(L"Un_") || name.starts_with(L"Au_");
     }
     ::CloseHandle(list);
     return found;
