@@ -5,7 +5,6 @@
 #include <shlobj.h>
 
 #include <array>
-#include <utility>
 
 #include "tests/driver/FindWindows.h"
 #include "tests/driver/StartProgram.h"
@@ -47,8 +46,8 @@ void AddKeys(HKEY parent, const std::string& path, std::set<std::string>& traces
 
 }  // namespace
 
-Process::Process(std::string commandLine) {
-    const PROCESS_INFORMATION started = StartProgram(std::move(commandLine));
+Process::Process(const std::string& commandLine) {
+    const PROCESS_INFORMATION started = StartProgram(commandLine);
     ::CloseHandle(started.hThread);
     process = started.hProcess;
 }

@@ -21,7 +21,7 @@ inline constexpr const char* settingsKey = R"(Software\Quorvane\Huevox 2004)";
 class Process {
 public:
     /// Not through a shell: the installer wants its folder without quotes.
-    explicit Process(std::string commandLine);
+    explicit Process(const std::string& commandLine);
     /// The program, once its window is there, started as by a click in the Start menu.
     [[nodiscard]] static Process FromStartMenu();
     Process(Process&& other) noexcept;
