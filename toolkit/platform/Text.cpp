@@ -14,17 +14,14 @@ std::wstring Widened(UINT codePage, std::string_view text) {
 }
 
 std::string Narrowed(UINT codePage, std::wstring_view text) {
-    // UTF-8 holds every character, and Windows refuses the flag for it.
-    const DWORD flags = codePage == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
-    const char* const replacement = codePage == CP_UTF8 ? nullptr : "?";
     const int length = static_cast<int>(text.size());
-    const int size =
-        ::WideCharToMultiByte(codePage, flags, text.data(), length, nullptr, 0, replacement, nullptr);
+    const int size = ::WideCharToMultiByte(codePage, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
     std::string narrow(size, '\0');
-    ::WideCharToMultiByte(codePage, flags, text.data(), length, narrow.data(), size, replacement, nullptr);
+    ::WideCharToMultiByte(codePage, 0, text.data(), length, narrow.data(), size, nullptr, nullptr);
     return narrow;
 }
 
+/// Of another character Windows would make "?" or a similar one, which do not come back as it was.
 bool IsHeld(std::wstring_view text) {
     // Most texts are plain, and every code page holds those.
     const bool isPlain = std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
