@@ -28,10 +28,15 @@ int RunProgram(int showCommand) {
     }
     AppState state;
     frmMain mainWindow(state);
-    mainWindow.load();
-    mainWindow.show(showCommand);
-    mainWindow.activate();
-    return RunMessageLoop();
+    int exitCode = EXIT_FAILURE;
+    // Inside the window's life: with the last window go all message boxes, that of an error too.
+    Trapped([&] {
+        mainWindow.load();
+        mainWindow.show(showCommand);
+        mainWindow.activate();
+        exitCode = RunMessageLoop();
+    });
+    return exitCode;
 }
 
 int Main(int showCommand) {

@@ -34,6 +34,7 @@ add_executable(program_tests
     toolkit/forms/ModalFormTest.cpp
     toolkit/forms/ModalHoldTest.cpp
     toolkit/forms/ScalingTest.cpp
+    toolkit/forms/TrappedEdgeTest.cpp
     toolkit/forms/YieldTest.cpp
     toolkit/platform/TextTest.cpp)
 add_library(Planted MODULE EXCLUDE_FROM_ALL program/Planted.cpp)
@@ -91,6 +92,7 @@ add_executable(ui_tests
     ui/mainwindow/HighContrastTest.cpp
     ui/mainwindow/KeyboardTest.cpp
     ui/mainwindow/LeftMonitorTest.cpp
+    ui/mainwindow/LoadFaultTest.cpp
     ui/mainwindow/LowColorDepthTest.cpp
     ui/mainwindow/OneLineTextTest.cpp
     ui/mainwindow/ScalingTest.cpp

@@ -31,6 +31,8 @@ Huevox::Huevox(const std::string& program) { startInSight(program, SW_SHOWNORMAL
 
 Huevox::Huevox(DoNotWait, WORD showCommand) { start(HUEVOX_EXE, showCommand); }
 
+Huevox::Huevox(DoNotWait, const std::string& program) { start(program, SW_SHOWNORMAL); }
+
 void Huevox::startInSight(const std::string& program, WORD showCommand) {
     start(program, showCommand);
     if (!waitForWindow()) ADD_FAILURE() << "no window; the program's exit code is " << exitCode();

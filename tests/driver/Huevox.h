@@ -21,6 +21,7 @@ public:
     /// Starts the program without waiting for its window.
     struct DoNotWait {};
     explicit Huevox(DoNotWait, WORD showCommand = SW_SHOWNORMAL);
+    Huevox(DoNotWait, const std::string& program);
     Huevox(const Huevox&) = delete;
     Huevox& operator=(const Huevox&) = delete;
     ~Huevox();

@@ -84,6 +84,10 @@ void Control::subclass() {
 }
 
 LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return TrappedAnswer([&] { return deliver(window, message, wParam, lParam); });
+}
+
+LRESULT Control::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto receiver = receivers.find(window);
     // A window of the program's own classes sends its first messages before its control is attached.
     if (receiver == receivers.end()) return ::DefWindowProcW(window, message, wParam, lParam);
@@ -91,5 +95,6 @@ LRESULT CALLBACK Control::proc(HWND window, UINT message, WPARAM wParam, LPARAM 
 }
 
 LRESULT Control::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!original) return 0;  // a handler of this very message has unloaded the form
     return ::CallWindowProcW(original, handle(), message, wParam, lParam);
 }

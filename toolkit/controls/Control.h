@@ -56,6 +56,7 @@ protected:
 
 private:
     static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     void detaching() override;
     void showTips(ToolTips& toolTips) const override;

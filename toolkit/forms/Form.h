@@ -81,8 +81,7 @@ public:
     static bool preTranslate(MSG& message);
 
 protected:
-    /// Where the window first appears; frame is its whole size. In the middle of its owner or of the work
-    /// area.
+    /// Where the window first appears, if not in the middle of its owner or work area; frame is its size.
     virtual Area firstPlace(const SIZE& frame);
 
 private:
@@ -99,7 +98,6 @@ private:
     void close();
 
     static constexpr UINT focusLeftMessage = WM_APP + 2;
-
     static inline std::vector<Form*> loadedForms;
     static inline Form* formBeingCreated = nullptr;
     static inline ModalHold modalHold;

@@ -33,6 +33,7 @@ class Form::Receiver {
 public:
     explicit Receiver(Form& form) : form(form) {}
 
+    static LRESULT deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
@@ -67,6 +68,10 @@ bool Form::preTranslate(MSG& message) {
 }
 
 LRESULT CALLBACK Form::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return TrappedAnswer([&] { return Receiver::deliver(window, message, wParam, lParam); });
+}
+
+LRESULT Form::Receiver::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto found = std::ranges::find(loadedForms, window, &Form::window);
     if (found != loadedForms.end()) return Receiver(**found).onMessage(message, wParam, lParam);
     if (!formBeingCreated) return ::DefDlgProcW(window, message, wParam, lParam);

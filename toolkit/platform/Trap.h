@@ -15,3 +15,11 @@ void Trapped(Body&& body) {
         if (errorTrap) errorTrap();
     }
 }
+
+/// The same for a body that answers. After an error the answer is the default one of its type.
+template <class Body>
+auto TrappedAnswer(Body&& body) {
+    decltype(body()) answer{};
+    Trapped([&] { answer = std::forward<Body>(body)(); });
+    return answer;
+}
