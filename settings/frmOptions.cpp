@@ -11,6 +11,7 @@
 #include "settings/SettingsRules.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MessageLoop.h"
+#include "toolkit/forms/MsgBox.h"
 
 frmOptions::frmOptions(Settings& settings, const RegistryStringHandler& registry)
     : Form("frmOptions"),
@@ -63,7 +64,13 @@ void frmOptions::lstStandardFormat_Click() {
 
 void frmOptions::cmdChange_Click() {
     const std::string folder = BrowseForFolder(handle());
-    if (!folder.empty()) ShowFolder(folder);
+    if (folder.empty()) return;
+    if (IsValidFolder(folder)) {
+        ShowFolder(folder);
+    } else {
+        // The next start would refuse it and put all settings back.
+        MsgBox(this, messages::unusableFolder, MB_OK | MB_ICONEXCLAMATION, messages::title);
+    }
 }
 
 void frmOptions::cmdOK_Click() {

@@ -29,6 +29,7 @@ inline constexpr const char* notMadeHereAfterPath =
     "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox";
 inline constexpr const char* unusableSettings =
     "Unusable settings found in Registry. Default settings restored.";
+inline constexpr const char* unusableFolder = "This folder cannot be used.";
 
 inline constexpr const char* decimalNotAllowed =
     "The value is not allowed. Only values from 0 to 255 are allowed.";

@@ -1,5 +1,8 @@
 // How does the user change the standard folder, and what is done with it?
+#include <shlobj.h>
+
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "tests/driver/OptionsDialog.h"
@@ -23,6 +26,32 @@ std::string LongFolder(std::size_t length) {
     }
     return path;
 }
+
+/// A folder on the desktop, where the folder picker begins, until it is removed or the value ends.
+class FolderOnTheDesktop {
+public:
+    FolderOnTheDesktop() { EXPECT_TRUE(::CreateDirectoryA(path().c_str(), nullptr)); }
+    FolderOnTheDesktop(const FolderOnTheDesktop&) = delete;
+    FolderOnTheDesktop& operator=(const FolderOnTheDesktop&) = delete;
+    ~FolderOnTheDesktop() { remove(); }
+
+    static std::string path() {
+        std::array<char, MAX_PATH> desktop{};
+        ::SHGetSpecialFolderPathA(nullptr, desktop.data(), CSIDL_DESKTOPDIRECTORY, FALSE);
+        return std::string(desktop.data()) + '\\' + name;
+    }
+    /// Types its name in the picker's tree.
+    static void selectIn(const Huevox& huevox, HWND picker) {
+        constexpr int tree = 14145;
+        Press(VK_TAB, {VK_SHIFT});
+        ASSERT_BECOMES(huevox.focus(), ::GetDlgItem(picker, tree));
+        Type(name);
+    }
+    static void remove() { ::RemoveDirectoryA(path().c_str()); }
+
+private:
+    static constexpr const char* name = "zz";
+};
 
 }  // namespace
 
@@ -72,6 +101,36 @@ TEST_F(OptionsFolder, ACancelledPickerLeavesTheFolder) {
     const Huevox huevox;
     const OptionsDialog options(huevox);
     options.leavePicker(options.openPicker(), VK_ESCAPE);
+    EXPECT_EQ(options.folder(), paletteFolder);
+    options.close(IDC_cmdOK);
+    EXPECT_EQ(StoredText("StandardFolder"), paletteFolder);
+}
+
+TEST_F(OptionsFolder, AFolderOfThePickersTreeIsShown) {
+    const Huevox huevox;
+    const OptionsDialog options(huevox);
+    const FolderOnTheDesktop chosen;
+    const HWND picker = options.openPicker();
+    FolderOnTheDesktop::selectIn(huevox, picker);
+    options.leavePicker(picker, VK_RETURN);
+    EXPECT_EQ(options.folder(), FolderOnTheDesktop::path());
+    EXPECT_EQ(huevox.dialogCount(), 0);
+}
+
+TEST_F(OptionsFolder, AChoiceThatTheNextStartWouldRefuseIsRefusedAtOnce) {
+    const Huevox huevox;
+    const OptionsDialog options(huevox);
+    const FolderOnTheDesktop chosen;
+    const HWND picker = options.openPicker();
+    FolderOnTheDesktop::selectIn(huevox, picker);
+    FolderOnTheDesktop::remove();
+    Press(VK_RETURN);
+    const HWND box = WaitForMessage(huevox, "This folder cannot be used.");
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(Eventually([&] { return ShowsIcon(box, IDI_EXCLAMATION); }));
+    EXPECT_EQ(::GetWindow(box, GW_OWNER), options.window());
+    Answer(box, IDOK);
+    EXPECT_BECOMES(options.focused(), IDC_cmdChange);
     EXPECT_EQ(options.folder(), paletteFolder);
     options.close(IDC_cmdOK);
     EXPECT_EQ(StoredText("StandardFolder"), paletteFolder);
