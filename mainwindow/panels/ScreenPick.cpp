@@ -23,6 +23,7 @@ ScreenPick::ScreenPick(Form& form, CommandBar& commands, ChannelEditors& channel
       marks(marks),
       chkColorPick(form, IDC_chkColorPick),
       picPick(form, IDC_picPick) {
+    form.DisplayChange.bind(this, &ScreenPick::Form_DisplayChange);
     chkColorPick.Click.bind(this, &ScreenPick::chkColorPick_Click);
     chkColorPick.setToolTip(messages::colorPickTip);
     marks.Samples().bind(&PictureBox::MouseDown, this, &ScreenPick::picSample_MouseDown);
@@ -59,20 +60,24 @@ void ScreenPick::picSample_MouseMove(int /*mark*/, int buttons) {
     pressPlace.reset();
     pickedColor = screen.at(place);
     picPick.setBackColor(Pack(pickedColor));
+    picPick.paintNow();  // a hand that never rests would keep the preview from being painted
 }
 
 void ScreenPick::picSample_MouseUp(int /*mark*/, int /*button*/) {
     isPicking = false;
     channels.SetSliders(pickedColor);
     HidePreview();
+    ::ReleaseCapture();
 }
 
-/// Another program has taken the mouse: there will be no release.
+/// Another window has taken the mouse and keeps it: there will be no release.
 void ScreenPick::picSample_MouseCaptureLost(int /*mark*/) {
     if (!isPicking) return;
     isPicking = false;
     HidePreview();
 }
+
+void ScreenPick::Form_DisplayChange() { screen.renew(); }
 
 void ScreenPick::ShowPreview(PictureBox& pressed) {
     form.setPointer(::LoadCursorW(nullptr, IDC_CROSS));
@@ -86,5 +91,4 @@ void ScreenPick::HidePreview() {
     picPick.setVisible(false);
     channels.ShowSliders();
     form.setPointer(nullptr);
-    ::ReleaseCapture();
 }

@@ -23,6 +23,7 @@ private:
     void picSample_MouseMove(int mark, int buttons);
     void picSample_MouseUp(int mark, int button);
     void picSample_MouseCaptureLost(int mark);
+    void Form_DisplayChange();
 
     void EnableOpening(bool isEnabled);
     void ShowPreview(PictureBox& pressed);

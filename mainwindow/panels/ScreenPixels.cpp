@@ -1,5 +1,9 @@
 #include "mainwindow/panels/ScreenPixels.h"
 
+#include <algorithm>
+
+void ScreenPixels::renew() { contexts = std::min(contexts, mostContexts - 1); }
+
 Color ScreenPixels::at(POINT place) {
     if (contexts < mostContexts) {
         newest = ::GetDC(nullptr);

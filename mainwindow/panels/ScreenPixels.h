@@ -10,6 +10,8 @@ class ScreenPixels {
 public:
     /// Any place on any monitor, in screen coordinates; what cannot be read is (255, 0, 0).
     Color at(POINT place);
+    /// The monitors or their modes have changed: the next reading gets a context that knows of it.
+    void renew();
 
 private:
     static constexpr int mostContexts = 1000;

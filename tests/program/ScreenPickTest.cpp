@@ -15,6 +15,18 @@ protected:
 };
 
 class PickPointer : public LongPick {};
+class PickPreview : public LongPick {};
+class PickCapture : public LongPick {};
+
+class PickContext : public LongPick {
+protected:
+    /// The context of the screen that Windows would hand out next: it keeps those that are given back.
+    static HDC next() {
+        const HDC context = ::GetDC(nullptr);
+        ::ReleaseDC(nullptr, context);
+        return context;
+    }
+};
 
 }  // namespace
 
@@ -53,4 +65,50 @@ TEST_F(PickPointer, IsACrossFromThePressToTheRelease) {
     ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
     EXPECT_EQ(::GetCursor(), arrow);
     EXPECT_EQ(askForShape(), arrow);
+}
+
+TEST_F(PickPreview, IsPaintedAtEachMovementThoughInputWaits) {
+    click(IDC_chkColorPick);
+    MoveMouse({1, 1});
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    PumpAll();
+    for (int mark = 1; mark < 6; ++mark) {
+        drag(CenterOf(sample(mark)));
+        EXPECT_FALSE(::GetUpdateRect(control(IDC_picPick), nullptr, FALSE)) << mark;
+    }
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+}
+
+TEST_F(PickCapture, StaysWithTheWindowThatHasTakenTheMouse) {
+    click(IDC_chkColorPick);
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    ASSERT_EQ(::GetCapture(), sample(0));
+    ::SetCapture(control(IDC_lblColorBar));
+    EXPECT_EQ(::GetCapture(), control(IDC_lblColorBar));
+    EXPECT_FALSE(::IsWindowVisible(control(IDC_picPick)));
+    ::ReleaseCapture();
+}
+
+TEST_F(PickCapture, EndsWithTheRelease) {
+    click(IDC_chkColorPick);
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    ASSERT_EQ(::GetCapture(), sample(0));
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(PickContext, IsMadeAnewWhenTheMonitorsHaveChanged) {
+    click(IDC_chkColorPick);
+    MoveMouse({1, 1});
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    drag(CenterOf(sample(1)));
+    for (int movement = 0; movement < 1'000; ++movement)
+        ::SendMessageA(sample(0), WM_MOUSEMOVE, MK_LBUTTON, 0);
+    const HDC before = next();
+    drag(CenterOf(sample(2)));
+    ASSERT_EQ(next(), before) << "the last context is not kept";
+    ::SendMessageA(window.handle(), WM_DISPLAYCHANGE, 32, MAKELPARAM(1280, 1024));
+    drag(CenterOf(sample(3)));
+    EXPECT_NE(next(), before);
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
 }

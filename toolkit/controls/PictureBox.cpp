@@ -55,6 +55,11 @@ void PictureBox::paint() const {
     PaintFocusFrame(handle(), painting.context(), area, form.scaled(1));
 }
 
+void PictureBox::paintNow() const {
+    // Without a window this would paint other windows.
+    if (handle()) ::UpdateWindow(handle());
+}
+
 void PictureBox::captureMouse() {
     // Without a window this would release another window's capture.
     if (handle()) ::SetCapture(handle());

@@ -33,6 +33,9 @@ public:
     /// What screen readers say of it.
     void setText(std::string_view text);
 
+    /// Paints now what has changed. Windows itself does so only when no input waits.
+    void paintNow() const;
+
     void captureMouse();
 
 private:

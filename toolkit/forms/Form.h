@@ -32,7 +32,8 @@ public:
     Event<> Deactivate;        ///< at once
     Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
     Event<> Unload;
-    Event<int> Command;  ///< a menu item or a shortcut was chosen
+    Event<> DisplayChange;  ///< the monitors or their modes have changed
+    Event<int> Command;     ///< a menu item or a shortcut was chosen
 
     /// Creates the window, still hidden, and raises Load. Throws what Load throws, and std::runtime_error
     /// when Windows refuses a window.

@@ -100,6 +100,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             if (const LRESULT brush = onColor(reinterpret_cast<HDC>(wParam), Window(lParam))) return brush;
             break;
         case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
+        case WM_DISPLAYCHANGE: form.DisplayChange.raise(); break;
         case WM_ENABLE: onEnable(wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam)); break;
         case WM_SETCURSOR:

@@ -71,6 +71,7 @@ const std::vector<Call> calls = {
     {"PictureBox::setBackColor", [](Gone& gone) { gone.form.picTest.setBackColor(RGB(1, 2, 3)); }},
     {"PictureBox::setFocusFrame", [](Gone& gone) { gone.form.picTest.setFocusFrame(true); }},
     {"PictureBox::setText", [](Gone& gone) { gone.form.picTest.setText("new"); }},
+    {"PictureBox::paintNow", [](Gone& gone) { gone.form.picTest.paintNow(); }},
     {"PictureBox::captureMouse", [](Gone& gone) { gone.form.picTest.captureMouse(); }},
     {"CellStrip::setColors", [](Gone& gone) { gone.form.cellTest.setColors(colors); }},
     {"CellStrip::setTips", [](Gone& gone) { gone.form.cellTest.setTips({"tip"}); }},
