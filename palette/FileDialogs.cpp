@@ -58,9 +58,9 @@ std::string FileDialogs::ShowNotepadDialog() {
 
 std::string FileDialogs::Show(const Kind& kind) {
     ReplaceUnusableFolder();
+    const std::wstring asked = Wide(initial.of(state.settings.standardFolder));
     std::array file = EmptyBuffer<1026>();
     std::array fileTitle = EmptyBuffer<514>();
-    const std::wstring standardFolder = Wide(state.settings.standardFolder);
     OPENFILENAMEW record{};
     record.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
     record.hwndOwner = owner.handle();
@@ -71,7 +71,7 @@ std::string FileDialogs::Show(const Kind& kind) {
     record.nMaxFile = file.size();
     record.lpstrFileTitle = fileTitle.data();
     record.nMaxFileTitle = fileTitle.size();
-    record.lpstrInitialDir = standardFolder.c_str();
+    record.lpstrInitialDir = asked.c_str();
     record.lpstrTitle = kind.title;
     record.Flags = kind.flags;
     record.lpstrDefExt = L"txt\0";

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "palette/InitialFolder.h"
 #include "support/AppState.h"
 #include "toolkit/forms/Form.h"
 
@@ -29,5 +30,6 @@ private:
 
     const Form& owner;
     AppState& state;
+    InitialFolder initial;
     std::string folder;
 };

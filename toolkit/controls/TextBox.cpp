@@ -25,6 +25,10 @@ void TextBox::attached() {
     firstHalf = L'\0';
     subclass();
     moveLine();
+    setMargins();
+}
+
+void TextBox::setMargins() const {
     const int margin = form.scaled(1);  // the longest placeholder just fits between
     send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
@@ -46,7 +50,7 @@ void TextBox::setText(std::string_view text) {
 }
 
 void TextBox::selectAllIfTabbed() {
-    if (::GetKeyState(VK_TAB) < 0) selectAll();
+    if (isFromNeighbour && ::GetKeyState(VK_TAB) < 0) selectAll();
 }
 
 Selection TextBox::selection() const {
@@ -116,21 +120,30 @@ LRESULT TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         default: break;
     }
     const LRESULT result = Control::onMessage(message, wParam, lParam);
-    afterwards(message, lParam);
+    afterwards(message, wParam, lParam);
     return result;
 }
 
 /// When Windows has done its part.
-void TextBox::afterwards(UINT message, LPARAM lParam) {
+void TextBox::afterwards(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_NCCALCSIZE: KeepMiddleLine(handle(), *reinterpret_cast<RECT*>(lParam)); break;
         case WM_NCPAINT: PaintAroundLine(handle(), backColor()); break;
-        case WM_SETFONT: moveLine(); break;
-        case WM_SETFOCUS: GotFocus.raise(); break;
+        case WM_SETFONT:
+            moveLine();
+            setMargins();  // a box measures them anew for each font
+            break;
+        case WM_SETFOCUS: onFocus(reinterpret_cast<HWND>(wParam)); break;
         case WM_KILLFOCUS: LostFocus.raise(); break;
         case WM_LBUTTONUP: onRelease(lParam); break;
         default: break;
     }
+}
+
+/// The Tab key comes from another control of the form; Alt+Tab, with the same key down, from another program.
+void TextBox::onFocus(HWND from) {
+    isFromNeighbour = ::IsChild(form.handle(), from) != FALSE;
+    GotFocus.raise();
 }
 
 LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {

@@ -55,8 +55,10 @@ private:
     void onCommand(int id, int code) override;
     HBRUSH onColor(HDC context) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void afterwards(UINT message, LPARAM lParam);
+    void afterwards(UINT message, WPARAM wParam, LPARAM lParam);
     void moveLine() const;
+    void setMargins() const;
+    void onFocus(HWND from);
     LRESULT onCharacter(wchar_t unit, LPARAM lParam);
     /// False when Windows may paste the text as it is.
     bool pasteCharacters();
@@ -70,4 +72,5 @@ private:
     wchar_t firstHalf = L'\0';  // of a character that is typed in two
     bool isSettingText = false;
     bool isDoubleClick = false;
+    bool isFromNeighbour = false;  // the focus, from another control of the form
 };

@@ -59,14 +59,19 @@ void Form::createControl(const TemplateItem& item) {
         ::SendMessageW(window, DM_SETDEFID, item.id, 0);
 }
 
-void Form::show(int showCommand) { ::ShowWindow(window, showCommand); }
+void Form::show(int showCommand) {
+    ::ShowWindow(window, showCommand);
+    // A form has one size. Windows may take the first command of a run from its shortcut, whatever it says
+    // here.
+    if (::IsZoomed(window)) ::ShowWindow(window, SW_RESTORE);
+    FocusFirst(window);
+}
 
 void Form::showModal(const Form& over) {
     owner = over.window;
     load();
     ::EnableWindow(owner, FALSE);
     show(SW_SHOW);
-    if (!::IsChild(window, ::GetFocus())) ::SetFocus(::GetNextDlgTabItem(window, nullptr, FALSE));
     activate();
     RunModalLoop(*this);
 }

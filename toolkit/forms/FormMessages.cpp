@@ -2,6 +2,7 @@
 
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/FormPart.h"
+#include "toolkit/forms/FormWindow.h"
 #include "toolkit/forms/Timer.h"
 #include "toolkit/forms/ToolTips.h"
 
@@ -191,6 +192,7 @@ void Form::Receiver::onActivate(int how) {
 }
 
 LRESULT Form::Receiver::onActivated() {
+    FocusFirst(form.window);
     if (form.isActive && form.isActivatePending) form.activate();
     return 0;
 }

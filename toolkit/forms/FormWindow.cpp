@@ -75,6 +75,11 @@ Area CenteredPlace(HWND owner, const SIZE& frame) {
     return {left, top, left + width, top + height};
 }
 
+void FocusFirst(HWND form) {
+    if (::GetActiveWindow() != form || ::IsChild(form, ::GetFocus())) return;
+    if (const HWND first = ::GetNextDlgTabItem(form, nullptr, FALSE)) ::SetFocus(first);
+}
+
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font) {
     const HWND control = ::CreateWindowExW(
         item.exStyle | WS_EX_NOPARENTNOTIFY, Units(item.className), Units(item.text), item.style | WS_CHILD,

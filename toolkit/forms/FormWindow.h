@@ -1,4 +1,4 @@
-// How are a form's windows made from its template?
+// How are a form's windows made from its template, and which has the focus first?
 #pragma once
 
 #include "toolkit/forms/DialogTemplate.h"
@@ -30,3 +30,7 @@ Area CenteredPlace(HWND owner, const SIZE& frame);
 
 /// Creates one control at place, in pixels of parent. Returns nullptr when Windows refuses.
 HWND CreateFormControl(HWND parent, const TemplateItem& item, const RECT& place, HFONT font);
+
+/// Gives the focus to the first control of a form that is active, unless a control has it already. Windows
+/// does so only in its own dialogs.
+void FocusFirst(HWND form);

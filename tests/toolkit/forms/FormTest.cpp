@@ -139,6 +139,35 @@ TEST_F(FormTest, TheFocusMovesOnFromAControlThatIsDisabled) {
     form.unload();
 }
 
+TEST_F(FormTest, TheFirstControlGetsTheFocusWhenTheFormIsShown) {
+    show();
+    ::SetFocus(nullptr);
+    form.show(SW_SHOW);
+    EXPECT_EQ(::GetFocus(), form.hsbTest.handle());
+    form.unload();
+}
+
+TEST_F(FormTest, TheFirstControlGetsTheFocusWhenTheFormIsActivatedAndNoOtherHasIt) {
+    TestForm second;
+    show();
+    second.load();
+    second.show(SW_SHOWNORMAL);
+    WaitForFront(second);
+    ::SetActiveWindow(form.handle());
+    ::SetFocus(nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return ::GetFocus() == form.hsbTest.handle(); }));
+    second.unload();
+    form.unload();
+}
+
+TEST_F(FormTest, TheControlThatHasTheFocusKeepsItWhenTheFormIsShownAgain) {
+    show();
+    form.cmdTest.setFocus();
+    form.show(SW_SHOW);
+    EXPECT_EQ(::GetFocus(), form.cmdTest.handle());
+    form.unload();
+}
+
 TEST_F(FormTest, TheFocusStaysWhenTheControlIsEnabledAgainBeforeTheHandlerEnds) {
     show();
     form.cmdTest.setFocus();

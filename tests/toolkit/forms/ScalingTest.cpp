@@ -108,6 +108,14 @@ TEST_F(Scaling, WindowControlsAndFontsFollow) {
     EXPECT_EQ(form.scaled(10), 15);
 }
 
+TEST_F(Scaling, MarginsOfABoxFollow) {
+    form.load();
+    for (const auto& [dpi, margin] : {std::pair{192, 2}, std::pair{96, 1}}) {
+        moveTo(form, dpi, {30, 40});
+        EXPECT_EQ(::SendMessageA(form.txtTest(0).handle(), EM_GETMARGINS, 0, 0), MAKELONG(margin, margin));
+    }
+}
+
 TEST_F(Scaling, BackAgainIsAsBefore) {
     form.load();
     const SIZE size = clientSize(form);

@@ -6,6 +6,18 @@ namespace {
 
 class Activation : public UiTest {};
 
+/// A key is down for as long as the value lives.
+class HeldKey {
+public:
+    explicit HeldKey(WORD key) : key(key) { KeyDown(key); }
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+    ~HeldKey() { KeyUp(key); }
+
+private:
+    WORD key;
+};
+
 }  // namespace
 
 TEST_F(Activation, CopiesTheColorAgainOverWhatWasCopiedElsewhere) {
@@ -29,6 +41,23 @@ TEST_F(Activation, KeepsNotationAndFocus) {
     EXPECT_BECOMES(huevox.focused(), Name(3));
     EXPECT_EQ(huevox.listIndex(), 10);
     EXPECT_EQ(huevox.text(IDC_lblClipboard), "Color(255,0,0)");
+}
+
+TEST_F(Activation, LeavesTheSelectionOfABoxThoughTheTabKeyIsDown) {
+    const Huevox huevox;
+    huevox.retype(IDC_txtSetRed, "12");
+    ASSERT_BECOMES(huevox.selection(IDC_txtSetRed), (std::pair<int, int>{2, 2}));
+    {
+        const Huevox other;
+        ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+        const HeldKey tab(VK_TAB);
+        ASSERT_BECOMES(other.focused(), IDC_hsbGreen);
+        ::SetForegroundWindow(huevox.window());
+        ASSERT_BECOMES(::GetForegroundWindow(), huevox.window());
+        ASSERT_BECOMES(huevox.focused(), IDC_txtSetRed);
+    }
+    Type("3");
+    EXPECT_BECOMES(huevox.text(IDC_txtSetRed), "123");
 }
 
 TEST_F(Activation, InJavaScriptNamesModeSelectsNoNotation) {

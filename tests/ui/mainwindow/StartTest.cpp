@@ -132,6 +132,21 @@ TEST_F(Start, MinimisedTheColorReachesTheClipboardTheSame) {
     EXPECT_BECOMES(ClipboardText(), "#FF0000");
 }
 
+TEST_F(Start, MaximisedTheWindowHasItsOneSize) {
+    SIZE size{};
+    {
+        const Huevox normal;
+        const RECT place = AreaOf(normal.window());
+        size = {place.right - place.left, place.bottom - place.top};
+    }
+    const Huevox huevox(SW_SHOWMAXIMIZED);
+    EXPECT_BECOMES(::IsZoomed(huevox.window()), FALSE);
+    const RECT place = AreaOf(huevox.window());
+    EXPECT_EQ(place.right - place.left, size.cx);
+    EXPECT_EQ(place.bottom - place.top, size.cy);
+    EXPECT_BECOMES(huevox.focused(), IDC_hsbRed);
+}
+
 TEST_F(Start, ASecondCopyOpensASecondWindowWithoutAMessage) {
     const Huevox first;
     const Huevox second;
