@@ -7,6 +7,6 @@ target_compile_definitions(huevox_flags INTERFACE
 target_compile_options(huevox_flags INTERFACE -ffunction-sections -fdata-sections -fstack-protector-strong)
 target_link_options(huevox_flags INTERFACE
     -static -s -fstack-protector-strong -Wl,--gc-sections -Wl,--no-insert-timestamp
-    -Wl,--dynamicbase -Wl,--nxcompat $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-Wl,--high-entropy-va>
+    -Wl,--dynamicbase -Wl,--nxcompat -Wl,--tsaware $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-Wl,--high-entropy-va>
     # Sections that lie on whole pages of the file are mapped from it, not read into the process's own memory.
     -Wl,--file-alignment,4096)

@@ -1,6 +1,5 @@
 #include "settings/Folders.h"
 
-#include <objbase.h>
 #include <shlobj.h>
 
 #include <array>
@@ -10,6 +9,7 @@
 
 #include "core/Characters.h"
 #include "core/PathText.h"
+#include "toolkit/platform/ComInUse.h"
 #include "toolkit/platform/Text.h"
 
 namespace {
@@ -31,20 +31,6 @@ std::string WithoutLastBackslash(std::string path) {
     if (!path.empty() && GetFileNamePart(path, "\\").empty()) path.pop_back();
     return path;
 }
-
-/// COM on this thread for as long as the value lives.
-class ComInUse {
-public:
-    ComInUse() : result(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-    ComInUse(const ComInUse&) = delete;
-    ComInUse& operator=(const ComInUse&) = delete;
-    ~ComInUse() {
-        if (SUCCEEDED(result)) ::CoUninitialize();
-    }
-
-private:
-    HRESULT result;
-};
 
 bool IsFolderOnDisk(const std::string& path) {
     const std::string_view name = GetFileNamePart(path, "\\");

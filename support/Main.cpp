@@ -51,5 +51,7 @@ int Main(int showCommand) {
 
 int WINAPI WinMain(HINSTANCE /*hInstance*/, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/, int nShowCmd) {
     SearchSystemFolderOnly();
+    // A drive without a disk is an error for the program to handle, not a box of the system.
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS);
     return Main(nShowCmd);
 }

@@ -8,7 +8,7 @@ set_tests_properties(x86.random_user_2 PROPERTIES FAIL_REGULAR_EXPRESSION "progr
 # because starting one takes longer than many tests.
 set(filters
     WordLength.Is32
-    Start.*-*.LooksForLibraries*
+    Start.*-*.LooksForLibraries*:*.ADrive*
     Sliders.*
     HexValues.*
     ColorBarClicks.*-*.EveryStep*

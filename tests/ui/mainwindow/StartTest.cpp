@@ -147,6 +147,15 @@ TEST_F(Start, MaximisedTheWindowHasItsOneSize) {
     EXPECT_BECOMES(huevox.focused(), IDC_hsbRed);
 }
 
+TEST_F(Start, ADriveWithoutADiskBringsUpNoBoxOfTheSystem) {
+    // A program takes over what its starter has set.
+    const UINT before = ::SetErrorMode(0);
+    const Huevox huevox;
+    ::SetErrorMode(before);
+    const DWORD mode = ProcessOf(huevox.window()).call("kernel32", "GetErrorMode");
+    EXPECT_TRUE(mode & SEM_FAILCRITICALERRORS) << mode;
+}
+
 TEST_F(Start, ASecondCopyOpensASecondWindowWithoutAMessage) {
     const Huevox first;
     const Huevox second;
