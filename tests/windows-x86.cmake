@@ -35,3 +35,5 @@ foreach(filter IN LISTS filters)
     # A filter that matches no test would be a test that cannot fail.
     set_tests_properties(x86.${name} PROPERTIES ${alone} FAIL_REGULAR_EXPRESSION "PASSED  . 0 tests")
 endforeach()
+add_test(NAME x86.product_is_known_to_terminal_servers COMMAND ${CMAKE_OBJDUMP} -p ${folder_32_bits}/Huevox.exe)
+set_tests_properties(x86.product_is_known_to_terminal_servers PROPERTIES PASS_REGULAR_EXPRESSION "TERMINAL_SERVICE_AWARE")
