@@ -2,6 +2,7 @@
 #include <array>
 
 #include "tests/driver/Palettes.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -12,10 +13,10 @@ protected:
         std::array<WORD, 3> noPictures = {0, IMAGE_ICON, 0};
         const std::string copy = PathOf("damaged.exe");
         EXPECT_TRUE(::CopyFileA(HUEVOX_EXE, copy.c_str(), FALSE));
-        const HANDLE update = ::BeginUpdateResourceA(copy.c_str(), FALSE);
-        EXPECT_TRUE(::UpdateResourceA(update, RT_GROUP_ICON, MAKEINTRESOURCEA(IDI_Find), language,
+        const HANDLE update = ::BeginUpdateResourceW(Wide(copy).c_str(), FALSE);
+        EXPECT_TRUE(::UpdateResourceW(update, RT_GROUP_ICON, MAKEINTRESOURCEW(IDI_Find), language,
                                       noPictures.data(), sizeof noPictures));
-        EXPECT_TRUE(::EndUpdateResourceA(update, FALSE));
+        EXPECT_TRUE(::EndUpdateResourceW(update, FALSE));
         return copy;
     }
 
