@@ -165,9 +165,9 @@ LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {
 /// Windows would paste characters that the code page does not hold, and half of one where the box ends. What
 /// is replaced only afterwards comes back when the user takes the pasting back.
 bool TextBox::pasteCharacters() {
-    const std::wstring text = TextOnClipboard(handle());
-    const bool arePlain = OutsideAnsi(text).empty() && std::ranges::none_of(text, IsHalf);
-    if (!arePlain) insert(text.substr(0, text.find_first_of(L"\r\n")));
+    const std::wstring pasted = TextOnClipboard(handle());
+    const bool arePlain = OutsideAnsi(pasted).empty() && std::ranges::none_of(pasted, IsHalf);
+    if (!arePlain) insert(pasted.substr(0, pasted.find_first_of(L"\r\n")));
     return !arePlain;
 }
 
