@@ -11,7 +11,7 @@ class LoadFault : public PaletteTest {
 protected:
     static std::string DamagedCopy() {
         std::array<WORD, 3> noPictures = {0, IMAGE_ICON, 0};
-        const std::string copy = PathOf("damaged.exe");
+        std::string copy = PathOf("damaged.exe");
         EXPECT_TRUE(::CopyFileA(HUEVOX_EXE, copy.c_str(), FALSE));
         const HANDLE update = ::BeginUpdateResourceW(Wide(copy).c_str(), FALSE);
         EXPECT_TRUE(::UpdateResourceW(update, RT_GROUP_ICON, MAKEINTRESOURCEW(IDI_Find), language,
