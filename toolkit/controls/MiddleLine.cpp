@@ -1,16 +1,18 @@
 #include "toolkit/controls/MiddleLine.h"
 
 #include "toolkit/platform/Contexts.h"
+#include "toolkit/platform/Handles.h"
 #include "toolkit/platform/Painting.h"
 
 namespace {
 
 LONG LineHeight(HWND box) {
-    const WindowContext screen(nullptr);
+    // In memory: for a context of the screen Wine asks its server, once for every box at the start.
+    const Owned<HDC, &::DeleteDC> memory(::CreateCompatibleDC(nullptr));
     const auto font = reinterpret_cast<HFONT>(::SendMessageW(box, WM_GETFONT, 0, 0));
-    const Selected selected(screen.get(), font);
+    const Selected selected(memory.get(), font);
     TEXTMETRICW metrics{};
-    ::GetTextMetricsW(screen.get(), &metrics);
+    ::GetTextMetricsW(memory.get(), &metrics);
     return metrics.tmHeight;
 }
 
