@@ -22,8 +22,7 @@ RECT StepsOf(const Huevox& huevox) {
 }
 
 void ExpectAllOf(const RECT& area, const Color& color) {
-    const auto count = static_cast<std::size_t>((area.right - area.left) * (area.bottom - area.top));
-    EXPECT_BECOMES(PixelsOf(area), std::vector(count, color));
+    EXPECT_BECOMES(PixelsOf(area), std::vector(PixelsOf(area).size(), color));
 }
 
 /// Pixels so far outside the steps, at the left, right, top and bottom.
