@@ -66,6 +66,7 @@
 #define IDC_picSample 1130
 #define IDC_lblColorProp 1140
 #define IDC_lblColorBar 1150
+#define IDC_edgColorBar 1151
 
 #define IDC_lstAutocopy 1201
 #define IDC_chkJSNamesOnly 1202

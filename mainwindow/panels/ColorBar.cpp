@@ -6,8 +6,9 @@
 #include "resources/resource.h"
 
 ColorBar::ColorBar(Form& form, ChannelEditors& channels)
-    : channels(channels), lblColorBar(form, IDC_lblColorBar) {
-    lblColorBar.setEdged();
+    : channels(channels),
+      lblColorBar(form, IDC_lblColorBar),
+      edgColorBar(form, IDC_edgColorBar, lblColorBar) {
     lblColorBar.Click.bind(this, &ColorBar::lblColorBar_Click);
     std::vector<Area> steps;
     for (int step = 0; step < barSteps; ++step) {

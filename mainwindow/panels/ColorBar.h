@@ -6,6 +6,7 @@
 #include "mainwindow/panels/ChannelEditors.h"
 #include "mainwindow/panels/ColorRamp.h"
 #include "toolkit/controls/CellStrip.h"
+#include "toolkit/controls/Edge.h"
 
 /// The current colour in 256 steps of brightness, each of which the user can make the current one.
 class ColorBar {
@@ -20,4 +21,5 @@ private:
     ChannelEditors& channels;
     std::array<Color, barSteps> barColor;
     CellStrip lblColorBar;
+    Edge edgColorBar;
 };

@@ -14,6 +14,7 @@
 #define IDC_cellTest 2025
 #define IDC_tmrTest 2026
 #define IDC_tbrTest 2027
+#define IDC_edgTest 2028
 #define IDM_mnuTest 41001
 #define IDM_firstChoice 41011
 #define IDM_secondChoice 41012
@@ -24,6 +25,7 @@
 #include "toolkit/controls/Buttons.h"
 #include "toolkit/controls/CellStrip.h"
 #include "toolkit/controls/ControlArray.h"
+#include "toolkit/controls/Edge.h"
 #include "toolkit/controls/Label.h"
 #include "toolkit/controls/ListBox.h"
 #include "toolkit/controls/PictureBox.h"
@@ -47,6 +49,7 @@ struct TestForm : Form {
     PictureBox picContainer{*this, IDC_picContainer};
     PictureBox picTest{*this, IDC_picTest};
     CellStrip cellTest{*this, IDC_cellTest};
+    Edge edgTest{*this, IDC_edgTest, cellTest};
     Timer tmrTest{*this, IDC_tmrTest, 20};
 };
 

@@ -10,7 +10,6 @@
 #include "toolkit/controls/Keys.h"
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/ToolTips.h"
-#include "toolkit/platform/Contexts.h"
 #include "toolkit/platform/Mouse.h"
 #include "toolkit/platform/Painting.h"
 #include "toolkit/platform/WindowText.h"
@@ -18,7 +17,6 @@
 namespace {
 
 constexpr int narrowestFrame = 7;
-constexpr int edgeWidth = 1;  // at every scaling, as that of samples
 
 std::optional<CellStep> StepOf(WPARAM key) {
     switch (key) {
@@ -76,40 +74,10 @@ void CellStrip::attached() {
     isPainted = false;
     isFocused = false;
     receive();
-    rescaled();
-}
-
-void CellStrip::rescaled() {
-    if (isEdged) growByEdge();
-}
-
-void CellStrip::growByEdge() const {
-    RECT place{};
-    ::GetWindowRect(handle(), &place);
-    ::MapWindowPoints(nullptr, ::GetParent(handle()), reinterpret_cast<POINT*>(&place), 2);
-    ::InflateRect(&place, edgeWidth, edgeWidth);
-    ::SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
-                   place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-}
-
-void CellStrip::paintEdge() const {
-    RECT area{};
-    ::GetWindowRect(handle(), &area);
-    ::OffsetRect(&area, -area.left, -area.top);
-    const FrameContext context(handle());
-    PaintEdge(context.get(), area);
 }
 
 LRESULT CellStrip::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_NCCALCSIZE:
-            if (!isEdged) break;
-            ::InflateRect(reinterpret_cast<RECT*>(lParam), -edgeWidth, -edgeWidth);
-            return 0;
-        case WM_NCPAINT:
-            if (!isEdged) break;
-            paintEdge();
-            return 0;
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: paint(); return 0;
         case WM_CAPTURECHANGED: pressedCell = -1; return 0;

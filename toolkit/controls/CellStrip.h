@@ -31,10 +31,6 @@ public:
     /// cell lies over an earlier one.
     void setPlaces(std::vector<Area> cellPlaces) { places = std::move(cellPlaces); }
 
-    /// Draws an edge around the place that the template gives, for strips that do not fill their window. Call
-    /// it before the form is loaded.
-    void setEdged() { isEdged = true; }
-
     /// The cell that the keyboard begins with; it stays while the strip has the focus.
     void setFirstCell(int cell);
 
@@ -55,10 +51,6 @@ public:
 
 private:
     void attached() override;
-    void rescaled() override;
-    /// Makes room for the edge around the window's place.
-    void growByEdge() const;
-    void paintEdge() const;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
     void paintCells(HDC context) const;
@@ -85,7 +77,6 @@ private:
     int pressedCell = -1;
     int framedCell = 0;
     bool isHeld = false;
-    bool isEdged = false;
     bool isPainted = false;
     bool isFocused = false;  ///< kept, because asking Windows takes longer than painting
 };

@@ -158,18 +158,17 @@ TEST_F(Scaling, TheTextOfABoxStaysInTheMiddle) {
     }
 }
 
-TEST_F(Scaling, TheEdgeOfAStripStaysAroundItsPlace) {
-    form.cellTest.setEdged();
+TEST_F(Scaling, AnEdgeStaysOnePixelWideAroundItsControl) {
     form.load();
     for (const int dpi : {144, 192, 96}) {
         moveTo(form, dpi, {10, 10});
-        RECT cells{};
-        ::GetClientRect(form.cellTest.handle(), &cells);
-        EXPECT_EQ(cells.right, form.scaled(100));
-        EXPECT_EQ(cells.bottom, form.scaled(20));
         const RECT strip = placeIn(form, form.cellTest);
-        EXPECT_EQ(strip.left, form.scaled(200) - 1);
-        EXPECT_EQ(strip.right, form.scaled(300) + 1);
+        const RECT edge = placeIn(form, form.edgTest);
+        EXPECT_EQ(strip.right - strip.left, form.scaled(100)) << dpi;
+        EXPECT_EQ(strip.left - edge.left, 1) << dpi;
+        EXPECT_EQ(edge.right - strip.right, 1) << dpi;
+        EXPECT_EQ(strip.top - edge.top, 1) << dpi;
+        EXPECT_EQ(edge.bottom - strip.bottom, 1) << dpi;
     }
 }
 

@@ -12,12 +12,10 @@ class ColorBarClicks : public UiTest {};
 constexpr SIZE barSize = {734, 20};  // in pixels at 96 DPI
 constexpr int stepWidth = 3;
 
-/// The bar's steps on the screen, without the edge around them.
+/// The bar's steps on the screen: its window, which the edge surrounds.
 RECT StepsOf(const Huevox& huevox) {
-    const HWND bar = huevox.control(IDC_lblColorBar);
     RECT steps{};
-    ::GetClientRect(bar, &steps);
-    ::MapWindowPoints(bar, nullptr, reinterpret_cast<POINT*>(&steps), 2);
+    ::GetWindowRect(huevox.control(IDC_lblColorBar), &steps);
     return steps;
 }
 
