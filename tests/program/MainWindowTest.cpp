@@ -92,8 +92,8 @@ bool IsShown(const Child& child) { return (StyleOf(child) & WS_VISIBLE) != 0; }
 /// Frames stand around or behind other controls.
 bool IsFrame(const Child& child) {
     const bool isGroup = child.kind == "Button" && (StyleOf(child) & BS_TYPEMASK) == BS_GROUPBOX;
-    const bool isLine = child.kind == "Static" && (StyleOf(child) & SS_TYPEMASK) == SS_ETCHEDHORZ;
-    return isGroup || isLine || child.kind == "FieldFrame" ||
+    const LONG_PTR type = child.kind == "Static" ? StyleOf(child) & SS_TYPEMASK : SS_LEFT;
+    return isGroup || type == SS_ETCHEDHORZ || type == SS_GRAYRECT || child.kind == "FieldFrame" ||
            ::GetDlgCtrlID(child.window) == IDC_picSampleContainer;
 }
 
@@ -186,8 +186,7 @@ TEST_F(MainWindow, NoTextIsCutOff) {
 }
 
 TEST_F(MainWindow, NamesSamplesAndLettersStandInSixColumnsAsWideAsTheBar) {
-    constexpr int edge = 1;
-    const RECT bar = AreaOf(control(IDC_lblColorBar), edge);
+    const RECT bar = AreaOf(control(IDC_lblColorBar));
     EXPECT_EQ(bar.right - bar.left, window.scaled(734));
     EXPECT_EQ(bar.bottom - bar.top, window.scaled(20));
     for (int mark = 0; mark < markCount; ++mark) expectColumn(mark, bar.top);
