@@ -39,7 +39,8 @@ auto LiteralDialog(std::vector<std::string> answers) {
     return ReplacedFunction(&::GetProcAddress, [](auto original, HMODULE library, LPCSTR name) {
         const auto literal = reinterpret_cast<void*>(&ShowLiteralDialog);
         const bool isByName = reinterpret_cast<ULONG_PTR>(name) > 0xFFFF;
-        const bool isDialog = isByName && std::string_view(name) == "GetSaveFileNameW";
+        const std::string_view wanted = isByName ? name : "";
+        const bool isDialog = wanted == "GetSaveFileNameW" || wanted == "GetOpenFileNameW";
         return isDialog ? reinterpret_cast<FARPROC>(literal) : original(library, name);
     });
 }
@@ -123,4 +124,10 @@ TEST_F(SaveDialog, ANewNameIsNotAskedAbout) {
 TEST_F(SaveDialog, AnExtensionThatTheDialogHasSeenIsNotAskedAboutAgain) {
     const auto literal = LiteralDialog({savedFile});
     EXPECT_EQ(show({}), savedFile);
+}
+
+TEST_F(SaveDialog, AnOpenedNameThatGetsItsExtensionLaterIsNotAskedAbout) {
+    WriteContent("C:\\Saved\\Reds.txt", "precious");
+    const auto literal = LiteralDialog({"C:\\Saved\\Reds"});
+    EXPECT_EQ(dialogs.ShowOpenDialog(), "C:\\Saved\\Reds.txt");
 }
