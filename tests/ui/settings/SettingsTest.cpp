@@ -1,10 +1,14 @@
 // What does the program make of the settings that are stored?
 #include <array>
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "tests/driver/OptionsDialog.h"
+#include "tests/driver/Palettes.h"
 #include "tests/driver/UiTest.h"
+#include "toolkit/platform/Text.h"
 
 namespace {
 
@@ -21,18 +25,19 @@ void StoreNumber(const char* valueName, DWORD number) {
 class DesktopElsewhere {
 public:
     explicit DesktopElsewhere(std::string_view folder) {
-        ::RegOpenKeyA(HKEY_CURRENT_USER,
-                      R"(Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders)", &folders);
+        ::RegOpenKeyW(HKEY_CURRENT_USER,
+                      LR"(Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders)", &folders);
         DWORD size = before.size();
-        ::RegQueryValueExA(folders, "Desktop", nullptr, &type, before.data(), &size);
+        ::RegQueryValueExW(folders, L"Desktop", nullptr, &type, before.data(), &size);
         beforeSize = size;
-        ::RegSetValueExA(folders, "Desktop", 0, REG_SZ, reinterpret_cast<const BYTE*>(folder.data()),
-                         static_cast<DWORD>(folder.size()));
+        const std::wstring wide = Wide(folder);
+        ::RegSetValueExW(folders, L"Desktop", 0, REG_SZ, reinterpret_cast<const BYTE*>(wide.c_str()),
+                         static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t)));
     }
     DesktopElsewhere(const DesktopElsewhere&) = delete;
     DesktopElsewhere& operator=(const DesktopElsewhere&) = delete;
     ~DesktopElsewhere() {
-        ::RegSetValueExA(folders, "Desktop", 0, type, before.data(), beforeSize);
+        ::RegSetValueExW(folders, L"Desktop", 0, type, before.data(), beforeSize);
         ::RegCloseKey(folders);
     }
 
@@ -127,6 +132,23 @@ TEST_F(StoredSettings, WithoutADesktopFolderTheProgramStartsTheSame) {
     EXPECT_BECOMES(ClipboardText(), "#FF0000");
     EXPECT_EQ(huevox.dialogCount(), 0);
     EXPECT_FALSE(HasStoredSettings());
+}
+
+TEST_F(StoredSettings, ADesktopOfAnyNameIsTheFirstStandardFolder) {
+    const std::string name = R"(C:\users\Ольга 花子 🎨)";
+    std::filesystem::create_directory(Wide(name));
+    {
+        const DesktopElsewhere desktop(name);
+        const Huevox huevox;
+        {
+            const OptionsDialog options(huevox);
+            EXPECT_EQ(options.folder(), name);
+            options.close(IDC_cmdCancel);
+        }
+        SaveNewPalette(huevox, "赤.txt");
+        EXPECT_TRUE(Exists(name + R"(\赤.txt)"));
+    }
+    std::filesystem::remove_all(Wide(name));
 }
 
 TEST_F(StoredSettings, AnEmptyTextReadsAsEmpty) {
