@@ -125,7 +125,7 @@ TEST_P(HighContrast, AColorLikeTheWindowsIsToldFromIt) {
     ExpectEdges(huevox.control(IDC_picSample), theme().ground);
     const int like = theme().ground == ColorOf(0, 0, 0) ? 0 : 255;
     EXPECT_BECOMES(huevox.barStep(like), theme().ground);
-    ExpectEdges(huevox.control(IDC_lblColorBar), theme().ground);
+    ExpectEdges(huevox.control(IDC_edgColorBar), theme().ground);
 }
 
 TEST_P(HighContrast, ANameThatMayNotFitIsBlackOnLightYellow) {
