@@ -19,6 +19,11 @@ bool HasCreationTime(const std::wstring& path, const std::wstring& from) {
            ::SetFileTime(file.get(), &time, nullptr, nullptr);
 }
 
+/// The file was made with them, but in Wine 10 it loses them when its time is set.
+bool HasAttributes(const std::wstring& path, const std::wstring& from) {
+    return ::SetFileAttributesW(path.c_str(), KeptAttributes(::GetFileAttributesW(from.c_str()))) != FALSE;
+}
+
 bool HasContent(const std::wstring& path, const std::wstring& from) {
     constexpr DWORD blockSize = 64 * 1024;
     const OwnedFile old = OpenedSoon(from, {GENERIC_READ, sharedByAll});
@@ -84,5 +89,6 @@ DWORD KeptAttributes(DWORD attributes) {
 
 bool HasTakenOver(const std::wstring& file, const std::wstring& from) {
     // The rights come last: they may not allow the rest.
-    return HasCreationTime(file, from) && HasStreams(file, from) && HasRights(file, from);
+    return HasCreationTime(file, from) && HasAttributes(file, from) && HasStreams(file, from) &&
+           HasRights(file, from);
 }
