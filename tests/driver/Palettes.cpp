@@ -180,7 +180,7 @@ void ExpectPalette(const Huevox& huevox, const Palette& palette) {
     for (int mark = 0; mark < markCount; ++mark) {
         EXPECT_BECOMES(huevox.text(Name(mark)), palette.names[mark]);
         EXPECT_BECOMES(huevox.sample(mark), palette.colors[mark]);
-        EXPECT_EQ(huevox.backColor(Name(mark)), white) << mark;
+        EXPECT_BECOMES(huevox.backColor(Name(mark)), white) << mark;
         EXPECT_EQ(huevox.isChecked(Option(mark)), mark == 0) << mark;
         EXPECT_EQ(huevox.isEnabled(IDC_picSample + mark), mark == 0) << mark;
     }

@@ -25,7 +25,7 @@ protected:
         PressSave();
         CloseMessage(huevox, couldNotSave);
         EXPECT_EQ(huevox.title(), "Huevox - mine.txt");
-        EXPECT_EQ(huevox.backColor(Name(0)), highlight);
+        EXPECT_BECOMES(huevox.backColor(Name(0)), highlight);
         PressNew();
         AnswerQuestion(huevox, IDCANCEL);
         EXPECT_EQ(CountFiles(otherFolder, "*.tmp"), 0);

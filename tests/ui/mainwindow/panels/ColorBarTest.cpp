@@ -78,8 +78,8 @@ TEST_F(ColorBarClicks, TheStepOfTheCurrentColorChangesNothing) {
     Click(huevox.barStepPlace(0));
     // The input behind the clicks has arrived when this has.
     huevox.selectMark(1);
-    EXPECT_EQ(huevox.backColor(Name(0)), white);
-    EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
+    EXPECT_BECOMES(huevox.backColor(Name(0)), white);
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 0, 0));
 }
 
 TEST_F(ColorBarClicks, HighlightTheNameAsTheSlidersDo) {
@@ -118,7 +118,7 @@ TEST_F(ColorBarClicks, OnlyTheLeftButtonReleasedOnTheBarCounts) {
     PressButton(huevox.barStepPlace(100));
     ReleaseButton(CenterOf(huevox.control(IDC_frmSet)));
     huevox.selectMark(1);
-    EXPECT_EQ(huevox.sample(0), ColorOf(255, 0, 0));
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 0, 0));
 }
 
 TEST_F(ColorBarClicks, APressElsewhereThatIsReleasedOnTheBarIsNone) {
@@ -131,5 +131,5 @@ TEST_F(ColorBarClicks, APressElsewhereThatIsReleasedOnTheBarIsNone) {
     PressButton(elsewhere);
     ReleaseButton(huevox.barStepPlace(200));
     huevox.selectMark(1);  // the input behind all that
-    EXPECT_EQ(huevox.sample(0), ColorOf(255, 100, 100));
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(255, 100, 100));
 }

@@ -30,7 +30,7 @@ void ChangeAndBack(const Huevox& huevox, int mark, int slider) {
     ASSERT_BECOMES(huevox.backColor(Name(mark)), highlight);
     Press(VK_RIGHT);
     ASSERT_BECOMES(huevox.sliders(), before);
-    EXPECT_EQ(huevox.backColor(Name(mark)), highlight);
+    EXPECT_BECOMES(huevox.backColor(Name(mark)), highlight);
 }
 
 /// Two marks that have no JavaScript name, the second of them selected; the others are named.
@@ -133,7 +133,7 @@ TEST_F(FindJavaScriptNames, PlaceholdersAllGoWithAChangeOfTheColorOfOneOfThem) {
     NameAllButTwo(huevox);
     ChangeColor(huevox);
     ExpectNames(huevox, {none, "yellow", "lime", "cyan", none, "magenta"});
-    EXPECT_EQ(huevox.backColor(Name(4)), white);
+    EXPECT_BECOMES(huevox.backColor(Name(4)), white);
 }
 
 TEST_F(FindJavaScriptNames, PlaceholdersAllGoWithAChangeOfTheColorOfANamedMark) {

@@ -190,7 +190,7 @@ TEST_F(NameHighlight, TouchesTheSelectedMarkOnly) {
     huevox.retype(Name(1), "rose");
     MoveSlider(huevox);
     ASSERT_BECOMES(huevox.backColor(Name(0)), highlight);
-    EXPECT_EQ(huevox.backColor(Name(1)), white);
+    EXPECT_BECOMES(huevox.backColor(Name(1)), white);
 }
 
 TEST_F(NameHighlight, SwitchingTheModeCountsAsAChangeOfColor) {
