@@ -259,7 +259,8 @@ else()
 endif()
 
 add_test(NAME product.size_imports_and_hardening
-    COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>)
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/product ${CMAKE_OBJDUMP} $<TARGET_FILE:Huevox>
+        ${CMAKE_CXX_COMPILER_VERSION})
 
 add_test(NAME help.file COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/HelpFileTest.py ${PROJECT_SOURCE_DIR} ${help_file})
 add_test(NAME help.pictures COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/PicturesTest.py ${PROJECT_SOURCE_DIR})
