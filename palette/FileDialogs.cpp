@@ -42,7 +42,8 @@ bool IsFile(const std::string& path) {
 
 }  // namespace
 
-FileDialogs::FileDialogs(const Form& owner, AppState& state) : owner(owner), state(state) {}
+FileDialogs::FileDialogs(const Form& owner, AppState& state)
+    : owner(owner), state(state), initial(::GetCurrentProcessId()) {}
 
 std::string FileDialogs::ShowSaveDialog() {
     return Show({"GetSaveFileNameW", L"Save Palette As", OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY, false});
