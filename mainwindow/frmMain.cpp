@@ -28,6 +28,7 @@ frmMain::frmMain(AppState& state)
     Deactivate.bind(this, &frmMain::Form_Deactivate);
     QueryUnload.bind(this, &frmMain::Form_QueryUnload);
     Unload.bind(this, &frmMain::Form_Unload);
+    marks.Change.bind(this, &frmMain::marks_Change);
     commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
     commands.bind(IDM_mnuToolsCustomFormat, this, &frmMain::mnuToolsCustomFormat_Click);
     commands.bind(IDM_mnuToolsOptions, this, &frmMain::mnuToolsOptions_Click);
@@ -79,6 +80,9 @@ void frmMain::mnuToolsCustomFormat_Click() {
 }
 
 void frmMain::mnuToolsOptions_Click() { options.showModal(*this); }
+
+/// For whoever shows the marks once more, or remembers them.
+void frmMain::marks_Change() {}
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);

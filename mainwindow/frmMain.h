@@ -34,6 +34,7 @@ private:
     void mnuFileExit_Click();
     void mnuToolsCustomFormat_Click();
     void mnuToolsOptions_Click();
+    void marks_Change();
 
     void CheckColorDepth();
     void SetSelectedColor(int red, int green, int blue) override;

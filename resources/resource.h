@@ -29,8 +29,12 @@
 #define IDM_mnuEditCopyColor 40011
 #define IDM_mnuEditPasteColor 40012
 #define IDM_mnuEditFind 40013
+#define IDM_mnuEditUndo 40014
+#define IDM_mnuEditRedo 40015
 #define IDM_mnuToolsCustomFormat 40021
 #define IDM_mnuToolsOptions 40022
+#define IDM_mnuToolsPick 40023
+#define IDM_mnuToolsContrast 40024
 #define IDM_mnuHelpHelp 40031
 #define IDM_mnuHomePage 40032
 #define IDM_mnuHelpColorProperties 40033

@@ -53,11 +53,13 @@ void ColorMarks::ApplyPalette(const Palette& palette) {
         marks.markColor[mark] = palette.colors[mark];
         marks.savedMarkColor[mark] = palette.colors[mark];
     }
+    Change.raise();
 }
 
 void ColorMarks::Select(int mark) {
     optColor(mark).turnOn();
     marks.selectedMark = mark;
+    Change.raise();
 }
 
 Color ColorMarks::SampleColor(int mark) const {
@@ -77,6 +79,7 @@ void ColorMarks::Rename(int mark, std::string_view name) {
 
 void ColorMarks::WhitenNames() {
     for (TextBox& box : txtName) box.setBackColor(std::nullopt);
+    Change.raise();
 }
 
 void ColorMarks::EnableSelectedSample() {
@@ -97,6 +100,7 @@ void ColorMarks::PaintSelected(const Color& color) {
     picSample(marks.selectedMark).setBackColor(Pack(color));
     DescribeSample(marks.selectedMark);
     marks.markColor[marks.selectedMark] = color;
+    Change.raise();
 }
 
 /// For screen readers: the name and the colour.
@@ -112,6 +116,7 @@ void ColorMarks::HighlightRenamed() {
     for (TextBox& other : txtName) {
         if (other.text() == messages::notJavaScript) other.setText(messages::noName);
     }
+    Change.raise();
 }
 
 void ColorMarks::optColor_Click(int mark) {
@@ -119,6 +124,7 @@ void ColorMarks::optColor_Click(int mark) {
     {
         const Cleared notApplying(edit.sliderSync);
         marks.selectedMark = mark;
+        Change.raise();
         channels.SetSliders(marks.markColor[mark]);
         EnableSelectedSample();
         Yield();
@@ -134,9 +140,11 @@ void ColorMarks::optColor_LostFocus(int mark) { picSample(mark).setFocusFrame(fa
 void ColorMarks::txtName_Change(int mark) {
     txtName(mark).setBackColor(std::nullopt);
     DescribeSample(mark);
-    if (edit.nameFillInProgress || txtName(mark).text() != messages::notJavaScript) return;
-    txtName(mark).setText(messages::noName);
-    txtName(mark).setCaretToEnd();
+    if (!edit.nameFillInProgress && txtName(mark).text() == messages::notJavaScript) {
+        txtName(mark).setText(messages::noName);
+        txtName(mark).setCaretToEnd();
+    }
+    Change.raise();
 }
 
 void ColorMarks::txtName_Click(int mark) {

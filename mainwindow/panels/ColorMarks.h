@@ -13,11 +13,15 @@
 #include "toolkit/controls/Label.h"
 #include "toolkit/controls/PictureBox.h"
 #include "toolkit/controls/TextBox.h"
+#include "toolkit/forms/Event.h"
 
 /// The six marks: their name boxes, option buttons, samples and letters.
 class ColorMarks {
 public:
     ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors& channels, ColorTarget& target);
+
+    /// A colour or a name may have changed, its highlight, or which mark is selected: by whomever.
+    Event<> Change;
 
     /// At load: limits of the name boxes.
     void Prepare();
