@@ -101,7 +101,7 @@ bool FileDialogs::MayReplace(const std::string& path) const {
     if (!IsFile(path)) return true;
     const std::string question = std::string(GetFileNamePart(path, "\\")) + messages::replaceAfterName;
     constexpr UINT style = MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2;
-    return MsgBox(&owner, question.c_str(), style, messages::replaceTitle) == IDYES;
+    return MsgBox(&owner, question, style, messages::replaceTitle) == IDYES;
 }
 
 /// No folder is called "True" or "False", so Windows then chooses one.

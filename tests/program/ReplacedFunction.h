@@ -47,9 +47,9 @@ private:
     }
     void write(void* address) const {
         DWORD before = 0;
-        ::VirtualProtect(import, sizeof address, PAGE_READWRITE, &before);
+        ::VirtualProtect(static_cast<void*>(import), sizeof address, PAGE_READWRITE, &before);
         *import = address;
-        ::VirtualProtect(import, sizeof address, before, &before);
+        ::VirtualProtect(static_cast<void*>(import), sizeof address, before, &before);
     }
 
     inline static ReplacedFunction* current = nullptr;

@@ -28,7 +28,7 @@ std::size_t timesShown = 0;
 BOOL WINAPI ShowLiteralDialog(OPENFILENAMEW* record) {
     if (++timesShown > names.size()) return FALSE;
     const std::string& name = names[timesShown - 1];
-    *std::copy(name.begin(), name.end(), record->lpstrFile) = 0;
+    *std::ranges::copy(name, record->lpstrFile).out = 0;
     return TRUE;
 }
 
