@@ -20,6 +20,7 @@ frmMain::frmMain(AppState& state)
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks),
       pickers(*this, state.settings, channels),
+      alwaysOnTop(*this, commands),
       helpCommands(*this, commands, help),
       customFormat(state, registry, help),
       options(state.settings, registry) {
@@ -42,6 +43,7 @@ void frmMain::Form_Load() {
     {
         const RedrawFrozen frozen(handle());
         commands.Prepare();
+        alwaysOnTop.Prepare();
         channels.Prepare();
         marks.Prepare();
         palettes.ShowNewPalette();

@@ -3,6 +3,7 @@
 
 #include "help/HTMLHelp.h"
 #include "help/HelpCommands.h"
+#include "mainwindow/panels/AlwaysOnTop.h"
 #include "mainwindow/panels/Autocopy.h"
 #include "mainwindow/panels/ChannelEditors.h"
 #include "mainwindow/panels/ColorBar.h"
@@ -52,6 +53,7 @@ private:
     PaletteCommands palettes;
     ScreenPick screenPick;
     Pickers pickers;
+    AlwaysOnTop alwaysOnTop;
     HelpCommands helpCommands;
     frmCustomFormat customFormat;
     frmOptions options;

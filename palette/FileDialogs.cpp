@@ -90,9 +90,13 @@ std::string FileDialogs::Show(const Kind& kind) {
         path = Utf8(file.data());
         if (!kind.isForExistingFiles || !IsFile(path)) path = WithExtension(path);
     } while (!kind.isForExistingFiles && path != Utf8(file.data()) && !MayReplace(path));
+    Enter(path);
+    return path;
+}
+
+void FileDialogs::Enter(const std::string& path) {
     folder = FolderPart(path);
     ::SetCurrentDirectoryW(Wide(folder).c_str());
-    return path;
 }
 
 /// The dialog has asked about the name without its extension. After No it comes back, as after its own

@@ -18,6 +18,8 @@ public:
     std::string ShowOpenDialog();
     std::string ShowNotepadDialog();
 
+    /// The user has chosen this file in another way.
+    void Enter(const std::string& path);
     /// The folder that the user last chose, with a closing backslash; "" before the first choice.
     const std::string& chosenFolder() const { return folder; }
 

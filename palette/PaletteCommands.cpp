@@ -37,6 +37,7 @@ PaletteCommands::PaletteCommands(Form& form, AppState& state, EditState& edit, C
       marks(marks),
       target(target),
       dialogs(form, state) {
+    form.FileDrop.bind(this, &PaletteCommands::Form_FileDrop);
     commands.bind(IDM_mnuFileNew, this, &PaletteCommands::mnuFileNew_Click);
     commands.bind(IDM_mnuFileOpen, this, &PaletteCommands::mnuFileOpen_Click);
     commands.bind(IDM_mnuFileOpenInNotepad, this, &PaletteCommands::mnuFileOpenInNotepad_Click);
@@ -93,6 +94,14 @@ void PaletteCommands::mnuFileSaveAs_Click() {
     }
 }
 
+void PaletteCommands::Form_FileDrop(const std::string& path) {
+    if (!IsGivenUp()) return;
+    // Nobody has seen the file yet, as a file dialog has: it may be anything.
+    Reported(form, messages::couldNotOpen, [&] {
+        if (Open(path)) dialogs.Enter(path);
+    });
+}
+
 bool PaletteCommands::IsChanged() const { return IsPaletteChanged(state.marks, marks.Names()); }
 
 bool PaletteCommands::OfferToSave() {
@@ -101,11 +110,18 @@ bool PaletteCommands::OfferToSave() {
     return promptAnswer == IDYES || promptAnswer == IDNO;
 }
 
+/// Whether a palette may go that no further dialog stands for: a save that failed or was cancelled keeps it.
+bool PaletteCommands::IsGivenUp() {
+    if (!IsChanged()) return true;
+    return OfferToSave() && (promptAnswer == IDNO || !IsChanged());
+}
+
 void PaletteCommands::AskToSavePalette() {
     promptAnswer = MsgBox(&form, messages::paletteChanged, MB_YESNOCANCEL | MB_ICONQUESTION, messages::title);
 }
 
-void PaletteCommands::Open(const std::string& path) {
+/// False when the file was refused.
+bool PaletteCommands::Open(const std::string& path) {
     constexpr std::size_t lineLimit = 1000;
     OwnedFile file = OpenForReading(path);
     FirstLines lines(linesLookedAt, lineLimit + 1);
@@ -113,14 +129,19 @@ void PaletteCommands::Open(const std::string& path) {
     // A user who has just opened a palette knows what a palette is: the limit is lifted.
     if (lines.count() > lineLimit && !lastOpenAccepted) {
         filesLeftOpen.push_back(std::move(file));
-        return Refuse(path);
+        Refuse(path);
+        return false;
     }
     file = {};
     const std::optional palette = ParseFile(lines);
     lastOpenAccepted = palette.has_value();
-    if (!palette) return Refuse(path);
+    if (!palette) {
+        Refuse(path);
+        return false;
+    }
     ShowPalette(*palette);
     NamePalette(path);
+    return true;
 }
 
 void PaletteCommands::Refuse(const std::string& path) {

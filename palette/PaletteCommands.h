@@ -33,12 +33,14 @@ private:
     void mnuFileOpenInNotepad_Click();
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
+    void Form_FileDrop(const std::string& path);
 
     bool IsChanged() const;
     /// False when the user would rather keep the current palette.
     bool OfferToSave();
     void AskToSavePalette();
-    void Open(const std::string& path);
+    bool IsGivenUp();
+    bool Open(const std::string& path);
     void Refuse(const std::string& path);
     void ShowPalette(const Palette& palette);
     bool Save(const std::string& path);

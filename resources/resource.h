@@ -40,6 +40,9 @@
 #define IDM_mnuHelpColorProperties 40033
 #define IDM_mnuHelpAboutHuevox 40034
 
+// In the window's own menu: a multiple of 16 below 0xF000.
+#define IDM_mnuSystemOnTop 40192
+
 // Buttons of frmJavaScript's tool bar.
 #define IDM_Alphabetically 40101
 #define IDM_DotNet 40102

@@ -20,6 +20,7 @@ inline constexpr const char* paletteChanged = "The palette has been changed. Do 
 inline constexpr const char* replaceTitle = "Save Palette As";
 inline constexpr const char* replaceAfterName = " already exists.\r\nDo you want to replace it?";
 inline constexpr const char* couldNotSave = "Could not save. Check if file or folder is read-only.";
+inline constexpr const char* couldNotOpen = "Could not open. Check if file is in use or has been removed.";
 inline constexpr const char* noNotepad = "Could not open file in Notepad.";
 inline constexpr const char* noHelp = "Problem with HTML Help.";
 inline constexpr const char* noBrowser = "Problem with browser.";
@@ -54,6 +55,8 @@ inline constexpr const char* alsoKnownAsAqua = " (also known as aqua)";
 inline constexpr const char* alsoKnownAsFuchsia = " (also known as fuchsia)";
 inline constexpr const char* renameBeforeName = "Do you want to change the name of the selected colour to ";
 inline constexpr const char* renameAfterName = "?";
+
+inline constexpr const char* alwaysOnTop = "Always on &Top";
 
 inline constexpr const char* nameTip = "Click and type a colour name";
 inline constexpr const char* markTip = "Click here to select this colour mark";

@@ -34,6 +34,8 @@ add_executable(program_tests
     toolkit/forms/ModalFormTest.cpp
     toolkit/forms/ModalHoldTest.cpp
     toolkit/forms/ScalingTest.cpp
+    toolkit/forms/SystemMenuTest.cpp
+    toolkit/forms/TopOrderTest.cpp
     toolkit/forms/TrappedEdgeTest.cpp
     toolkit/forms/YieldTest.cpp
     toolkit/platform/TextTest.cpp)
@@ -76,7 +78,7 @@ target_link_libraries(ui_driver PUBLIC huevox_toolkit GTest::gtest advapi32 gdi3
 # Where the system scales what DPI-unaware programs see, a program that drives Huevox must see the same places as Huevox does.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_UTF8_EXE="Huevox_utf8.exe"
-    HUEVOX_STAND_IN="tests/StandIn.exe"
+    HUEVOX_DROPPER="tests/Dropper.exe" HUEVOX_STAND_IN="tests/StandIn.exe"
     HUEVOX_STAND_IN_VIEWER="tests/hhctrl.ocx"
     HUEVOX_TEST_FILES="${drive}${CMAKE_CURRENT_SOURCE_DIR}/palette/files/"
     HUEVOX_COLOR_NAMES="${drive}${color_names}")
@@ -87,6 +89,7 @@ add_executable(ui_tests
     ui/help/HomePageTest.cpp
     ui/mainwindow/AccessKeysTest.cpp
     ui/mainwindow/ActivationTest.cpp
+    ui/mainwindow/AlwaysOnTopTest.cpp
     ui/mainwindow/BurstTest.cpp
     ui/mainwindow/ClosingTest.cpp
     ui/mainwindow/HighContrastTest.cpp
@@ -118,6 +121,7 @@ add_executable(ui_tests
     ui/palette/ChangedFileTest.cpp
     ui/palette/ChangedNewPaletteTest.cpp
     ui/palette/CodePageTest.cpp
+    ui/palette/DroppingTest.cpp
     ui/palette/FileNamesTest.cpp
     ui/palette/KeptFileTest.cpp
     ui/palette/NotepadTest.cpp
@@ -145,7 +149,7 @@ add_dependencies(ui_tests Huevox Huevox_utf8)
 include(driver/stand-ins.cmake)
 add_executable(TwoColors WIN32 driver/TwoColors.cpp)
 target_link_libraries(TwoColors PRIVATE huevox_flags gdi32)
-add_dependencies(ui_tests StandIn StandInViewer TwoColors)
+add_dependencies(ui_tests Dropper StandIn StandInViewer TwoColors)
 
 # Optimising a test takes longer than running it.
 foreach(tests program_tests ui_tests)
@@ -269,7 +273,7 @@ set_tests_properties(help.pictures PROPERTIES ${patient})
 add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
 
 tidy_unit(program huevox_pure huevox_toolkit huevox_program Huevox)
-tidy_unit(driver ui_driver StandIn StandInViewer TwoColors)
+tidy_unit(driver ui_driver Dropper Dropped StandIn StandInViewer TwoColors)
 tidy_unit(ui_tests ui_tests)
 tidy_unit(program_tests program_tests Planted)
 tidy_unit(installer_tests installer_tests)

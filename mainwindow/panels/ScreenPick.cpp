@@ -39,6 +39,7 @@ void ScreenPick::chkColorPick_Click() {
 }
 
 void ScreenPick::EnableOpening(bool isEnabled) {
+    form.setDropsWanted(isEnabled);
     commands.SetEnabled(IDM_mnuFileOpen, isEnabled);
     commands.SetEnabled(IDM_mnuFileOpenInNotepad, isEnabled);
     commands.SetTip(IDM_mnuFileOpen, isEnabled ? messages::openTip : messages::openDisabledTip);

@@ -6,3 +6,11 @@ set_target_properties(StandInViewer PROPERTIES PREFIX "" OUTPUT_NAME hhctrl SUFF
 target_link_libraries(StandInViewer PRIVATE huevox_toolkit)
 # Windows libraries export plain names, without what 32-bit compilers add to them.
 target_link_options(StandInViewer PRIVATE -Wl,--kill-at)
+# Drops files onto the program, from inside of it.
+add_executable(Dropper driver/Dropper.cpp)
+target_link_libraries(Dropper PRIVATE huevox_flags)
+target_link_options(Dropper PRIVATE -municode)
+add_library(Dropped MODULE driver/Dropped.cpp)
+set_target_properties(Dropped PROPERTIES PREFIX "")
+target_link_libraries(Dropped PRIVATE huevox_flags)
+add_dependencies(Dropper Dropped)

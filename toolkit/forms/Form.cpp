@@ -40,6 +40,8 @@ void Form::createFrame(const DialogTemplate& dialog) {
     if (!window) throw std::runtime_error("Windows refused a window");
     loadedForms.push_back(this);
     modalHold.join(window);
+    topOrder.join(window);
+    drops.attach(window);
     layout.attach(window);
     const SIZE frame = layout.frameSize();
     // Its monitor has another scaling, or Windows has cut off a window larger than the screen.

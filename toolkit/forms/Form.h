@@ -6,10 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "toolkit/forms/Event.h"
+#include "toolkit/forms/DropTarget.h"
+#include "toolkit/forms/FormEvents.h"
 #include "toolkit/forms/FormLayout.h"
 #include "toolkit/forms/FormParts.h"
 #include "toolkit/forms/ModalHold.h"
+#include "toolkit/forms/TopOrder.h"
 #include "toolkit/platform/Platform.h"
 #include "toolkit/platform/Twips.h"
 
@@ -18,22 +20,13 @@ class ToolTips;
 
 /// A window made from a DIALOGEX template whose units are pixels at 96 DPI, or twips. Forms are unloaded, not
 /// deleted, while handlers may be on the stack.
-class Form {
+class Form : public FormEvents {
 public:
     /// name is the window class, the name of the template and the name of the accelerators.
     explicit Form(const char* name, int twipsPerUnit = twipsPerPixel);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
     virtual ~Form();
-
-    Event<> Load;
-    /// After Windows' own activation, or before the click that activates; never while loading.
-    Event<> Activate;
-    Event<> Deactivate;        ///< at once
-    Event<bool&> QueryUnload;  ///< before the form is unloaded; setting the flag keeps it
-    Event<> Unload;
-    Event<> DisplayChange;  ///< the monitors or their modes have changed
-    Event<int> Command;     ///< a menu item or a shortcut was chosen
 
     /// Creates the window, still hidden, and raises Load. Throws what Load throws, and std::runtime_error
     /// when Windows refuses a window.
@@ -62,6 +55,10 @@ public:
     /// The pointer's shape over the form and while it captures the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
+    /// Whether the form takes files that are dropped onto it.
+    void setDropsWanted(bool areWanted) { drops.setWanted(areWanted); }
+    /// Keeps this form above the windows of other programs, and the program's other forms above this one.
+    void setOnTop(bool isOnTop) { topOrder.keep(window, isOnTop); }
     /// A system colour, COLOR_WINDOW for instance, instead of that of dialogs.
     void setBackground(int systemColor) { background = systemColor; }
 
@@ -102,6 +99,7 @@ private:
     static inline std::vector<Form*> loadedForms;
     static inline Form* formBeingCreated = nullptr;
     static inline ModalHold modalHold;
+    static inline TopOrder topOrder;
 
     const char* name;
     HWND window = nullptr;
@@ -113,6 +111,7 @@ private:
     FormParts parts;
     std::vector<Timer*> timers;
     FormLayout layout;
+    DropTarget drops;
     State state = State::unloaded;
     bool isActive = false;
     bool isActivatePending = false;

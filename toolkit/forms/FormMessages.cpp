@@ -3,6 +3,7 @@
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/FormPart.h"
 #include "toolkit/forms/FormWindow.h"
+#include "toolkit/forms/SystemMenu.h"
 #include "toolkit/forms/Timer.h"
 #include "toolkit/forms/ToolTips.h"
 
@@ -52,6 +53,7 @@ private:
     void onSizeLimits(MINMAXINFO& limits) const;
     void onActivate(int how);
     void onEnable(bool isEnabled);
+    LRESULT onDrop(HANDLE files);
     bool onMouse();
     void onDestroyed();
 
@@ -87,6 +89,7 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_HSCROLL: return onScroll(LOWORD(wParam), HIWORD(wParam), Window(lParam));
         case WM_TIMER: return onTimer(wParam);
         case WM_CLOSE: return onClose();
+        case WM_DROPFILES: return onDrop(reinterpret_cast<HANDLE>(wParam));
         case WM_QUERYENDSESSION: return onQueryEndSession();
         case WM_ENDSESSION: return onEndSession(wParam != FALSE);
         case WM_GETDPISCALEDSIZE:
@@ -102,6 +105,10 @@ LRESULT Form::Receiver::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_SYSCOLORCHANGE: ::EnumChildWindows(window, PassOn, message); break;
         case WM_DISPLAYCHANGE: form.DisplayChange.raise(); break;
+        case WM_SYSCOMMAND:
+            if (LOWORD(wParam) < firstOfWindows) return onCommand(LOWORD(wParam), 0, nullptr);
+            break;
+        case WM_WINDOWPOSCHANGING: topOrder.moving(window, *reinterpret_cast<WINDOWPOS*>(lParam)); break;
         case WM_ENABLE: onEnable(wParam != FALSE); break;
         case WM_ACTIVATE: onActivate(LOWORD(wParam)); break;
         case WM_SETCURSOR:
@@ -204,8 +211,18 @@ LRESULT Form::Receiver::onFocusLeft(HWND left) {
 
 void Form::Receiver::onEnable(bool isEnabled) {
     modalHold.changed(form.window, isEnabled);
+    form.drops.refresh();
     // The tip of a form that a dialog holds would lie over the dialog.
     if (form.toolTips) form.toolTips->setShown(isEnabled);
+}
+
+/// What is asked about a file has to be seen, although another program was in front until now.
+LRESULT Form::Receiver::onDrop(HANDLE files) {
+    const std::string path = form.drops.take(files);
+    if (path.empty() || !form.isLoaded()) return 0;
+    ::SetForegroundWindow(form.window);
+    form.FileDrop.raise(path);
+    return 0;
 }
 
 /// The mouse is over the form; until it has been, no tool tip is of use. True when the form sets the
@@ -222,6 +239,7 @@ bool Form::Receiver::onMouse() {
 void Form::Receiver::onDestroyed() {
     form.parts.detachAll();
     modalHold.leave(form.window);
+    topOrder.leave(form.window);
     form.toolTips.reset();
     std::erase(loadedForms, &form);
     form.window = nullptr;

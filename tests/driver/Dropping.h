@@ -1,0 +1,26 @@
+// How does a test drop files onto the main window?
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/driver/Huevox.h"
+#include "tests/driver/StartProgram.h"
+
+/// Drops them whether or not the window takes any.
+inline void Drop(HWND window, const std::vector<std::string>& paths) {
+    std::string line = HUEVOX_DROPPER " " + std::to_string(reinterpret_cast<UINT_PTR>(window));
+    for (const std::string& path : paths) line += " \"" + path + '"';
+    const PROCESS_INFORMATION dropper = StartProgram(line);
+    EXPECT_TRUE(Eventually([&] { return ::WaitForSingleObject(dropper.hProcess, 0) == WAIT_OBJECT_0; }));
+    DWORD result = 1;
+    ::GetExitCodeProcess(dropper.hProcess, &result);
+    EXPECT_EQ(result, 0U) << line;
+    ::CloseHandle(dropper.hThread);
+    ::CloseHandle(dropper.hProcess);
+}
+
+/// Whether the pointer over the window shows that files can be dropped there.
+inline bool TakesDrops(HWND window) {
+    return (::GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_ACCEPTFILES) != 0;
+}
