@@ -19,8 +19,8 @@ frmMain::frmMain(AppState& state)
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks),
-      pickers(*this, state.settings, channels),
       alwaysOnTop(*this, commands),
+      pickers(*this, state.settings, commands, channels, marks),
       helpCommands(*this, commands, help),
       customFormat(state, registry, help),
       options(state.settings, registry) {
@@ -84,7 +84,7 @@ void frmMain::mnuToolsCustomFormat_Click() {
 void frmMain::mnuToolsOptions_Click() { options.showModal(*this); }
 
 /// For whoever shows the marks once more, or remembers them.
-void frmMain::marks_Change() {}
+void frmMain::marks_Change() { pickers.ShowMarks(); }
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);

@@ -1,20 +1,29 @@
-// Who opens the palette windows?
+// Who opens the palette windows and that of the contrast?
 #pragma once
 
+#include "mainwindow/panels/CommandBar.h"
+#include "pickers/frmContrast.h"
 #include "pickers/frmFailsafe.h"
 #include "pickers/frmJavaScript.h"
 #include "pickers/frmWebsafe.h"
 #include "toolkit/controls/Buttons.h"
 
-/// The three palette windows, one of each, and the main window's buttons for them.
+/// The three palette windows and that of the marks' contrast, one of each, and what opens them in the main
+/// window: a button or a command.
 class Pickers {
 public:
-    Pickers(Form& form, const Settings& settings, ChannelEditors& channels);
+    Pickers(Form& form, const Settings& settings, CommandBar& commands, ChannelEditors& channels,
+            ColorMarks& marks);
+
+    /// The marks may have changed.
+    void ShowMarks() { contrast.ShowMarks(); }
 
 private:
     void cmdWebsafe_Click() { Open(websafe); }
     void cmdFailsafe_Click() { Open(failsafe); }
     void cmdJavaScript_Click() { Open(javaScript); }
+
+    void mnuToolsContrast_Click() { Open(contrast); }
 
     void Open(SwatchWindow& picker) const;
 
@@ -25,4 +34,5 @@ private:
     frmWebsafe websafe;
     frmFailsafe failsafe;
     frmJavaScript javaScript;
+    frmContrast contrast;
 };

@@ -138,3 +138,6 @@
 #define IDC_lblTitle 1708
 #define IDC_lblCopyright 1709
 #define IDC_lblVersion 1710
+
+// The control of frmContrast.
+#define IDC_grdContrast 1801

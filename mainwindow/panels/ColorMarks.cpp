@@ -62,6 +62,12 @@ void ColorMarks::Select(int mark) {
     Change.raise();
 }
 
+void ColorMarks::Choose(int mark) {
+    if (optColor(mark).value()) return;
+    optColor(mark).turnOn();
+    optColor_Click(mark);
+}
+
 Color ColorMarks::SampleColor(int mark) const {
     return Unpack(static_cast<PackedColor>(picSample(mark).backColor()));
 }

@@ -30,6 +30,8 @@ public:
     void ApplyPalette(const Palette& palette);
     /// Selects a mark without applying its colour.
     void Select(int mark);
+    /// Selects a mark as the user does by its button.
+    void Choose(int mark);
     Color SampleColor(int mark) const;
     std::string Name(int mark) const { return txtName(mark).text(); }
     MarkNames Names() const;

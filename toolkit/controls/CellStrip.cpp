@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "core/ChannelText.h"
-#include "toolkit/controls/CellMove.h"
 #include "toolkit/controls/Keys.h"
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/ToolTips.h"
@@ -17,18 +16,6 @@
 namespace {
 
 constexpr int narrowestFrame = 7;
-
-std::optional<CellStep> StepOf(WPARAM key) {
-    switch (key) {
-        case VK_LEFT: return CellStep::left;
-        case VK_RIGHT: return CellStep::right;
-        case VK_UP: return CellStep::up;
-        case VK_DOWN: return CellStep::down;
-        case VK_HOME: return CellStep::first;
-        case VK_END: return CellStep::last;
-        default: return std::nullopt;
-    }
-}
 
 }  // namespace
 
