@@ -10,6 +10,7 @@ add_executable(program_tests
     program/ColorBarTest.cpp
     program/ColorMarksTest.cpp
     program/ColorsOnTheWayTest.cpp
+    program/ContrastFormTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
     program/KeptTraitsTest.cpp
@@ -129,6 +130,7 @@ add_executable(ui_tests
     ui/palette/PaletteOpenTest.cpp
     ui/palette/PaletteSaveTest.cpp
     ui/palette/VanishingFilesTest.cpp
+    ui/pickers/ContrastTest.cpp
     ui/pickers/JavaScriptPickerTest.cpp
     ui/pickers/PickerWindowsTest.cpp
     ui/pickers/PickersTest.cpp
@@ -221,11 +223,11 @@ endforeach()
 # At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
 string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
-    PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.*)
+    PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.* ContrastOfMarks.Shows* ContrastOfMarks.KeysMove*)
 foreach(dpi IN ITEMS 120 144 192)
     add_test(NAME ui.at_${dpi}_dpi
         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scaled ${dpi}
-            $<TARGET_FILE:ui_tests> ${scaled_ui} $<TARGET_FILE:program_tests> PickerForms.*:CellStripTest.*:TextFit.*
+            $<TARGET_FILE:ui_tests> ${scaled_ui} $<TARGET_FILE:program_tests> PickerForms.*:CellStripTest.*:TextFit.*:ContrastForm.Ratio*:ContrastForm.AChange*
         WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
     set_tests_properties(ui.at_${dpi}_dpi PROPERTIES ${patient})
 endforeach()

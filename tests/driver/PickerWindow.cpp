@@ -2,22 +2,9 @@
 
 #include "resources/resource.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/Posted.h"
 #include "tests/driver/Tips.h"
 #include "tests/driver/Wait.h"
-
-namespace {
-
-/// Waits until the program has handled what it has posted to itself: a caret moves only after that. Twice,
-/// because the first move may have come before it.
-void WaitForPosted(const Huevox& huevox) {
-    constexpr int box = IDC_txtName + 5;
-    for (const int caret : {3, 4}) {
-        ::PostMessageA(huevox.control(box), EM_SETSEL, caret, caret);
-        EXPECT_BECOMES(huevox.selection(box), (std::pair{caret, caret}));
-    }
-}
-
-}  // namespace
 
 PickerWindow::PickerWindow(const Huevox& huevox, const Grid& grid) : huevox(huevox), grid(grid) { open(); }
 

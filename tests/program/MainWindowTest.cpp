@@ -5,6 +5,7 @@
 
 #include "tests/driver/Input.h"
 #include "tests/driver/WindowText.h"
+#include "tests/program/FreeHandles.h"
 #include "tests/program/MainWindowFixture.h"
 
 namespace {
@@ -51,6 +52,7 @@ const std::vector<Item> items = {
     {IDM_mnuEditFind, "&Find JavaScript Names\tF5"},
     {IDM_mnuToolsCustomFormat, "&Custom Format...\tF8"},
     {IDM_mnuToolsOptions, "&Options...\tF9"},
+    {IDM_mnuToolsContrast, "Co&ntrast\tF7"},
     {IDM_mnuHelpHelp, "&Help\tF1"},
     {IDM_mnuHomePage, "&Visit Huevox Home Page"},
     {IDM_mnuHelpColorProperties, "&Colour Properties...\tF4"},
@@ -106,14 +108,6 @@ SIZE TextSize(const Child& child) {
     ::SelectObject(context, before);
     ::ReleaseDC(child.window, context);
     return size;
-}
-
-/// How many GDI handles the process can still get.
-int FreeHandles() {
-    std::vector<HBRUSH> brushes;
-    while (const HBRUSH brush = ::CreateSolidBrush(0)) brushes.push_back(brush);
-    for (const HBRUSH brush : brushes) ::DeleteObject(brush);
-    return static_cast<int>(brushes.size());
 }
 
 /// Leaves out those whose text is for screen readers only.

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "tests/driver/ContrastWindow.h"
 #include "tests/driver/Legible.h"
 #include "tests/driver/PickerWindow.h"
 #include "tests/driver/Theme.h"
@@ -121,6 +122,17 @@ TEST_P(HighContrast, ThePicturesOfTheToolBarsAreSeen) {
     for (const int command : {IDM_Alphabetically, IDM_DotNet})
         expect(::GetDlgItem(picker.window(), IDC_tbrSortTools), command);
     EXPECT_BECOMES(Pixel(EmptyPlace(picker)), theme().ground);
+}
+
+TEST_P(HighContrast, NamesAndTheLineBelowTheContrastsAreLegible) {
+    const Huevox huevox;
+    const ContrastWindow contrast(huevox);
+    for (const RECT& text : {contrast.rowName(0), contrast.columnName(5), contrast.status()}) {
+        EXPECT_TRUE(Eventually([&] {
+            const Look look = LookAt(text);
+            return look.ground == theme().ground && look.contrast >= legible;
+        }));
+    }
 }
 
 TEST_P(HighContrast, AColorLikeTheWindowsIsToldFromIt) {
