@@ -13,7 +13,7 @@ namespace {
 /// Milliseconds without an answer: so many that the busiest machine gives the program time for one.
 constexpr UINT hang = 60'000;
 
-constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript"};
+constexpr std::array pickerNames = {"frmWebsafe", "frmFailsafe", "frmJavaScript", "frmContrast"};
 
 BOOL CALLBACK Remember(HWND window, LPARAM parameter) {
     auto& controls = *reinterpret_cast<std::map<int, HWND>*>(parameter);
@@ -110,7 +110,7 @@ HWND Eyes::picker(int index) const { return ::FindWindowA(pickerNames.at(index),
 Front Eyes::frontWindow() const {
     const HWND front = ::GetForegroundWindow();
     if (front == form) return Front::main;
-    for (int index = 0; index < 3; ++index) {
+    for (int index = 0; index < 4; ++index) {
         if (front && front == picker(index)) return static_cast<Front>(index);
     }
     const std::string name = front ? ClassOf(front) : "";

@@ -15,7 +15,7 @@ std::string Numbered(const char* what, int number) {
 }
 
 const char* NameOf(Front front) {
-    constexpr std::array names = {"websafe", "failsafe", "JavaScript", "main", "other", "none"};
+    constexpr std::array names = {"websafe", "failsafe", "JavaScript", "contrast", "main", "other", "none"};
     return names.at(static_cast<std::size_t>(front));
 }
 
@@ -43,7 +43,11 @@ std::string Inspection::difference() {
 void Inspection::lookAtFrame() {
     expected.box.isOpen() ? lookAtBox() : lookAtFront();
     compare.same("enabled window", !expected.box.isOpen(), ::IsWindowEnabled(eyes.main()) != FALSE);
-    for (int picker = 0; picker < 3; ++picker) lookAtPicker(picker);
+    for (int picker = 0; picker < 4; ++picker) lookAtPicker(picker);
+    compare.same("contrast", expected.contrast, earlier.contrast, [&] {
+        const HWND window = eyes.picker(static_cast<int>(Front::contrast));
+        return window ? eyes.text(::GetDlgItem(window, IDC_grdContrast)) : "";
+    });
     compare.same("title", expected.title, earlier.title, [&] { return eyes.text(eyes.main()); });
     if (expected.focus != 0) compare.same("focus", expected.focus, ::GetDlgCtrlID(eyes.focus()));
 }

@@ -49,7 +49,7 @@ bool Measurements::isLoading(const Action& action, const Look& look) {
 
 /// Where nothing else is open, so that like is compared with like.
 bool Measurements::isDue(const Look& look) {
-    const bool isPlain = !look.box.isOpen() && look.pickers == std::array<bool, 3>{};
+    const bool isPlain = !look.box.isOpen() && look.pickers == std::array<bool, 4>{};
     if (!isPlain || course.steps < course.nextMeasure) return false;
     course.nextMeasure = course.steps + interval;
     return course.steps >= warmUp;

@@ -3,11 +3,13 @@
 #include <array>
 
 #include "resources/resource.h"
+#include "tests/driver/ContrastWindow.h"
 #include "tests/driver/Input.h"
 #include "tests/driver/PickerWindow.h"
 
 namespace {
 
+constexpr int contrast = 3;
 constexpr std::array grids = {websafeGrid, failsafeGrid, javaScriptGrid};
 
 Swatch PlaceOf(int picker, int index) {
@@ -59,6 +61,18 @@ void PickerHands::sort(bool isByHue) {
     const POINT place = huevox.toolButton(bar, isByHue ? IDM_DotNet : IDM_Alphabetically);
     reach.uncover(window, place);
     Click(place);
+}
+
+void PickerHands::placeContrast(bool wasOpen) {
+    reach.bringWindow([&] { return eyes.picker(contrast); });
+    if (!wasOpen && reach.isAll()) Reach::moveTo(eyes.picker(contrast), {516, 766});
+}
+
+void PickerHands::clickCell(int cell, bool isLeft) {
+    const HWND window = eyes.picker(contrast);
+    const POINT place = MiddleOfCell(window, cell / 6, cell % 6);
+    reach.uncover(window, place);
+    isLeft ? Click(place) : RightClick(place);
 }
 
 void PickerHands::close(int picker) {

@@ -16,6 +16,10 @@ public:
     void sort(bool isByHue);
     void close(int picker);
 
+    /// A new contrast window is moved to a place of its own.
+    void placeContrast(bool wasOpen);
+    void clickCell(int cell, bool isLeft);
+
 private:
     POINT swatchPlace(int picker, int index) const;
 

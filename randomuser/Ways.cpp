@@ -122,6 +122,19 @@ constexpr std::array ways = std::to_array<Way>({
     {Kind::closeDialog,
      [](const Moment& now) { now.hands.boxes.close(now.action.value == 1, now.action.which == 1); }},
     {Kind::help, ShowHelp},
+    {Kind::openContrast,
+     [](const Moment& now) {
+         now.hands.commands.run({VK_F7, false, 0, 'T', 'N'}, now.action.which == 0 ? 0 : 2);
+         now.hands.pickers.placeContrast(now.before.pickers.at(3));
+     }},
+    {Kind::pressCell,
+     [](const Moment& now) { now.hands.pickers.clickCell(now.action.value, now.action.which == 0); }},
+    {Kind::cellKeys,
+     [](const Moment& now) {
+         now.hands.reach.bring(Front::contrast);
+         Press(VK_RIGHT);
+         Press(now.action.which == 0 ? VK_SPACE : VK_RETURN);
+     }},
 });
 static_assert(HasEveryKind<ways>(), "the ways stand in the order of Kind");
 

@@ -36,7 +36,7 @@ enum class Kind {
     swatch,       ///< which as above; value: the index
     rightSwatch,  ///< the same by the right button
     sortOrder,    ///< value: 0 alphabetical, 1 by hue
-    closePicker,  ///< which as above
+    closePicker,  ///< which as above, 3 the contrast window
     comeBack,
     otherInFront,
     otherCopies,  ///< text
@@ -63,9 +63,12 @@ enum class Kind {
     insertToken,   ///< value: 0 to 9
     typeFormat,    ///< text
     openAbout,
-    closeDialog,  ///< which: 0 by Enter or Escape, 1 by the access key; value: 1 OK, 2 Cancel
-    help,         ///< which: as of all commands; the help is shown and closed
-    count,        ///< stays the last: so many kinds there are
+    closeDialog,   ///< which: 0 by Enter or Escape, 1 by the access key; value: 1 OK, 2 Cancel
+    help,          ///< which: as of all commands; the help is shown and closed
+    openContrast,  ///< which: 0 by key, 1 by the menu
+    pressCell,     ///< which: 0 by the left button, 1 by the right one; value: 0 to 35
+    cellKeys,      ///< to the right, and the press of a key: which: 0 Space, 1 Enter
+    count,         ///< stays the last: so many kinds there are
 };
 
 inline constexpr auto kindCount = static_cast<std::size_t>(Kind::count);

@@ -59,6 +59,14 @@ bool CanPressSwatch(const Parts& parts, const Action& action) {
 
 bool CanSort(const Parts& parts, const Action& /*action*/) { return parts.windows.isPickerOpen(2); }
 
+bool IsContrastOpen(const Parts& parts, const Action& /*action*/) {
+    return parts.windows.isPickerOpen(static_cast<int>(Front::contrast));
+}
+
+bool IsContrastInFront(const Parts& parts, const Action& /*action*/) {
+    return parts.windows.isInFront(Front::contrast);
+}
+
 bool CanOthersCopy(const Parts& parts, const Action& /*action*/) {
     return parts.clipboard.isFree(ClipboardFact::State::known);
 }

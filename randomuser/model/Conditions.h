@@ -18,6 +18,8 @@ bool CanTab(const Parts& parts, const Action& action);
 bool IsPickerOpen(const Parts& parts, const Action& action);
 bool CanClickSwatch(const Parts& parts, const Action& action);
 bool CanPressSwatch(const Parts& parts, const Action& action);
+bool IsContrastOpen(const Parts& parts, const Action& action);
+bool IsContrastInFront(const Parts& parts, const Action& action);
 bool CanSort(const Parts& parts, const Action& action);
 
 bool CanOthersCopy(const Parts& parts, const Action& action);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -50,6 +51,18 @@ std::string WithoutBlanks(std::string_view text) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     while (text.ends_with(' ')) text.remove_suffix(1);
     return std::string(text);
+}
+
+/// How bright a colour is by the guidelines of the Web, from 0 to 1.
+double LightOf(const Color& color) {
+    constexpr std::array weights = {0.2126, 0.7152, 0.0722};
+    double light = 0;
+    for (int channel = 0; channel < 3; ++channel) {
+        const double level = ChannelOf(color, channel) / 255.0;
+        light +=
+            weights.at(channel) * (level <= 0.04 ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4));
+    }
+    return light;
 }
 
 }  // namespace
@@ -169,4 +182,21 @@ std::optional<int> ValueOf(std::string_view text, bool isDecimal) {
     if (!isDecimal && typed.size() != 2) return std::nullopt;
     const int value = std::stoi(typed, nullptr, isDecimal ? 10 : 16);
     return value > 255 ? std::nullopt : std::optional(value);
+}
+
+std::string LabelOf(const std::string& name, const Color& color) {
+    const bool isEmpty = name.find_first_not_of(' ') == std::string::npos;
+    return isEmpty || name == noName || name == notJavaScript ? CodeOf(0, color, "") : name;
+}
+
+std::string ContrastOf(const std::string& textName, const Color& text, const std::string& groundName,
+                       const Color& ground) {
+    const double first = LightOf(text) + 0.05;
+    const double second = LightOf(ground) + 0.05;
+    const double ratio = first > second ? first / second : second / first;
+    const char* grade = ratio < 3 ? "-" : ratio < 4.5 ? "AA 18 pt" : ratio < 7 ? "AA" : "AAA";
+    std::array<char, 16> figure{};
+    std::snprintf(figure.data(), figure.size(), "%.2f", std::floor(ratio * 100) / 100);
+    return LabelOf(textName, text) + " on " + LabelOf(groundName, ground) + ": " + figure.data() + ":1, " +
+           grade;
 }

@@ -46,6 +46,12 @@ Color FailsafeColor(int index);
 /// The swatch that the key Right leads to in a palette window, 0 to 2; the same at the end of a row.
 int SwatchRightOf(int window, int index);
 
+/// What is said of text in one mark's colour on another's.
+std::string ContrastOf(const std::string& textName, const Color& text, const std::string& groundName,
+                       const Color& ground);
+/// What a mark is called there: its name, or the colour where it has none.
+std::string LabelOf(const std::string& name, const Color& color);
+
 /// The colour of step 0 to 255 of the bar.
 Color BarColor(const Color& color, int step);
 

@@ -7,9 +7,9 @@
 
 #include "randomuser/model/PaletteText.h"
 
-/// The windows that can be in front: three palette windows, the main window, another program's, or none of
-/// them.
-enum class Front { websafe, failsafe, javaScript, main, other, none };
+/// The windows that can be in front: three palette windows, that of the contrast, the main window, another
+/// program's, or none of them.
+enum class Front { websafe, failsafe, javaScript, contrast, main, other, none };
 
 /// What lies over the main window and must be answered first.
 enum class BoxKind { none, message, file, options, format, about };
@@ -31,7 +31,8 @@ struct Look {
     int exitCode = 0;  ///< of a program that has ended
     Front front = Front::main;
     BoxLook box = {};
-    std::array<bool, 3> pickers = {};
+    std::array<bool, 4> pickers = {};  ///< the fourth is the contrast window
+    std::string contrast = {};         ///< what that window says of the cell with the frame
     std::string title = {};
 
     SixMarks marks = {};

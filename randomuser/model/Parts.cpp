@@ -24,6 +24,27 @@ void Parts::takeSwatchBeside(int picker, int index) {
     takeSwatch(picker, SwatchRightOf(picker, index));
 }
 
+void Parts::pressCell(int cell) {
+    windows.pressCell(cell);
+    editing.select(cell / 6);
+}
+
+void Parts::pressCellBeside() {
+    const int cell = windows.framedCell();
+    pressCell(cell % 6 == 5 ? cell : cell + 1);
+}
+
+std::string Parts::contrast() const {
+    if (!windows.isPickerOpen(static_cast<int>(Front::contrast))) return "";
+    const SixMarks& six = marks.all();
+    const int row = windows.framedCell() / 6;
+    const int column = windows.framedCell() % 6;
+    const std::string label = LabelOf(six.names.at(row), six.colors.at(row));
+    const std::string hex = CodeOf(0, six.colors.at(row), "");
+    if (row == column) return label == hex ? hex : label + ' ' + hex;
+    return ContrastOf(six.names.at(row), six.colors.at(row), six.names.at(column), six.colors.at(column));
+}
+
 void Parts::openPalette() {
     if (!pick.isOn()) fileCommands.begin(FileCommand::open);
 }
@@ -77,6 +98,7 @@ Look Parts::look() const {
     marks.tell(look);
     values.tell(look);
     codeChoice.tell(look);
+    look.contrast = contrast();
     look.preview = preview();
     look.isPickMode = pick.isOn();
     look.isPasteEnabled = editing.hasCopied();

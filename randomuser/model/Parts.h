@@ -18,6 +18,10 @@ struct Parts {
     void takeSwatch(int picker, int index);
     /// The swatch, and the one that the key Right leads to from there.
     void takeSwatchBeside(int picker, int index);
+    /// A cell of the contrast window is pressed: the mark of its row is selected.
+    void pressCell(int cell);
+    /// The frame goes to the cell to the right, and that is pressed.
+    void pressCellBeside();
     void openPalette();
     void openInNotepad();
     /// The preview has been copied, and the letters have followed.
@@ -27,6 +31,7 @@ struct Parts {
     void answer(int button);
     void showReport();
     Look look() const;
+    std::string contrast() const;
     std::string preview() const { return codeChoice.preview(marks.current(), dialogs.inUse().customFormat); }
 
     const Facts& facts;

@@ -63,7 +63,7 @@ constexpr std::array rows = std::to_array<Row>({
      [](Parts& parts, const Action& action) { parts.windows.comeToPicker(action.which); }},
     {Kind::sortOrder, "sortOrder", 15, Where::beside, Value<2>, CanSort,
      [](Parts& parts, const Action& action) { parts.windows.sort(action.value != 0); }},
-    {Kind::closePicker, "closePicker", 45, Where::main, Which<3>, IsPickerOpen,
+    {Kind::closePicker, "closePicker", 45, Where::main, Which<4>, IsPickerOpen,
      [](Parts& parts, const Action& action) { parts.windows.closePicker(action.which); }},
     {Kind::comeBack, "comeBack", 150, Where::main, NoArguments, IsMainBehind, NothingToSee},
     {Kind::otherInFront, "otherInFront", 8, Where::beside, NoArguments, Always,
@@ -120,6 +120,15 @@ constexpr std::array rows = std::to_array<Row>({
     {Kind::closeDialog, "closeDialog", 1000, Where::box, Numbers<2, 2, 1>, CanCloseDialog,
      [](Parts& parts, const Action& action) { parts.dialogs.close(action.value == 1); }},
     {Kind::help, "help", 1, Where::main, Which<3>, IsCommandInReach, NothingToSee},
+    {Kind::openContrast, "openContrast", 20, Where::main, Which<2>, IsMainInFront,
+     [](Parts& parts, const Action& /*action*/) { parts.windows.openContrast(); }},
+    {Kind::pressCell, "pressCell", 200, Where::beside, Numbers<2, 36>, IsContrastOpen,
+     [](Parts& parts, const Action& action) {
+         const bool isLeft = action.which == 0;
+         isLeft ? parts.pressCell(action.value) : parts.windows.comeTo(Front::contrast);
+     }},
+    {Kind::cellKeys, "cellKeys", 100, Where::beside, Which<2>, IsContrastInFront,
+     [](Parts& parts, const Action& /*action*/) { parts.pressCellBeside(); }},
 });
 
 static_assert(HasEveryKind<rows>(), "the rows stand in the order of Kind");

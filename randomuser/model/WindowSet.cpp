@@ -3,6 +3,7 @@
 namespace {
 
 constexpr int javaScript = 2;
+constexpr int contrast = 3;
 
 }  // namespace
 
@@ -38,4 +39,16 @@ void WindowSet::openPicker(int picker, bool isByHue) {
 void WindowSet::sort(bool isByHue) {
     isSortedByHue = isByHue;
     comeToPicker(javaScript);
+}
+
+/// A new window begins beside the first mark's own cell.
+void WindowSet::openContrast() {
+    if (!pickers.at(contrast)) framed = 1;
+    pickers.at(contrast) = true;
+    comeToPicker(contrast);
+}
+
+void WindowSet::pressCell(int cell) {
+    framed = cell;
+    comeToPicker(contrast);
 }

@@ -8,7 +8,7 @@
 #include "randomuser/model/Facts.h"
 #include "randomuser/model/Look.h"
 
-/// The main window and the three palette windows.
+/// The main window, the three palette windows and that of the contrast, which counts as the fourth.
 class WindowSet {
 public:
     WindowSet(const Facts& facts, ClipboardFact& clipboard) : facts(facts), clipboard(clipboard) {}
@@ -30,6 +30,11 @@ public:
     void openPicker(int picker, bool isByHue);
     void closePicker(int picker) { pickers.at(picker) = false; }
     void sort(bool isByHue);
+    void openContrast();
+    /// A cell was pressed, 0 to 35.
+    void pressCell(int cell);
+    /// The cell of the contrast window that has the frame.
+    int framedCell() const { return framed; }
 
 private:
     const Facts& facts;
@@ -37,6 +42,7 @@ private:
     bool isMainOpen = false;
     int exitCode = 0;
     Front front = Front::main;
-    std::array<bool, 3> pickers = {};
+    std::array<bool, 4> pickers = {};
     bool isSortedByHue = false;
+    int framed = 0;
 };
