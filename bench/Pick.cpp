@@ -31,7 +31,7 @@ void MoveThroughPlatform(const Drag& /*drag*/) {
     static ScreenPixels pixels;
     POINT place{};
     ::GetCursorPos(&place);
-    static_cast<void>(pixels.at(place));
+    static_cast<void>(pixels.around(place));
 }
 
 std::vector<double> Measure(void (*move)(const Drag&), const Drag& drag, int movements) {

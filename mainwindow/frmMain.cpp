@@ -18,7 +18,7 @@ frmMain::frmMain(AppState& state)
       colorBar(*this, channels),
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
-      screenPick(*this, commands, channels, marks),
+      screenPick(*this, commands, channels, marks, autocopy),
       alwaysOnTop(*this, commands),
       pickers(*this, state.settings, commands, channels, marks),
       helpCommands(*this, commands, help),
@@ -44,6 +44,7 @@ void frmMain::Form_Load() {
         const RedrawFrozen frozen(handle());
         commands.Prepare();
         alwaysOnTop.Prepare();
+        screenPick.Prepare();
         channels.Prepare();
         marks.Prepare();
         palettes.ShowNewPalette();
@@ -63,7 +64,10 @@ void frmMain::CheckColorDepth() {
 
 void frmMain::Form_Activate() { autocopy.RestoreNotation(); }
 
-void frmMain::Form_Deactivate() { autocopy.KeepNotation(); }
+void frmMain::Form_Deactivate() {
+    screenPick.LeaveFront();
+    autocopy.KeepNotation();
+}
 
 void frmMain::Form_QueryUnload(bool& isCancelled) {
     if (!IsErrorExitInProgress()) isCancelled = !palettes.MayClose();

@@ -20,6 +20,7 @@ add_executable(program_tests
     program/RegistryStringHandlerTest.cpp
     program/SaveDialogTest.cpp
     program/SavingWaysTest.cpp
+    program/LoupeTest.cpp
     program/ScreenPickTest.cpp
     program/SystemColorsTest.cpp
     program/TextFitTest.cpp
@@ -112,8 +113,10 @@ add_executable(ui_tests
     ui/mainwindow/panels/CustomNotationTest.cpp
     ui/mainwindow/panels/FindJavaScriptNamesTest.cpp
     ui/mainwindow/panels/JavaScriptNamesTest.cpp
+    ui/mainwindow/panels/LoupeTest.cpp
     ui/mainwindow/panels/MarksTest.cpp
     ui/mainwindow/panels/PickFocusTest.cpp
+    ui/mainwindow/panels/PickKeysTest.cpp
     ui/mainwindow/panels/ScreenPickTest.cpp
     ui/mainwindow/panels/SlidersTest.cpp
     ui/mainwindow/panels/TypedValuesTest.cpp
@@ -221,7 +224,7 @@ foreach(page IN ITEMS 1251:ru_RU.UTF-8 932:ja_JP.UTF-8)
         ENVIRONMENT HUEVOX_CODE_PAGE=${CMAKE_MATCH_1})
 endforeach()
 # At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
-string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
+string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* LoupeWindow.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
     PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.* ContrastOfMarks.Shows* ContrastOfMarks.KeysMove*)
 foreach(dpi IN ITEMS 120 144 192)

@@ -67,6 +67,11 @@ void Autocopy::ShowNotation(const Color& color) {
     if (code) lblClipboard.setText(*code);
 }
 
+std::string Autocopy::CodeOf(const Color& color) const {
+    const int notation = state.jsNamesOnly ? state.savedFormatIndex : lstAutocopy.index();
+    return ColorCode(notation, color, state.settings.customFormat).value_or("");
+}
+
 void Autocopy::RestoreNotation() {
     if (!state.jsNamesOnly) lstAutocopy.setIndex(state.savedFormatIndex);
     ShowColorCode(channels.SliderColor());

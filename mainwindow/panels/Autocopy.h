@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "core/Color.h"
 #include "mainwindow/panels/ChannelEditors.h"
@@ -29,6 +30,9 @@ public:
 
     /// Writes the preview; the clipboard follows on the third tick from here.
     void ShowColorCode(const Color& color);
+
+    /// The colour in the chosen notation; while names are copied, in the one that was chosen before.
+    std::string CodeOf(const Color& color) const;
 
     /// The notation is kept when the window is deactivated, and restored when it is activated.
     void RestoreNotation();

@@ -43,6 +43,7 @@ public:
     void WhitenNames();
     /// Only the selected mark's sample can start a screen pick.
     void EnableSelectedSample();
+    PictureBox& SelectedSample() { return picSample(marks.selectedMark); }
     /// For whoever handles the mouse on the samples.
     ControlArray<PictureBox, markCount>& Samples() { return picSample; }
     void LetSamplesBePressed(bool isLet) { picSampleContainer.setEnabled(isLet); }

@@ -197,6 +197,14 @@ void MoveMouse(POINT screen) {
 void PressButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTDOWN); }
 void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
 
+void TurnWheel(int notches) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    input.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    ::SendInput(1, &input, sizeof input);
+}
+
 void PressRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTDOWN); }
 void ReleaseRightButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_RIGHTUP); }
 

@@ -24,6 +24,9 @@ RECT AreaOf(HWND window, int border = 0);
 void MoveMouse(POINT screen);
 void PressButton(POINT screen);
 void ReleaseButton(POINT screen);
+/// So many notches up, or down, with the pointer where it is.
+void TurnWheel(int notches);
+
 void PressRightButton(POINT screen);
 void ReleaseRightButton(POINT screen);
 void Click(POINT screen);

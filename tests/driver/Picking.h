@@ -17,6 +17,9 @@ inline void Hold(const Huevox& huevox, POINT place) {
     ASSERT_BECOMES(IsShown(huevox, IDC_picPick), true);
 }
 
+/// The window that shows the pixels around the pointer, or nullptr.
+inline HWND LoupeOf(const Huevox& huevox) { return huevox.form("frmLoupe"); }
+
 inline Color Preview(const Huevox& huevox) { return Pixel(CenterOf(huevox.control(IDC_picPick))); }
 
 /// The preview shows what is there.

@@ -132,6 +132,10 @@ void Form::setMenuItemEnabled(int command, bool isEnabled) {
     ::EnableMenuItem(::GetMenu(window), command, MF_BYCOMMAND | (isEnabled ? MF_ENABLED : MF_GRAYED));
 }
 
+void Form::setToolTipsShown(bool isShown) const {
+    if (toolTips) toolTips->setShown(isShown);
+}
+
 void Form::tipChanged(const FormPart& part) {
     if (toolTips) part.showTips(*toolTips);
 }

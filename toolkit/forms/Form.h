@@ -59,6 +59,8 @@ public:
     void setDropsWanted(bool areWanted) { drops.setWanted(areWanted); }
     /// Keeps this form above the windows of other programs, and the program's other forms above this one.
     void setOnTop(bool isOnTop) { topOrder.keep(window, isOnTop); }
+    /// Keeps tool tips away, for instance while the mouse is captured.
+    void setToolTipsShown(bool isShown) const;
     /// A system colour, COLOR_WINDOW for instance, instead of that of dialogs.
     void setBackground(int systemColor) { background = systemColor; }
 

@@ -61,11 +61,15 @@ private:
 };
 
 bool Form::preTranslate(MSG& message) {
-    if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    if (!isKey && message.message != WM_MOUSEWHEEL) return false;
     const HWND root = ::GetAncestor(message.hwnd, GA_ROOT);
     const auto found = std::ranges::find(loadedForms, root, &Form::window);
     if (found == loadedForms.end()) return false;
     const Form& form = **found;
+    bool isTaken = false;
+    form.InputPreview.raise(message, isTaken);
+    if (isTaken || !isKey) return isTaken;
     if (form.accelerators && ::TranslateAcceleratorW(form.window, form.accelerators, &message)) return true;
     return ::IsDialogMessageW(form.window, &message) != FALSE;
 }

@@ -1,13 +1,9 @@
 #include "toolkit/platform/WindowPlace.h"
 
-namespace {
-
 Area AreaOf(const RECT& area) {
     return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
             static_cast<int>(area.bottom)};
 }
-
-}  // namespace
 
 Area PlaceOf(HWND window) {
     RECT place{};

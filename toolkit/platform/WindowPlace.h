@@ -4,6 +4,9 @@
 #include "toolkit/platform/Platform.h"
 #include "toolkit/platform/Twips.h"
 
+/// Windows' rectangle as the program's.
+Area AreaOf(const RECT& area);
+
 /// The whole window with its frame, in pixels.
 Area PlaceOf(HWND window);
 

@@ -1,0 +1,50 @@
+// Who shows the pixels around the pointer, enlarged?
+#pragma once
+
+#include <string>
+
+#include "mainwindow/panels/LoupePicture.h"
+#include "toolkit/forms/Event.h"
+#include "toolkit/platform/Handles.h"
+#include "toolkit/platform/Twips.h"
+
+class Form;
+
+/// The window frmLoupe. It takes no input and no focus, stands beside the pointer and never under it, and
+/// goes with its form.
+class Loupe {
+public:
+    explicit Loupe(Form& form) : form(form) {}
+    Loupe(const Loupe&) = delete;
+    Loupe& operator=(const Loupe&) = delete;
+
+    /// The pixels that the loupe had covered before stepAside have been painted by whomever they belong to.
+    Event<> Uncovered;
+
+    /// Shows the content beside the pointer, at once.
+    void show(POINT pointer, const LoupeContent& content);
+    void hide() { window = {}; }
+    bool isShown() const { return static_cast<bool>(window); }
+    /// The wheel has been turned by so much: the picture grows or shrinks, also that of later picks.
+    void magnify(int wheel);
+    /// Before the pixels around the pointer are read: the loupe must not be one of them.
+    void stepAside(POINT pointer);
+
+private:
+    static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void create();
+    void place();
+    LoupeLayout layout() const;
+
+    Form& form;
+    Owned<HWND, &::DestroyWindow> window;
+    bool isExcluded = false;  ///< from pictures of the screen
+    POINT pointer{};
+    LoupeContent content;
+    int dpi = USER_DEFAULT_SCREEN_DPI;
+    int textWidth = 0;  ///< grows only, so that the loupe keeps its size while the colour changes
+    int zoom = 1;
+    int wheelRest = 0;
+};

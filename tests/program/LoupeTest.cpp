@@ -1,0 +1,98 @@
+// What does the loupe cost, and what does it show of a screen that cannot be read?
+#include <vector>
+
+#include "tests/driver/Input.h"
+#include "tests/driver/Pixel.h"
+#include "tests/program/MainWindowFixture.h"
+#include "tests/program/ReplacedFunction.h"
+
+namespace {
+
+/// How many graphics objects the process can still get.
+int FreeObjects() {
+    std::vector<HBRUSH> brushes;
+    while (const HBRUSH brush = ::CreateSolidBrush(0)) brushes.push_back(brush);
+    for (const HBRUSH brush : brushes) ::DeleteObject(brush);
+    return static_cast<int>(brushes.size());
+}
+
+class LoupeOfAPick : public ShownMainWindow {
+protected:
+    void SetUp() override {
+        ShownMainWindow::SetUp();
+        click(IDC_chkColorPick);
+        MoveMouse({1, 1});
+        ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    }
+    void TearDown() override {
+        ::SendMessageA(sample(0), WM_CANCELMODE, 0, 0);
+        ShownMainWindow::TearDown();
+    }
+
+    static HWND loupe() { return ::FindWindowA("frmLoupe", nullptr); }
+    void drag(POINT place) const {
+        ::SetCursorPos(place.x, place.y);
+        ::SendMessageA(sample(0), WM_MOUSEMOVE, MK_LBUTTON, 0);
+    }
+};
+
+}  // namespace
+
+TEST_F(LoupeOfAPick, LeavesTheHandlesFlatOver10000Movements) {
+    const RECT area = AreaOf(window.handle());
+    const auto move = [&](int movement) {
+        drag({area.left + movement * 7 % 700, area.top + movement * 3 % 400});
+    };
+    // Each of these costs a context of the screen.
+    for (int movement = 0; movement < 1'100; ++movement) move(movement);
+    const int before = FreeObjects();
+    for (int movement = 0; movement < 10'000; ++movement) move(movement);
+    EXPECT_EQ(FreeObjects(), before);
+}
+
+TEST_F(LoupeOfAPick, ReadsTheScreenOnceAMovement) {
+    int readings = 0;
+    const ReplacedFunction copy(&::BitBlt, [&](auto original, auto... arguments) {
+        ++readings;
+        return original(arguments...);
+    });
+    const ReplacedFunction single(&::GetPixel, [&](auto original, auto... arguments) {
+        ++readings;
+        return original(arguments...);
+    });
+    drag(CenterOf(sample(1)));
+    EXPECT_EQ(readings, 1);
+    drag(CenterOf(sample(2)));
+    EXPECT_EQ(readings, 2);
+}
+
+TEST_F(LoupeOfAPick, ShowsAScreenThatCannotBeReadAsPureRed) {
+    const ReplacedFunction refused(
+        &::BitBlt, [](auto /*original*/, auto... /*arguments*/) { return Refused(ERROR_ACCESS_DENIED); });
+    drag(CenterOf(sample(2)));
+    ASSERT_TRUE(loupe());
+    const RECT area = AreaOf(loupe());
+    const POINT upper = {(area.left + area.right) / 2, area.top + window.scaled(6)};
+    EXPECT_EQ(PaintedPixel(loupe(), upper), ColorOf(255, 0, 0));
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(state.marks.markColor[0], ColorOf(255, 0, 0));
+    EXPECT_FALSE(loupe());
+}
+
+TEST_F(LoupeOfAPick, ReadsAgainWhenTheMonitorsHaveChanged) {
+    drag(CenterOf(sample(1)));
+    const POINT place = CenterOf(sample(4));
+    // The pointer is elsewhere when its monitor has gone.
+    ::SetCursorPos(place.x, place.y);
+    ::SendMessageA(window.handle(), WM_DISPLAYCHANGE, 32, MAKELPARAM(1280, 1024));
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(state.marks.markColor[0], ColorOf(0, 0, 255));
+}
+
+TEST_F(LoupeOfAPick, GoesWithTheMainWindow) {
+    drag(CenterOf(sample(1)));
+    ASSERT_TRUE(loupe());
+    state.settings.promptToSave = 0;
+    window.unload();
+    EXPECT_FALSE(loupe());
+}
