@@ -10,14 +10,45 @@ POINT PickHands::placeOf(const Action& pick) const {
 }
 
 void PickHands::drag(const Action& pick, const Look& before) {
-    const HWND preview = eyes.control(IDC_picPick);
     const POINT place = placeOf(pick);
+    begin(before);
+    awaitColor(place, PickTarget(before.marks, before.selected, pick));
+    ReleaseButton(place);
+    awaitEnd();
+}
+
+void PickHands::pickByKeys(const Action& pick, const Look& before) {
+    Press(VK_F6);
+    ++movements;  // it reads as a movement does
+    awaitPreview();
+    awaitColor(placeOf(pick), PickTarget(before.marks, before.selected, pick));
+    Press(VK_RETURN);
+    awaitEnd();
+}
+
+void PickHands::dragInVain(const Action& pick, const Look& before) {
+    const POINT place = placeOf(pick);
+    begin(before);
+    awaitColor(place, PickTarget(before.marks, before.selected, pick));
+    Press(VK_ESCAPE);
+    awaitEnd();
+    ReleaseButton(place);
+}
+
+void PickHands::begin(const Look& before) {
     const POINT sample = CenterOf(eyes.control(IDC_picSample + before.selected));
     reach.uncover(eyes.main(), sample);
     PressButton(sample);
+    awaitPreview();
+}
+
+void PickHands::awaitPreview() {
+    const HWND preview = eyes.control(IDC_picPick);
     reach.await("a preview of the pick", [&] { return ::IsWindowVisible(preview) != FALSE; });
-    awaitColor(place, PickTarget(before.marks, before.selected, pick));
-    ReleaseButton(place);
+}
+
+void PickHands::awaitEnd() {
+    const HWND preview = eyes.control(IDC_picPick);
     reach.await("the end of a pick", [&] { return ::IsWindowVisible(preview) == FALSE; });
 }
 

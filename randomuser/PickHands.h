@@ -13,9 +13,14 @@ public:
 
     void drag(const Action& pick, const Look& before);
     void clickRight(int selected);
+    void pickByKeys(const Action& pick, const Look& before);
+    void dragInVain(const Action& pick, const Look& before);
 
 private:
     POINT placeOf(const Action& pick) const;
+    void begin(const Look& before);
+    void awaitPreview();
+    void awaitEnd();
     void awaitColor(POINT place, const Color& color);
 
     Eyes& eyes;

@@ -135,6 +135,8 @@ constexpr std::array ways = std::to_array<Way>({
          Press(VK_RIGHT);
          Press(now.action.which == 0 ? VK_SPACE : VK_RETURN);
      }},
+    {Kind::pickByKeys, [](const Moment& now) { now.hands.picks.pickByKeys(now.action, now.before); }},
+    {Kind::pickInVain, [](const Moment& now) { now.hands.picks.dragInVain(now.action, now.before); }},
 });
 static_assert(HasEveryKind<ways>(), "the ways stand in the order of Kind");
 

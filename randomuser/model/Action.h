@@ -68,6 +68,8 @@ enum class Kind {
     openContrast,  ///< which: 0 by key, 1 by the menu
     pressCell,     ///< which: 0 by the left button, 1 by the right one; value: 0 to 35
     cellKeys,      ///< to the right, and the press of a key: which: 0 Space, 1 Enter
+    pickByKeys,    ///< as pickDrag, without the mouse's button: F6 and Enter
+    pickInVain,    ///< as pickDrag, but Escape ends it
     count,         ///< stays the last: so many kinds there are
 };
 

@@ -129,6 +129,9 @@ constexpr std::array rows = std::to_array<Row>({
      }},
     {Kind::cellKeys, "cellKeys", 100, Where::beside, Which<2>, IsContrastInFront,
      [](Parts& parts, const Action& /*action*/) { parts.pressCellBeside(); }},
+    {Kind::pickByKeys, "pickByKeys", 30, Where::main, Numbers<7, 256>, CanPick,
+     [](Parts& parts, const Action& action) { parts.pick.drag(action); }},
+    {Kind::pickInVain, "pickInVain", 15, Where::main, Numbers<7, 256>, CanPick, NothingToSee},
 });
 
 static_assert(HasEveryKind<rows>(), "the rows stand in the order of Kind");

@@ -58,7 +58,7 @@ class Words(unittest.TestCase):
             for caption in [text for tag, name, text in row if name == "ui"][:1]:
                 described[caption.removesuffix("...")] = row
         commands = list(menu_items())
-        self.assertEqual(len(commands), 16)
+        self.assertEqual(len(commands), 17)
         for caption, shortcut in commands:
             row = described[caption]
             keys = [text for tag, _, text in row if tag == "kbd"]
