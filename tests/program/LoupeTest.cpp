@@ -71,9 +71,11 @@ TEST_F(LoupeOfAPick, ShowsAScreenThatCannotBeReadAsPureRed) {
         &::BitBlt, [](auto /*original*/, auto... /*arguments*/) { return Refused(ERROR_ACCESS_DENIED); });
     drag(CenterOf(sample(2)));
     ASSERT_TRUE(loupe());
-    const RECT area = AreaOf(loupe());
-    const POINT upper = {(area.left + area.right) / 2, area.top + window.scaled(6)};
-    EXPECT_EQ(PaintedPixel(loupe(), upper), ColorOf(255, 0, 0));
+    // Not the screen, whose pixels come by the very function.
+    const HDC context = ::GetDC(loupe());
+    const int middle = AreaOf(loupe()).right - AreaOf(loupe()).left;
+    EXPECT_EQ(::GetPixel(context, middle / 2, window.scaled(6)), RGB(255, 0, 0));
+    ::ReleaseDC(loupe(), context);
     ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
     EXPECT_EQ(state.marks.markColor[0], ColorOf(255, 0, 0));
     EXPECT_FALSE(loupe());

@@ -51,6 +51,42 @@ TEST_F(LeftMonitor, APickBeginsThereToo) {
     EXPECT_BECOMES(huevox.sample(0), ColorOf(0, 255, 255));
 }
 
+TEST_F(LeftMonitor, TheLoupeStaysOnTheMonitorOfThePointer) {
+    const Huevox huevox;
+    TurnPickModeOn(huevox);
+    Hold(huevox, Sample(huevox, 0));
+    const LONG left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
+    const LONG top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
+    // Where both meet, on either side, and in the far corner.
+    for (const POINT& place : {POINT{-1, 300}, POINT{0, 300}, POINT{left, top}, POINT{-300, top + 400}}) {
+        MoveMouse(place);
+        EXPECT_TRUE(Eventually([&] {
+            const HWND loupe = LoupeOf(huevox);
+            const HMONITOR monitor = ::MonitorFromPoint(place, MONITOR_DEFAULTTONULL);
+            const RECT area = AreaOf(loupe);
+            const POINT last = {area.right - 1, area.bottom - 1};
+            return loupe && !::PtInRect(&area, place) &&
+                   ::MonitorFromPoint({area.left, area.top}, MONITOR_DEFAULTTONULL) == monitor &&
+                   ::MonitorFromPoint(last, MONITOR_DEFAULTTONULL) == monitor;
+        })) << place.x
+            << ", " << place.y;
+    }
+    ReleaseButton(Sample(huevox, 3));
+}
+
+TEST_F(LeftMonitor, AnArrowGoesFromOneToTheOther) {
+    const Huevox huevox;
+    const ColoredWindow window({-40, 300}, RGB(0x12, 0x34, 0x56));
+    TurnPickModeOn(huevox);
+    MoveMouse({0, 310});
+    Press(VK_F6);
+    ASSERT_BECOMES(LoupeOf(huevox) != nullptr, true);
+    Press(VK_LEFT);
+    EXPECT_BECOMES(Preview(huevox), ColorOf(0x12, 0x34, 0x56));
+    Press(VK_RETURN);
+    EXPECT_BECOMES(huevox.sample(0), ColorOf(0x12, 0x34, 0x56));
+}
+
 TEST_F(LeftMonitor, APaletteWindowOpensOnTheMonitorOfTheProgram) {
     const Huevox huevox;
     MoveOver(huevox);
