@@ -65,6 +65,19 @@ TEST_F(SoakModel, RefusesABadValueAndLeavesItInItsBox) {
     EXPECT_FALSE(model.look().isSetEnabled);
 }
 
+TEST_F(SoakModel, APickByKeysIsLikeADragAndOneInVainChangesNothing) {
+    EXPECT_FALSE(model.isPossible({Kind::pickByKeys, 4}));
+    EXPECT_FALSE(model.isPossible({Kind::pickInVain, 4}));
+    play({Kind::pickMode});
+    play({Kind::pickByKeys, 4});
+    EXPECT_EQ(model.look().marks.colors[0], ColorOf(0, 0, 255));
+    play({Kind::selectMark, 1});
+    play({Kind::pickInVain, 2});
+    EXPECT_EQ(model.look().marks.colors[1], ColorOf(255, 255, 0));
+    play({Kind::pickRight});
+    EXPECT_EQ(model.look().marks.colors[1], ColorOf(0, 0, 255));
+}
+
 TEST_F(SoakModel, KnowsWhenTheClipboardIsAsItWasLeft) {
     EXPECT_FALSE(model.isPossible({Kind::otherCopies, 0, 0, "theirs"}));
     play({Kind::settle});
