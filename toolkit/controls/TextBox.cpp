@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr wchar_t controlZ = L'Z' - L'@';
+
 bool IsHalf(wchar_t unit) { return IS_HIGH_SURROGATE(unit) || IS_LOW_SURROGATE(unit); }
 
 }  // namespace
@@ -91,6 +93,11 @@ void TextBox::onCommand(int /*id*/, int code) {
     Change.raise();
 }
 
+/// Ctrl+Z, as long as there is typing of its own to take back.
+bool TextBox::keepsKey(WPARAM key) const {
+    return key == L'Z' && ::GetKeyState(VK_CONTROL) < 0 && send(EM_CANUNDO) != FALSE;
+}
+
 HBRUSH TextBox::onColor(HDC context) {
     // The program's own back colours are light, so text on them must not follow a theme with light text.
     ::SetTextColor(context, back ? RGB(0, 0, 0) : ::GetSysColor(COLOR_WINDOWTEXT));
@@ -148,6 +155,10 @@ void TextBox::onFocus(HWND from) {
 
 LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {
     if (unit == L'\r' && EnterKey.isBound()) return 0;
+    if (unit == controlZ && Undone.isBound()) {
+        takeBack();
+        return 0;
+    }
     const wchar_t before = std::exchange(firstHalf, L'\0');
     if (IS_HIGH_SURROGATE(unit)) {
         firstHalf = unit;
@@ -160,6 +171,11 @@ LRESULT TextBox::onCharacter(wchar_t unit, LPARAM lParam) {
     wchar_t typed = unit;
     KeyPress.raise(typed);
     return Control::onMessage(WM_CHAR, WithinAnsi({&typed, 1}).front(), lParam);
+}
+
+void TextBox::takeBack() {
+    if (!send(EM_UNDO)) return;
+    Undone.raise();
 }
 
 /// Windows would paste characters that the code page does not hold, and half of one where the box ends. What

@@ -29,6 +29,7 @@ public:
     Event<> GotFocus;
     Event<> LostFocus;
     Event<> EnterKey;
+    Event<> Undone;  ///< Ctrl+Z has taken typing back
     Event<wchar_t&>
         KeyPress;  ///< a typed character, which the handler may replace; none that takes two units
 
@@ -37,6 +38,9 @@ public:
     void setText(std::string_view text);
     /// Limits typing and pasting, but not setText.
     void setMaxLength(int characters) { send(EM_LIMITTEXT, characters); }
+
+    /// What has been typed cannot be taken back any more.
+    void forgetTyping() { send(EM_EMPTYUNDOBUFFER); }
 
     void selectAll() { send(EM_SETSEL, 0, -1); }
     /// Selects the whole text if the focus has come by the Tab key.
@@ -53,6 +57,7 @@ public:
 private:
     void attached() override;
     void onCommand(int id, int code) override;
+    bool keepsKey(WPARAM key) const override;
     HBRUSH onColor(HDC context) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void afterwards(UINT message, WPARAM wParam, LPARAM lParam);
@@ -60,6 +65,7 @@ private:
     void setMargins() const;
     void onFocus(HWND from);
     LRESULT onCharacter(wchar_t unit, LPARAM lParam);
+    void takeBack();
     /// False when Windows may paste the text as it is.
     bool pasteCharacters();
     /// Puts text in the place of the selection, as far as there is room.

@@ -70,7 +70,10 @@ bool Form::preTranslate(MSG& message) {
     bool isTaken = false;
     form.InputPreview.raise(message, isTaken);
     if (isTaken || !isKey) return isTaken;
-    if (form.accelerators && ::TranslateAcceleratorW(form.window, form.accelerators, &message)) return true;
+    const FormPart* part = form.parts.withWindow(message.hwnd);
+    const bool isKept = message.message == WM_KEYDOWN && part && part->keepsKey(message.wParam);
+    const bool isShortcut = form.accelerators && !isKept;
+    if (isShortcut && ::TranslateAcceleratorW(form.window, form.accelerators, &message)) return true;
     return ::IsDialogMessageW(form.window, &message) != FALSE;
 }
 

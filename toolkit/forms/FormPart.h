@@ -41,6 +41,8 @@ private:
     virtual void showTips(ToolTips& /*toolTips*/) const {}
     virtual void onCommand(int /*id*/, int /*code*/) {}
     virtual void onScroll(int /*code*/, int /*position*/) {}
+    /// Whether it needs a pressed key itself, even if that is a shortcut of the form.
+    virtual bool keepsKey(WPARAM /*key*/) const { return false; }
     virtual HBRUSH onColor(HDC /*context*/) { return nullptr; }
 
     int id;
