@@ -6,6 +6,7 @@
 #include "support/FatalError.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MsgBox.h"
+#include "toolkit/platform/FlagGuard.h"
 #include "toolkit/platform/Redraw.h"
 
 frmMain::frmMain(AppState& state)
@@ -16,6 +17,7 @@ frmMain::frmMain(AppState& state)
       marks(*this, state.marks, edit, channels, *this),
       properties(*this, state, edit, commands, marks),
       colorBar(*this, channels),
+      undo(edit, commands, channels, marks, *this),
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks, autocopy),
@@ -30,6 +32,10 @@ frmMain::frmMain(AppState& state)
     QueryUnload.bind(this, &frmMain::Form_QueryUnload);
     Unload.bind(this, &frmMain::Form_Unload);
     marks.Change.bind(this, &frmMain::marks_Change);
+    marks.NameLeft.bind(&undo, &UndoCommands::EndTyping);
+    autocopy.Rest.bind(&undo, &UndoCommands::EndColoring);
+    palettes.Shown.bind(&undo, &UndoCommands::Begin);
+    palettes.Saved.bind(&undo, &UndoCommands::EndStep);
     commands.bind(IDM_mnuFileExit, this, &frmMain::mnuFileExit_Click);
     commands.bind(IDM_mnuToolsCustomFormat, this, &frmMain::mnuToolsCustomFormat_Click);
     commands.bind(IDM_mnuToolsOptions, this, &frmMain::mnuToolsOptions_Click);
@@ -88,10 +94,14 @@ void frmMain::mnuToolsCustomFormat_Click() {
 void frmMain::mnuToolsOptions_Click() { options.showModal(*this); }
 
 /// For whoever shows the marks once more, or remembers them.
-void frmMain::marks_Change() { pickers.ShowMarks(); }
+void frmMain::marks_Change() {
+    undo.Note();
+    pickers.ShowMarks();
+}
 
 void frmMain::SetSelectedColor(int red, int green, int blue) {
     const Turn turn(turns);
+    const Raised coloring(edit.colorInProgress);
     const Color color = ColorOf(red, green, blue);
     marks.PaintSelected(color);
     channels.ShowValues(color);

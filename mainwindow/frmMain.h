@@ -13,6 +13,7 @@
 #include "mainwindow/panels/CommandBar.h"
 #include "mainwindow/panels/EditState.h"
 #include "mainwindow/panels/ScreenPick.h"
+#include "mainwindow/panels/UndoCommands.h"
 #include "palette/PaletteCommands.h"
 #include "pickers/Pickers.h"
 #include "settings/RegistryStringHandler.h"
@@ -49,6 +50,7 @@ private:
     ColorMarks marks;
     ColorProperties properties;
     ColorBar colorBar;
+    UndoCommands undo;
     Autocopy autocopy;
     PaletteCommands palettes;
     ScreenPick screenPick;

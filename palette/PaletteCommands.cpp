@@ -160,6 +160,7 @@ void PaletteCommands::ShowPalette(const Palette& palette) {
     marks.RefreshProperties();
     marks.WhitenNames();
     marks.EnableSelectedSample();
+    Shown.raise();
 }
 
 bool PaletteCommands::Save(const std::string& path) {
@@ -172,6 +173,7 @@ bool PaletteCommands::Save(const std::string& path) {
         state.marks.savedMarkColor = saved.colors;
     });
     if (isSaved) marks.WhitenNames();
+    if (isSaved) Saved.raise();
     return isSaved;
 }
 

@@ -13,6 +13,7 @@
 #include "palette/FileDialogs.h"
 #include "palette/TextFile.h"
 #include "support/AppState.h"
+#include "toolkit/forms/Event.h"
 #include "toolkit/forms/Form.h"
 
 /// The commands of the File menu. The window's title tells which palette it is, and where Save puts it.
@@ -20,6 +21,9 @@ class PaletteCommands {
 public:
     PaletteCommands(Form& form, AppState& state, EditState& edit, CommandBar& commands,
                     ChannelEditors& channels, ColorMarks& marks, ColorTarget& target);
+
+    Event<> Shown;  ///< another palette is shown, a new one or that of a file
+    Event<> Saved;  ///< the palette has been written as it is shown
 
     /// The default names and colours, unchanged and without a file.
     void ShowNewPalette();

@@ -24,6 +24,7 @@ add_executable(program_tests
     program/ScreenPickTest.cpp
     program/SystemColorsTest.cpp
     program/TextFitTest.cpp
+    program/UndoCommandsTest.cpp
     toolkit/controls/CellStripTest.cpp
     toolkit/controls/EventContractTest.cpp
     toolkit/controls/IconPixelsTest.cpp
@@ -121,6 +122,8 @@ add_executable(ui_tests
     ui/mainwindow/panels/SlidersTest.cpp
     ui/mainwindow/panels/TypedValuesTest.cpp
     ui/mainwindow/panels/UnawarePickTest.cpp
+    ui/mainwindow/panels/UndoInBoxesTest.cpp
+    ui/mainwindow/panels/UndoTest.cpp
     ui/mainwindow/panels/WaitingValuesTest.cpp
     ui/palette/ChangedFileTest.cpp
     ui/palette/ChangedNewPaletteTest.cpp
@@ -132,6 +135,7 @@ add_executable(ui_tests
     ui/palette/PaletteFaultTest.cpp
     ui/palette/PaletteOpenTest.cpp
     ui/palette/PaletteSaveTest.cpp
+    ui/palette/UndoneChangesTest.cpp
     ui/palette/VanishingFilesTest.cpp
     ui/pickers/ContrastTest.cpp
     ui/pickers/JavaScriptPickerTest.cpp

@@ -105,6 +105,7 @@ void Autocopy::chkJSNamesOnly_Click() {
 
 void Autocopy::tmrClip_Tick() {
     if (!clipTicks.count()) return;
+    Rest.raise();
     marks.RefreshProperties();
     Yield();
     CopyPreviewToClipboard();

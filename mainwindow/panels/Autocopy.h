@@ -14,6 +14,7 @@
 #include "toolkit/controls/Buttons.h"
 #include "toolkit/controls/Label.h"
 #include "toolkit/controls/ListBox.h"
+#include "toolkit/forms/Event.h"
 #include "toolkit/forms/Timer.h"
 
 /// The notation list, the preview and the timer that copies it; and the copy and paste of a whole colour,
@@ -22,6 +23,8 @@ class Autocopy {
 public:
     Autocopy(Form& form, AppState& state, EditState& edit, CommandBar& commands, ChannelEditors& channels,
              ColorMarks& marks, ColorTarget& target);
+
+    Event<> Rest;  ///< nothing has changed the preview for three ticks
 
     /// At load: fills the list.
     void FillNotations();

@@ -31,6 +31,7 @@ ChannelEditors::ChannelEditors(Form& form, EditState& edit, ColorTarget& target)
     }
     txtSet.bind(&TextBox::GotFocus, this, &ChannelEditors::txtSet_GotFocus);
     txtSet.bind(&TextBox::EnterKey, this, &ChannelEditors::txtSet_EnterKey);
+    txtSet.bind(&TextBox::Undone, this, &ChannelEditors::txtSet_Undone);
     cmdSetColor.Click.bind(this, &ChannelEditors::cmdSetColor_Click);
     optSetDec.Click.bind(this, &ChannelEditors::optSetMode_Click);
     optSetHex.Click.bind(this, &ChannelEditors::optSetMode_Click);
@@ -88,6 +89,7 @@ void ChannelEditors::ShowValues(const Color& color) {
         }
         Yield();
     }
+    if (areValuesWaiting) ForgetTyping();
     areValuesWaiting = false;
     EnableControls();
 }
@@ -108,6 +110,9 @@ void ChannelEditors::txtSet_EnterKey(int channel) {
 
 void ChannelEditors::txtSet_KeyPress(wchar_t& character) { ::CharUpperBuffW(&character, 1); }
 
+/// A box would take its own undoing back the next time; here an earlier step is wanted then.
+void ChannelEditors::txtSet_Undone(int channel) { txtSet(channel).forgetTyping(); }
+
 void ChannelEditors::cmdSetColor_Click() {
     if (optSetDec.value()) {
         ApplyDecimalValues();
@@ -126,6 +131,7 @@ void ChannelEditors::ApplyDecimalValues() {
     if (!ParseValues(ParseChannelDecimal, messages::decimalNotAllowed, typed)) return;
     Yield();
     SetSliders(typed);
+    ForgetTyping();
     EndTyping();
 }
 
@@ -133,6 +139,7 @@ void ChannelEditors::ApplyHexValues() {
     Color typed;
     if (!ParseValues(ParseChannelHex, messages::hexNotAllowed, typed)) return;
     SetSliders(typed);
+    ForgetTyping();
     EndTyping();
 }
 
@@ -162,6 +169,11 @@ void ChannelEditors::EndTyping() {
     areValuesWaiting = false;
     isModeLocked = false;
     EnableControls();
+}
+
+/// What has been applied is a step of the whole window; what has been overwritten is gone.
+void ChannelEditors::ForgetTyping() {
+    for (TextBox& box : txtSet) box.forgetTyping();
 }
 
 void ChannelEditors::EnableControls() {

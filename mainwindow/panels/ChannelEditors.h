@@ -41,6 +41,7 @@ private:
     void txtSet_GotFocus(int channel);
     void txtSet_EnterKey(int channel);
     void txtSet_KeyPress(wchar_t& character);
+    void txtSet_Undone(int channel);
     void cmdSetColor_Click();
     void optSetMode_Click();
 
@@ -49,6 +50,7 @@ private:
     bool ParseValues(ParseChannel parse, const char* refusal, Color& color);
     void Refuse(TextBox& failing, const char* refusal);
     void EndTyping();
+    void ForgetTyping();
     void EnableControls();
 
     Form& form;

@@ -34,6 +34,7 @@ ColorMarks::ColorMarks(Form& form, Marks& marks, EditState& edit, ChannelEditors
     txtName.bind(&TextBox::DblClick, this, &ColorMarks::txtName_DblClick);
     txtName.bind(&TextBox::GotFocus, this, &ColorMarks::txtName_GotFocus);
     txtName.bind(&TextBox::LostFocus, this, &ColorMarks::txtName_LostFocus);
+    txtName.bind(&TextBox::Undone, this, &ColorMarks::txtName_Undone);
     for (PictureBox& sample : picSample) picSampleContainer.hold(sample);
     for (TextBox& box : txtName) box.setToolTip(messages::nameTip);
     for (OptionButton& option : optColor) option.setToolTip(messages::markTip);
@@ -45,15 +46,39 @@ void ColorMarks::Prepare() {
 
 void ColorMarks::ApplyPalette(const Palette& palette) {
     for (int mark = markCount - 1; mark >= 0; --mark) {
-        picSample(mark).setBackColor(Pack(palette.colors[mark]));
         txtName(mark).setText(palette.names[mark]);
-        DescribeSample(mark);
+        ShowMark(mark, palette.colors[mark]);
         // The name as the box shows it, so that a palette just opened counts as unchanged.
         marks.savedMarkName[mark] = txtName(mark).text();
-        marks.markColor[mark] = palette.colors[mark];
         marks.savedMarkColor[mark] = palette.colors[mark];
     }
     Change.raise();
+}
+
+MarkState ColorMarks::State() const {
+    MarkState state = {Shown(), {}, marks.selectedMark};
+    for (int mark = 0; mark < markCount; ++mark) {
+        state.isHighlighted[mark] = txtName(mark).backColor() == nameHighlight;
+    }
+    return state;
+}
+
+void ColorMarks::Restore(const MarkState& state) {
+    const Raised filling(edit.nameFillInProgress);  // a placeholder that was there may come back
+    for (int mark = 0; mark < markCount; ++mark) {
+        if (Name(mark) != state.shown.names[mark]) Rename(mark, state.shown.names[mark]);
+        ShowMark(mark, state.shown.colors[mark]);
+        if (state.isHighlighted[mark]) {
+            txtName(mark).setBackColor(nameHighlight);
+        } else {
+            txtName(mark).setBackColor(std::nullopt);
+        }
+    }
+    Select(state.selectedMark);
+}
+
+void ColorMarks::ForgetTyping() {
+    for (TextBox& box : txtName) box.forgetTyping();
 }
 
 void ColorMarks::Select(int mark) {
@@ -103,10 +128,14 @@ void ColorMarks::RefreshProperties() {
 }
 
 void ColorMarks::PaintSelected(const Color& color) {
-    picSample(marks.selectedMark).setBackColor(Pack(color));
-    DescribeSample(marks.selectedMark);
-    marks.markColor[marks.selectedMark] = color;
+    ShowMark(marks.selectedMark, color);
     Change.raise();
+}
+
+void ColorMarks::ShowMark(int mark, const Color& color) {
+    picSample(mark).setBackColor(Pack(color));
+    DescribeSample(mark);
+    marks.markColor[mark] = color;
 }
 
 /// For screen readers: the name and the colour.
@@ -162,4 +191,10 @@ void ColorMarks::txtName_DblClick(int mark) { txtName(mark).selectAll(); }
 
 void ColorMarks::txtName_GotFocus(int mark) { txtName(mark).selectAllIfTabbed(); }
 
-void ColorMarks::txtName_LostFocus(int /*mark*/) { nameBoxLeft = true; }
+void ColorMarks::txtName_LostFocus(int /*mark*/) {
+    nameBoxLeft = true;
+    NameLeft.raise();
+}
+
+/// A box would take its own undoing back the next time; here an earlier step is wanted then.
+void ColorMarks::txtName_Undone(int mark) { txtName(mark).forgetTyping(); }

@@ -7,6 +7,7 @@
 #include "mainwindow/panels/ChannelEditors.h"
 #include "mainwindow/panels/ColorTarget.h"
 #include "mainwindow/panels/EditState.h"
+#include "mainwindow/panels/History.h"
 #include "support/Marks.h"
 #include "toolkit/controls/Buttons.h"
 #include "toolkit/controls/ControlArray.h"
@@ -22,12 +23,19 @@ public:
 
     /// A colour or a name may have changed, its highlight, or which mark is selected: by whomever.
     Event<> Change;
+    Event<> NameLeft;  ///< a name box has lost the focus
 
     /// At load: limits of the name boxes.
     void Prepare();
 
     /// Shows a new or opened palette, which counts as saved. The selection and the other views stay.
     void ApplyPalette(const Palette& palette);
+    /// All that Undo brings back.
+    MarkState State() const;
+    /// Shows the marks as they were. The other views stay.
+    void Restore(const MarkState& state);
+    /// What has been typed into the name boxes can no longer be taken back in them.
+    void ForgetTyping();
     /// Selects a mark without applying its colour.
     void Select(int mark);
     /// Selects a mark as the user does by its button.
@@ -62,7 +70,9 @@ private:
     void txtName_DblClick(int mark);
     void txtName_GotFocus(int mark);
     void txtName_LostFocus(int mark);
+    void txtName_Undone(int mark);
 
+    void ShowMark(int mark, const Color& color);
     void DescribeSample(int mark);
 
     Marks& marks;

@@ -28,6 +28,7 @@ void ColorProperties::mnuHelpColorProperties_Click() {
         return;
     }
     renameAnswer = show(MB_YESNO);
+    const Raised filling(edit.nameFillInProgress);
     if (renameAnswer == IDYES) marks.Rename(mark, report.offeredName);
 }
 

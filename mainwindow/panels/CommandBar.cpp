@@ -43,7 +43,9 @@ void CommandBar::Prepare() {
 }
 
 void CommandBar::SetEnabled(int command, bool isEnabled) {
-    commands[command].isEnabled = isEnabled;
+    bool& wasEnabled = commands[command].isEnabled;
+    if (wasEnabled == isEnabled) return;
+    wasEnabled = isEnabled;
     form.setMenuItemEnabled(command, isEnabled);
     tbrTools.setButtonEnabled(command, isEnabled);
 }

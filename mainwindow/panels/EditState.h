@@ -6,4 +6,5 @@ struct EditState {
     bool userColorChange = false;     ///< colour changes come from the user and count as edits
     bool sliderSync = false;          ///< slider events apply the sliders to the selected mark
     bool nameFillInProgress = false;  ///< a command is writing the name boxes
+    bool colorInProgress = false;     ///< a colour is on its way to the selected mark and its views
 };

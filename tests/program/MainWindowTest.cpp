@@ -50,6 +50,8 @@ const std::vector<Item> items = {
     {IDM_mnuEditCopyColor, "&Copy Colour From Selected Colour Mark\tF2"},
     {IDM_mnuEditPasteColor, "&Paste Colour To Selected Colour Mark\tF3"},
     {IDM_mnuEditFind, "&Find JavaScript Names\tF5"},
+    {IDM_mnuEditUndo, "&Undo\tCtrl+Z"},
+    {IDM_mnuEditRedo, "&Redo\tCtrl+Y"},
     {IDM_mnuToolsCustomFormat, "&Custom Format...\tF8"},
     {IDM_mnuToolsOptions, "&Options...\tF9"},
     {IDM_mnuToolsContrast, "Co&ntrast\tF7"},
