@@ -47,6 +47,14 @@ void ShowHelp(const Moment& now) {
     now.hands.commands.closeHelp();
 }
 
+/// In a box the key would be the box's own.
+template <WORD key, WORD item>
+void RunFromSlider(const Moment& now) {
+    if (now.action.which != 0) return now.hands.commands.chooseFromMenu('E', item);
+    now.hands.reach.focusByKey('R', IDC_hsbRed);
+    Press(key, {VK_CONTROL});
+}
+
 constexpr std::array ways = std::to_array<Way>({
     {Kind::start, DoneBySession},
     {Kind::sliderKeys,
@@ -137,6 +145,8 @@ constexpr std::array ways = std::to_array<Way>({
      }},
     {Kind::pickByKeys, [](const Moment& now) { now.hands.picks.pickByKeys(now.action, now.before); }},
     {Kind::pickInVain, [](const Moment& now) { now.hands.picks.dragInVain(now.action, now.before); }},
+    {Kind::undo, RunFromSlider<'Z', 'U'>},
+    {Kind::redo, RunFromSlider<'Y', 'R'>},
 });
 static_assert(HasEveryKind<ways>(), "the ways stand in the order of Kind");
 

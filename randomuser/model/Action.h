@@ -70,6 +70,8 @@ enum class Kind {
     cellKeys,      ///< to the right, and the press of a key: which: 0 Space, 1 Enter
     pickByKeys,    ///< as pickDrag, without the mouse's button: F6 and Enter
     pickInVain,    ///< as pickDrag, but Escape ends it
+    undo,          ///< which: 0 by key, 1 by the menu
+    redo,          ///< the same
     count,         ///< stays the last: so many kinds there are
 };
 

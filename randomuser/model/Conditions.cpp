@@ -25,6 +25,16 @@ bool CanPaste(const Parts& parts, const Action& action) {
     return IsCommandInReach(parts, action) && (action.which <= byToolBar || parts.editing.hasCopied());
 }
 
+/// By key also in vain.
+bool CanUndo(const Parts& parts, const Action& action) {
+    const bool isInVain = action.which == byKey && parts.steps.areNone();
+    return IsMainInFront(parts, action) && (parts.steps.canUndo() || isInVain);
+}
+
+bool CanRedo(const Parts& parts, const Action& action) {
+    return IsMainInFront(parts, action) && parts.steps.canRedo();
+}
+
 bool CanOpen(const Parts& parts, const Action& action) {
     return IsCommandInReach(parts, action) && (action.which <= byToolBar || !parts.pick.isOn());
 }

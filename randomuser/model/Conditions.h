@@ -10,6 +10,8 @@ bool IsMainBehind(const Parts& parts, const Action& action);
 /// By key and by menu only when the main window is in front.
 bool IsCommandInReach(const Parts& parts, const Action& action);
 bool CanPaste(const Parts& parts, const Action& action);
+bool CanUndo(const Parts& parts, const Action& action);
+bool CanRedo(const Parts& parts, const Action& action);
 bool CanOpen(const Parts& parts, const Action& action);
 bool CanMoveInList(const Parts& parts, const Action& action);
 bool CanPick(const Parts& parts, const Action& action);

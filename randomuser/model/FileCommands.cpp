@@ -85,6 +85,7 @@ void FileCommands::saveTo(const std::string& path) {
     file = {BytesInFile(PaletteText(saved, dialogs.inUse().customFormat)), false, saved};
     paletteName = NamePart(path);
     marks.whiten();
+    steps.end();
     goOn();
 }
 
@@ -103,6 +104,7 @@ void FileCommands::openFile(const std::string& path) {
 
 void FileCommands::showPalette(const SixMarks& palette, const std::string& name) {
     marks.show(palette);
+    steps.begin(marks.state());
     saved = marks.all();
     paletteName = name;
     editing.applyAgain();

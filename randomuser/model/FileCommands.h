@@ -6,6 +6,7 @@
 #include "randomuser/model/Dialogs.h"
 #include "randomuser/model/Editing.h"
 #include "randomuser/model/SessionFiles.h"
+#include "randomuser/model/Steps.h"
 #include "randomuser/model/WindowSet.h"
 
 /// Those that ask first, when there is something to save.
@@ -14,8 +15,9 @@ enum class FileCommand { none, newPalette, open, close };
 /// A command that asks first is remembered until the last box that it needs is answered.
 class FileCommands {
 public:
-    FileCommands(Editing& editing, MarkSet& marks, const Dialogs& dialogs, Box& box, WindowSet& windows)
-        : editing(editing), marks(marks), dialogs(dialogs), box(box), windows(windows) {}
+    FileCommands(Editing& editing, MarkSet& marks, Steps& steps, const Dialogs& dialogs, Box& box,
+                 WindowSet& windows)
+        : editing(editing), marks(marks), steps(steps), dialogs(dialogs), box(box), windows(windows) {}
 
     const Files& files() const { return allFiles; }
     bool isChanged() const;
@@ -39,6 +41,7 @@ private:
 
     Editing& editing;
     MarkSet& marks;
+    Steps& steps;
     const Dialogs& dialogs;
     Box& box;
     WindowSet& windows;

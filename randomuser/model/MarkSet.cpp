@@ -53,6 +53,16 @@ void MarkSet::findNames() {
     whiten();
 }
 
+void MarkSet::restore(const State& state) {
+    for (std::size_t mark = 0; mark < 6; ++mark) {
+        if (six.colors[mark] != state.six.colors[mark])
+            letters[mark].insert(facts.lettersOf(state.six.colors[mark]));
+    }
+    six = state.six;
+    highlighted = state.highlighted;
+    selected = state.selected;
+}
+
 void MarkSet::show(const SixMarks& palette) {
     const SixMarks shown = six;
     six = palette;

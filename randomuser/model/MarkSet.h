@@ -11,6 +11,13 @@
 
 class MarkSet {
 public:
+    /// All that a step of the user's brings back.
+    struct State {
+        SixMarks six = {};
+        std::array<bool, 6> highlighted = {};
+        int selected = 0;
+    };
+
     explicit MarkSet(const Facts& facts) : facts(facts) {}
 
     const SixMarks& all() const { return six; }
@@ -28,6 +35,8 @@ public:
     void typeName(int mark, const std::string& name);
     void eraseCharacter(int mark);
     void findNames();
+    State state() const { return {six, highlighted, selected}; }
+    void restore(const State& state);
     /// Another palette, with its first mark selected.
     void show(const SixMarks& palette);
 

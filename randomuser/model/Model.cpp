@@ -29,6 +29,7 @@ void Model::play(const Action& action) {
     parts->focus = 0;
     if (row.where == Where::main) parts->windows.comeToMain();
     row.play(*parts, action);
+    parts->steps.note(parts->marks.state(), action);
 }
 
 Actions Possible(const Actions& actions, const Facts& facts) {

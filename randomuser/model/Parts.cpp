@@ -56,6 +56,18 @@ void Parts::openInNotepad() {
 void Parts::settle() {
     clipboard.put(preview());
     marks.refreshLetters();
+    steps.end();
+}
+
+void Parts::undo() {
+    if (!steps.canUndo()) return;
+    marks.restore(steps.undo());
+    editing.applyAgain();
+}
+
+void Parts::redo() {
+    marks.restore(steps.redo());
+    editing.applyAgain();
 }
 
 void Parts::showReport() {

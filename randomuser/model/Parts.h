@@ -5,6 +5,7 @@
 #include "randomuser/model/FileCommands.h"
 #include "randomuser/model/Focus.h"
 #include "randomuser/model/Pick.h"
+#include "randomuser/model/Steps.h"
 
 /// The parts of the model: of one start of the program, until the next.
 struct Parts {
@@ -26,6 +27,8 @@ struct Parts {
     void openInNotepad();
     /// The preview has been copied, and the letters have followed.
     void settle();
+    void undo();
+    void redo();
     void tab(int times) { focus = StopAfter(look(), times); }
     /// A message's answer, by the number of its button.
     void answer(int button);
@@ -44,6 +47,7 @@ struct Parts {
     CodeChoice codeChoice{facts, editing};
     Pick pick{editing, marks};
     Dialogs dialogs{box};
-    FileCommands fileCommands{editing, marks, dialogs, box, windows};
+    Steps steps = {};
+    FileCommands fileCommands{editing, marks, steps, dialogs, box, windows};
     int focus = 0;  ///< the control that must have it, 0 for any
 };

@@ -132,6 +132,10 @@ constexpr std::array rows = std::to_array<Row>({
     {Kind::pickByKeys, "pickByKeys", 30, Where::main, Numbers<7, 256>, CanPick,
      [](Parts& parts, const Action& action) { parts.pick.drag(action); }},
     {Kind::pickInVain, "pickInVain", 15, Where::main, Numbers<7, 256>, CanPick, NothingToSee},
+    {Kind::undo, "undo", 300, Where::main, Which<2>, CanUndo,
+     [](Parts& parts, const Action& /*action*/) { parts.undo(); }},
+    {Kind::redo, "redo", 150, Where::main, Which<2>, CanRedo,
+     [](Parts& parts, const Action& /*action*/) { parts.redo(); }},
 });
 
 static_assert(HasEveryKind<rows>(), "the rows stand in the order of Kind");
