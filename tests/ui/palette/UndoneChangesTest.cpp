@@ -1,17 +1,16 @@
 // What do Undo and Redo mean for a palette's file?
 #include "tests/driver/Palettes.h"
+#include "tests/driver/Undoing.h"
 
 namespace {
 
 class UndoneChanges : public PaletteTest {};
 
-void PressUndo() { Press('Z', {VK_CONTROL}); }
-
 /// The window takes input, and nothing has been taken back: one step of the blue slider is all that changes.
 void ExpectNothingToUndo(const Huevox& huevox, const Color& color) {
     huevox.focusSlider(IDC_hsbBlue);
     PressUndo();
-    Press('Y', {VK_CONTROL});
+    PressRedo();
     Press(VK_RIGHT);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(color.red, color.green, color.blue + 1));
 }
@@ -36,7 +35,7 @@ TEST_F(UndoneChanges, PastWhatWasSavedAreOffered) {
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 0, 0));
     PressNew();
     AnswerQuestion(huevox, IDCANCEL);
-    Press('Y', {VK_CONTROL});
+    PressRedo();
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 1, 0));
     Close(huevox);
 }

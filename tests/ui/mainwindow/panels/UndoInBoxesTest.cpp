@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "tests/driver/Picking.h"
-#include "tests/ui/mainwindow/panels/Undoing.h"
+#include "tests/driver/Undoing.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "tests/driver/PickerWindow.h"
 #include "tests/driver/Picking.h"
-#include "tests/ui/mainwindow/panels/Undoing.h"
+#include "tests/driver/Undoing.h"
 
 namespace {
 
