@@ -140,7 +140,7 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzInput input(data, size);
     User user(input);
-    for (std::size_t times = size / 3; times > 0; --times) {
+    while (!input.takeRest().empty()) {
         user.act();
         user.compare();
     }
