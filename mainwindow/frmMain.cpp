@@ -21,8 +21,8 @@ frmMain::frmMain(AppState& state)
       autocopy(*this, state, edit, commands, channels, marks, *this),
       palettes(*this, state, edit, commands, channels, marks, *this),
       screenPick(*this, commands, channels, marks, autocopy),
-      alwaysOnTop(*this, commands),
       pickers(*this, state.settings, commands, channels, marks),
+      alwaysOnTop(*this, commands),
       helpCommands(*this, commands, help),
       customFormat(state, registry, help),
       options(state.settings, registry) {

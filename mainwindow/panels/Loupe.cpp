@@ -30,7 +30,7 @@ Monitor MonitorAt(POINT place) {
     info.cbSize = sizeof info;
     ::GetMonitorInfoW(monitor, &info);
     using DpiForMonitor = HRESULT WINAPI(HMONITOR, int, UINT*, UINT*);
-    static auto* const dpiForMonitor = SystemFunction<DpiForMonitor>("shcore.dll", "GetDpiForMonitor");
+    auto* const dpiForMonitor = SystemFunction<DpiForMonitor>("shcore.dll", "GetDpiForMonitor");
     constexpr int effective = 0;
     UINT across = USER_DEFAULT_SCREEN_DPI;
     UINT down = USER_DEFAULT_SCREEN_DPI;

@@ -1,6 +1,6 @@
 #include "toolkit/controls/Control.h"
 
-#include <unordered_map>
+#include <map>
 
 #include "toolkit/forms/Form.h"
 #include "toolkit/forms/ToolTips.h"
@@ -9,7 +9,7 @@
 namespace {
 
 /// The controls that receive their windows' messages.
-std::unordered_map<HWND, Control*> receivers;
+std::map<HWND, Control*> receivers;
 
 }  // namespace
 

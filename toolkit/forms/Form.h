@@ -55,7 +55,6 @@ public:
     /// The pointer's shape over the form and while it captures the mouse; nullptr for the controls' own.
     void setPointer(HCURSOR shape);
     void setMenuItemEnabled(int command, bool isEnabled);
-    /// Whether the form takes files that are dropped onto it.
     void setDropsWanted(bool areWanted) { drops.setWanted(areWanted); }
     /// Keeps this form above the windows of other programs, and the program's other forms above this one.
     void setOnTop(bool isOnTop) { topOrder.keep(window, isOnTop); }
