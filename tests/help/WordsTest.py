@@ -11,7 +11,7 @@ project = pathlib.Path(sys.argv[1])
 main_script = (project / "mainwindow/frmMain.rc").read_text(encoding="ascii")
 
 # Keys that Windows gives a meaning to, in every program.
-common_keys = {"Tab", "Shift+Tab", "Enter", "Esc", "Space", "Home", "End", "Alt", "Alt+F4", "Ctrl+V", "Win+V"}
+common_keys = {"Tab", "Shift+Tab", "Enter", "Esc", "Space", "Home", "End", "Alt", "Alt+F4", "Alt+Space", "Ctrl+V", "Win+V"}
 
 
 def shown(text):
