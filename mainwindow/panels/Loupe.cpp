@@ -104,8 +104,8 @@ void Loupe::magnify(int wheel) {
 void Loupe::stepAside(POINT at) {
     if (!window || isExcluded || AreApart(BlockAt(at), PlaceOf(window.get()))) return;
     ::ShowWindow(window.get(), SW_HIDE);
+    ::SetTimer(window.get(), uncoveredTimer, untilOthersHavePainted, nullptr);
     Yield();  // the program's own windows below are painted now, those of others soon
-    if (window) ::SetTimer(window.get(), uncoveredTimer, untilOthersHavePainted, nullptr);
 }
 
 LRESULT CALLBACK Loupe::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
