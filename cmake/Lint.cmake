@@ -13,7 +13,7 @@ list(TRANSFORM source_patterns APPEND /*.cpp)
 file(GLOB_RECURSE all_sources CONFIGURE_DEPENDS ${source_patterns})
 
 set(tidy_arguments -std=c++20 -I${PROJECT_SOURCE_DIR} -DHUEVOX_TEST_FILES="files/"
-    -DHUEVOX_COLOR_NAMES="index.js" -DHUEVOX_HELP_TOPICS="topics/" -I${PROJECT_BINARY_DIR}/help)
+    -DHUEVOX_COLOR_NAMES="index.js" -DHUEVOX_CONTRAST="contrast.js" -DHUEVOX_HELP_TOPICS="topics/" -I${PROJECT_BINARY_DIR}/help)
 if(WIN32)
     # clang knows the target, but not where the cross compiler's headers are.
     list(APPEND tidy_arguments --target=${HUEVOX_TARGET}-w64-mingw32 -isystem /usr/src/googletest/googletest/include)
@@ -25,7 +25,7 @@ if(WIN32)
     get_target_property(definitions huevox_flags INTERFACE_COMPILE_DEFINITIONS)
     list(TRANSFORM definitions PREPEND -D)
     list(APPEND tidy_arguments ${definitions} -DHUEVOX_EXE="Huevox.exe" -DHUEVOX_UTF8_EXE="Huevox_utf8.exe"
-            -DHUEVOX_STAND_IN="StandIn.exe"
+        -DHUEVOX_DROPPER="Dropper.exe" -DHUEVOX_STAND_IN="StandIn.exe"
         -DHUEVOX_STAND_IN_VIEWER="hhctrl.ocx"
         -DHUEVOX_VERSION="1.2.3" -DHUEVOX_NEWER_VERSION="1.2.4")
 endif()

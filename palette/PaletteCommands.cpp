@@ -172,8 +172,10 @@ bool PaletteCommands::Save(const std::string& path) {
         state.marks.savedMarkName = saved.names;
         state.marks.savedMarkColor = saved.colors;
     });
-    if (isSaved) marks.WhitenNames();
-    if (isSaved) Saved.raise();
+    if (isSaved) {
+        marks.WhitenNames();
+        Saved.raise();
+    }
     return isSaved;
 }
 

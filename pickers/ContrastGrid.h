@@ -30,7 +30,7 @@ private:
     void paint() const;
     void press(POINT point);
     LRESULT onKey(WPARAM key, LPARAM lParam);
-    void choose() { Choose.raise(framedCell / markCount); }
+    void choose() const { Choose.raise(framedCell / markCount); }
     void focus(bool isHere);
     void moveFrame(int cell);
     /// Tells screen readers what is under the frame.

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int contrast = 3;
+constexpr int contrastWindow = 3;
 constexpr std::array grids = {websafeGrid, failsafeGrid, javaScriptGrid};
 
 Swatch PlaceOf(int picker, int index) {
@@ -64,12 +64,12 @@ void PickerHands::sort(bool isByHue) {
 }
 
 void PickerHands::placeContrast(bool wasOpen) {
-    reach.bringWindow([&] { return eyes.picker(contrast); });
-    if (!wasOpen && reach.isAll()) Reach::moveTo(eyes.picker(contrast), {516, 766});
+    reach.bringWindow([&] { return eyes.picker(contrastWindow); });
+    if (!wasOpen && reach.isAll()) Reach::moveTo(eyes.picker(contrastWindow), {516, 766});
 }
 
 void PickerHands::clickCell(int cell, bool isLeft) {
-    const HWND window = eyes.picker(contrast);
+    const HWND window = eyes.picker(contrastWindow);
     const POINT place = MiddleOfCell(window, cell / 6, cell % 6);
     reach.uncover(window, place);
     isLeft ? Click(place) : RightClick(place);

@@ -22,13 +22,13 @@ public:
     Event<> Uncovered;
 
     /// Shows the content beside the pointer, at once.
-    void show(POINT pointer, const LoupeContent& content);
+    void show(POINT at, const LoupeContent& shown);
     void hide() { window = {}; }
     bool isShown() const { return static_cast<bool>(window); }
     /// The wheel has been turned by so much: the picture grows or shrinks, also that of later picks.
     void magnify(int wheel);
-    /// Before the pixels around the pointer are read: the loupe must not be one of them.
-    void stepAside(POINT pointer);
+    /// Before the pixels around a place are read: the loupe must not be one of them.
+    void stepAside(POINT at);
 
 private:
     static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

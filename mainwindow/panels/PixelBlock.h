@@ -25,7 +25,7 @@ struct PixelBlock {
     static constexpr int side = 2 * reach + 1;
     static constexpr int middleIndex = side * side / 2;
 
-    std::array<BitmapPixel, side* side> pixels = {};
+    std::array<BitmapPixel, std::size_t{side}* side> pixels = {};
 
     Color middle() const { return ColorOf(pixels[middleIndex]); }
 };

@@ -50,7 +50,7 @@ private:
     }
 
     RECT area;
-    std::array<bool, side* side> shown = {};
+    std::array<bool, std::size_t{side}* side> shown = {};
 };
 
 /// Asked first, because it is cheaper and nearly always the answer.

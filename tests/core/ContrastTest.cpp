@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr Color black = ColorOf(0, 0, 0);
-constexpr Color white = ColorOf(255, 255, 255);
+constexpr Color darkest = ColorOf(0, 0, 0);
+constexpr Color lightest = ColorOf(255, 255, 255);
 
 constexpr Color Gray(int level) { return ColorOf(level, level, level); }
 
@@ -81,11 +81,11 @@ void ExpectTheSame(const std::vector<Pair>& pairs) {
 }  // namespace
 
 TEST(Contrast, OfBlackAndWhiteIsTheGreatestAndOfOneColorTheLeast) {
-    EXPECT_EQ(ContrastRatio(black, white), 21);
-    EXPECT_EQ(ContrastRatio(white, black), 21);
+    EXPECT_EQ(ContrastRatio(darkest, lightest), 21);
+    EXPECT_EQ(ContrastRatio(lightest, darkest), 21);
     EXPECT_EQ(ContrastRatio(Gray(119), Gray(119)), 1);
-    EXPECT_EQ(RelativeLuminance(black), 0);
-    EXPECT_EQ(RelativeLuminance(white), 1);
+    EXPECT_EQ(RelativeLuminance(darkest), 0);
+    EXPECT_EQ(RelativeLuminance(lightest), 1);
 }
 
 TEST(Contrast, OfAGrayIsLinearUpToTheTenthLevelAndAPowerFromTheEleventh) {
@@ -100,10 +100,10 @@ TEST(Contrast, WeighsEachChannelAsTheEyeDoes) {
 }
 
 TEST(Contrast, OfTheGraysAroundTheLimitOnWhite) {
-    EXPECT_EQ(RatioText(ContrastRatio(Gray(0x77), white)), "4.47");
-    EXPECT_EQ(ContrastGrade(ContrastRatio(Gray(0x77), white)), "AA 18 pt");
-    EXPECT_EQ(RatioText(ContrastRatio(Gray(0x76), white)), "4.54");
-    EXPECT_EQ(ContrastGrade(ContrastRatio(Gray(0x76), white)), "AA");
+    EXPECT_EQ(RatioText(ContrastRatio(Gray(0x77), lightest)), "4.47");
+    EXPECT_EQ(ContrastGrade(ContrastRatio(Gray(0x77), lightest)), "AA 18 pt");
+    EXPECT_EQ(RatioText(ContrastRatio(Gray(0x76), lightest)), "4.54");
+    EXPECT_EQ(ContrastGrade(ContrastRatio(Gray(0x76), lightest)), "AA");
 }
 
 TEST(Contrast, OfAllPairsOfReferenceColorsIsWhatOthersSay) { ExpectTheSame(PairsOfReferenceColors()); }

@@ -3,6 +3,8 @@
 
 #include <shlobj.h>
 
+#include <array>
+
 #include "toolkit/platform/Platform.h"
 
 inline constexpr const wchar_t* droppedMapping = L"HuevoxDropped";
@@ -11,5 +13,5 @@ inline constexpr const wchar_t* droppedMapping = L"HuevoxDropped";
 struct DroppedFiles {
     UINT64 window;
     DROPFILES header;
-    wchar_t paths[4096];  ///< each ends with a NUL, and so does the list
+    std::array<wchar_t, 4096> paths;  ///< each ends with a NUL, and so does the list
 };

@@ -34,6 +34,7 @@ bool LoadInto(HWND window, const std::wstring& library) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): its name is the compiler's.
 int wmain(int count, wchar_t** arguments) {
     if (count < 3) return 2;
     const Owned<HANDLE, &::CloseHandle> mapping(::CreateFileMappingW(
@@ -46,8 +47,8 @@ int wmain(int count, wchar_t** arguments) {
     dropped->header.fWide = TRUE;
     std::wstring paths;
     for (int path = 2; path < count; ++path) paths += std::wstring(arguments[path]) + L'\0';
-    if (paths.size() >= std::size(dropped->paths)) return 1;
-    paths.copy(dropped->paths, paths.size());
+    if (paths.size() >= dropped->paths.size()) return 1;
+    paths.copy(dropped->paths.data(), paths.size());
     const auto window = reinterpret_cast<HWND>(static_cast<UINT_PTR>(dropped->window));
     return LoadInto(window, BearerPath()) ? 0 : 1;
 }

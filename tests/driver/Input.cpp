@@ -200,7 +200,7 @@ void ReleaseButton(POINT screen) { SendMouse(screen, MOUSEEVENTF_LEFTUP); }
 void TurnWheel(int notches) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    input.mi.mouseData = static_cast<DWORD>(notches) * WHEEL_DELTA;
     input.mi.dwFlags = MOUSEEVENTF_WHEEL;
     ::SendInput(1, &input, sizeof input);
 }

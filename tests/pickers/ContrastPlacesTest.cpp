@@ -11,7 +11,7 @@ namespace {
 
 constexpr int marks = 6;
 
-bool AreApart(const Area& one, const Area& other) {
+bool AreDisjoint(const Area& one, const Area& other) {
     return one.right <= other.left || other.right <= one.left || one.bottom <= other.top ||
            other.bottom <= one.top;
 }
@@ -35,7 +35,7 @@ std::vector<Area> AllParts() {
 
 }  // namespace
 
-TEST(ContrastPlaces, AreApartAndInsideTheWindow) {
+TEST(ContrastPlaces, AreDisjointAndInsideTheWindow) {
     const std::vector<Area> parts = AllParts();
     ASSERT_EQ(parts.size(), 36U + 24U + 1U);
     const Area window = {0, 0, CONTRAST_WIDTH, CONTRAST_HEIGHT};
@@ -43,7 +43,7 @@ TEST(ContrastPlaces, AreApartAndInsideTheWindow) {
         EXPECT_TRUE(Holds(window, parts[i])) << i;
         EXPECT_GT(parts[i].width(), 0);
         EXPECT_GT(parts[i].height(), 0);
-        for (std::size_t j = 0; j < i; ++j) EXPECT_TRUE(AreApart(parts[i], parts[j])) << i << ' ' << j;
+        for (std::size_t j = 0; j < i; ++j) EXPECT_TRUE(AreDisjoint(parts[i], parts[j])) << i << ' ' << j;
     }
 }
 
@@ -51,7 +51,7 @@ TEST(ContrastPlaces, OfARowAndAColumnMeetInTheirCell) {
     const std::vector<Area> cells = ContrastCells();
     for (int row = 0; row < marks; ++row) {
         for (int column = 0; column < marks; ++column) {
-            const Area& cell = cells[static_cast<std::size_t>(row * marks + column)];
+            const Area& cell = cells[static_cast<std::size_t>(row) * marks + column];
             EXPECT_TRUE(Holds(ContrastRow(row), cell));
             EXPECT_TRUE(Holds(ContrastColumn(column), cell));
             EXPECT_EQ(RowHeading(row).sample.top, cell.top);
@@ -75,7 +75,7 @@ TEST(ContrastPlaces, OfTheRatioAndTheGradeShareTheCell) {
     const Area cell = ContrastCells().back();
     EXPECT_TRUE(Holds(cell, RatioPlace(cell)));
     EXPECT_TRUE(Holds(cell, GradePlace(cell)));
-    EXPECT_TRUE(AreApart(RatioPlace(cell), GradePlace(cell)));
+    EXPECT_TRUE(AreDisjoint(RatioPlace(cell), GradePlace(cell)));
 }
 
 TEST(ContrastPlaces, AreAsWideAsTheMainWindow) { EXPECT_EQ(CONTRAST_WIDTH, 758 * twipsPerPixel); }

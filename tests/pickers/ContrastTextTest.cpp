@@ -6,7 +6,7 @@
 namespace {
 
 constexpr Color navy = ColorOf(0, 0, 128);
-constexpr Color white = ColorOf(255, 255, 255);
+constexpr Color paper = ColorOf(255, 255, 255);
 
 std::string LabelOf(const char* name, const Color& color = navy) {
     Palette palette;
@@ -30,11 +30,11 @@ TEST(ContrastLabels, OfMarksWithoutANameAreTheirColors) {
 }
 
 TEST(ContrastTexts, OfAPairNameTheTextFirstThenRatioAndGrade) {
-    EXPECT_EQ(PairText({"navy", navy}, {"white", white}), "navy on white: 16.00:1, AAA");
-    EXPECT_EQ(PairText({"white", white}, {"navy", navy}), "white on navy: 16.00:1, AAA");
-    EXPECT_EQ(PairText({"#777777", ColorOf(0x77, 0x77, 0x77)}, {"white", white}),
+    EXPECT_EQ(PairText({"navy", navy}, {"white", paper}), "navy on white: 16.00:1, AAA");
+    EXPECT_EQ(PairText({"white", paper}, {"navy", navy}), "white on navy: 16.00:1, AAA");
+    EXPECT_EQ(PairText({"#777777", ColorOf(0x77, 0x77, 0x77)}, {"white", paper}),
               "#777777 on white: 4.47:1, AA 18 pt");
-    EXPECT_EQ(PairText({"white", white}, {"white", white}), "white on white: 1.00:1, -");
+    EXPECT_EQ(PairText({"white", paper}, {"white", paper}), "white on white: 1.00:1, -");
 }
 
 TEST(ContrastTexts, OfOneMarkAreItsNameAndColor) {

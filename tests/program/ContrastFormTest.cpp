@@ -31,7 +31,7 @@ protected:
 
     /// A place of a cell where no text and no frame stand.
     static POINT quiet(int row, int column, int dpi = ContrastForm::dpi()) {
-        const Area cell = pixels(ContrastCells()[static_cast<std::size_t>(6 * row + column)], dpi);
+        const Area cell = pixels(ContrastCells()[std::size_t{6} * row + column], dpi);
         return {cell.right - 4, cell.bottom - 4};
     }
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-Actions Steps(int count) {
+Actions ManyActions(int count) {
     Actions actions = {{Kind::start}};
     for (int step = 1; step <= count; ++step) actions.push_back({Kind::barClick, 0, step});
     return actions;
@@ -21,12 +21,12 @@ bool Always() { return true; }
 TEST(Shortened, LeavesOnlyWhatTheFaultNeeds) {
     const auto fails = [](const Actions& actions) { return Contains(actions, 17) && Contains(actions, 60); };
     const Actions expected = {{Kind::start}, {Kind::barClick, 0, 17}, {Kind::barClick, 0, 60}};
-    EXPECT_EQ(Shortened(Steps(100), fails, Always), expected);
+    EXPECT_EQ(Shortened(ManyActions(100), fails, Always), expected);
 }
 
 TEST(Shortened, KeepsTheStartOfTheProgram) {
     const auto fails = [](const Actions&) { return true; };
-    EXPECT_EQ(Shortened(Steps(33), fails, Always), Actions{{Kind::start}});
+    EXPECT_EQ(Shortened(ManyActions(33), fails, Always), Actions{{Kind::start}});
 }
 
 TEST(Shortened, StopsWhenThereIsNoMoreTime) {
@@ -35,13 +35,13 @@ TEST(Shortened, StopsWhenThereIsNoMoreTime) {
         ++tries;
         return false;
     };
-    EXPECT_EQ(Shortened(Steps(100), fails, [&] { return tries < 3; }), Steps(100));
+    EXPECT_EQ(Shortened(ManyActions(100), fails, [&] { return tries < 3; }), ManyActions(100));
     EXPECT_EQ(tries, 3);
 }
 
 TEST(ShortEnds, AreTheFirstOfTwiceTheLengthThatFail) {
     const auto fails = [](const Actions& actions) { return Contains(actions, 88); };
-    const auto end = ShortEnd(Steps(100), fails, Always);
+    const auto end = ShortEnd(ManyActions(100), fails, Always);
     ASSERT_TRUE(end);
     EXPECT_EQ(end->size(), 1U + 16U);
     EXPECT_EQ(end->front(), Action{Kind::start});
@@ -50,10 +50,10 @@ TEST(ShortEnds, AreTheFirstOfTwiceTheLengthThatFail) {
 
 TEST(ShortEnds, AreTheWholeWhenTheFaultBeginsAtTheStart) {
     const auto fails = [](const Actions& actions) { return Contains(actions, 1); };
-    EXPECT_EQ(ShortEnd(Steps(100), fails, Always), Steps(100));
+    EXPECT_EQ(ShortEnd(ManyActions(100), fails, Always), ManyActions(100));
 }
 
 TEST(ShortEnds, AreNothingWhenTheFaultDoesNotComeAgain) {
     const auto fails = [](const Actions&) { return false; };
-    EXPECT_FALSE(ShortEnd(Steps(100), fails, Always));
+    EXPECT_FALSE(ShortEnd(ManyActions(100), fails, Always));
 }

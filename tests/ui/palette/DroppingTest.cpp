@@ -16,7 +16,7 @@ protected:
 
 constexpr const char* couldNotOpen = "Could not open. Check if file is in use or has been removed.";
 
-std::string Refusal(const std::string& path) {
+std::string OpenRefusal(const std::string& path) {
     return "You tried to open the file\r\n\r\n" + path +
            "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox";
 }
@@ -87,10 +87,10 @@ TEST_F(DroppedFile, IsRefusedAsByOpenAndSaveGoesWhereItWent) {
     WriteContent(OtherPathOf("long.txt"), longPalette);
     const Huevox huevox;
     Drop(huevox.window(), {OtherPathOf("long.txt")});
-    CloseMessage(huevox, Refusal(OtherPathOf("long.txt")));
+    CloseMessage(huevox, OpenRefusal(OtherPathOf("long.txt")));
     OpenPalette(huevox, PathOf("mine.txt"));
     Drop(huevox.window(), {OtherPathOf("bad.txt")});
-    CloseMessage(huevox, Refusal(OtherPathOf("bad.txt")));
+    CloseMessage(huevox, OpenRefusal(OtherPathOf("bad.txt")));
     ExpectMine(huevox);
     ChangeColor(huevox);
     PressSave();

@@ -13,7 +13,7 @@ namespace {
 
 class ContrastOfMarks : public UiTest {};
 
-constexpr Color red = ColorOf(255, 0, 0);
+constexpr Color pureRed = ColorOf(255, 0, 0);
 constexpr Color yellow = ColorOf(255, 255, 0);
 constexpr Color lime = ColorOf(0, 255, 0);
 constexpr Color blue = ColorOf(0, 0, 255);
@@ -83,8 +83,8 @@ TEST_F(ContrastOfMarks, EscapeClosesItAndItComesBackToItsPlace) {
 TEST_F(ContrastOfMarks, ShowsEachColorAsTextOnEachOther) {
     const Huevox huevox;
     const ContrastWindow contrast(huevox);
-    ExpectText(contrast, 0, 4, red, blue);
-    ExpectText(contrast, 1, 0, yellow, red);
+    ExpectText(contrast, 0, 4, pureRed, blue);
+    ExpectText(contrast, 1, 0, yellow, pureRed);
     ExpectText(contrast, 1, 4, yellow, blue);
     ExpectText(contrast, 4, 1, blue, yellow);
     ExpectText(contrast, 2, 4, lime, blue);
@@ -133,7 +133,7 @@ TEST_F(ContrastOfMarks, FollowsAPaletteThatIsBegun) {
     Press('N', {VK_CONTROL});
     Answer(huevox.waitForDialog(), IDNO);
     EXPECT_BECOMES(contrast.told(), "#FF0000 on #FFFF00: 3.72:1, AA 18 pt");
-    ExpectText(contrast, 1, 0, yellow, red);
+    ExpectText(contrast, 1, 0, yellow, pureRed);
 }
 
 TEST_F(ContrastOfMarks, TheToolTipOfACellNamesThePairItsRatioAndGrade) {
@@ -181,7 +181,7 @@ TEST_F(ContrastOfMarks, KeysMoveOverTheCellsAndSelect) {
     Press(VK_DOWN);
     Press(VK_DOWN);
     EXPECT_BECOMES(contrast.told(), "#00FF00 on #FFFF00: 1.27:1, -");
-    EXPECT_EQ(huevox.sliders(), red);
+    EXPECT_EQ(huevox.sliders(), pureRed);
     Press(VK_SPACE);
     ExpectSelected(huevox, 2, lime);
     Press(VK_END);
