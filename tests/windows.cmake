@@ -117,6 +117,7 @@ add_executable(ui_tests
     ui/mainwindow/panels/LoupeTest.cpp
     ui/mainwindow/panels/MarksTest.cpp
     ui/mainwindow/panels/PickFocusTest.cpp
+    ui/mainwindow/panels/PickByKeyboardTest.cpp
     ui/mainwindow/panels/PickKeysTest.cpp
     ui/mainwindow/panels/ScreenPickTest.cpp
     ui/mainwindow/panels/SlidersTest.cpp

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "mainwindow/panels/PixelBitmap.h"
 #include "toolkit/platform/Contexts.h"
 #include "toolkit/platform/Fonts.h"
 #include "toolkit/platform/Painting.h"
@@ -37,12 +38,7 @@ PixelBlock OnGround(const PixelBlock& block) {
 
 void PaintPixels(HDC context, const RECT& area, const PixelBlock& block) {
     constexpr int side = PixelBlock::side;
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = side;
-    info.bmiHeader.biHeight = -side;  // the first row is the upper one
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = PixelBitmap();
     ::SetStretchBltMode(context, COLORONCOLOR);
     ::StretchDIBits(context, area.left, area.top, area.right - area.left, area.bottom - area.top, 0, 0, side,
                     side, OnGround(block).pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);

@@ -4,6 +4,7 @@
 #include <array>
 #include <span>
 
+#include "mainwindow/panels/PixelBitmap.h"
 #include "toolkit/platform/Contexts.h"
 
 namespace {
@@ -103,12 +104,7 @@ bool ScreenPixels::copy(POINT place, PixelBlock& block) {
 }
 
 bool ScreenPixels::makeBitmap() {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = side;
-    info.bmiHeader.biHeight = -side;  // the first row is the upper one
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = PixelBitmap();
     void* made = nullptr;
     memory = Owned<HDC, &::DeleteDC>(::CreateCompatibleDC(nullptr));
     bitmap = Owned<HBITMAP, &::DeleteObject>(

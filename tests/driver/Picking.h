@@ -34,3 +34,10 @@ inline void Pick(const Huevox& huevox, int mark, POINT place, const Color& color
     DragTo(huevox, place, color);
     ReleaseButton(place);
 }
+
+/// Waits until the pick is over and everything is back in its place.
+inline void ExpectPickEnd(const Huevox& huevox) {
+    EXPECT_BECOMES(IsShown(huevox, IDC_picPick), false);
+    EXPECT_BECOMES(IsShown(huevox, IDC_hsbRed), true);
+    EXPECT_BECOMES(LoupeOf(huevox) == nullptr, true);
+}
