@@ -95,6 +95,10 @@ Look LookAt(const RECT& screen) {
     return look;
 }
 
+bool BecomesLegible(const RECT& screen, double least) {
+    return Eventually([&] { return LookAt(screen).contrast >= least; });
+}
+
 double Contrast(const Color& one, const Color& other) {
     const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
     return (light + 0.05) / (dark + 0.05);

@@ -12,6 +12,9 @@ struct Look {
 
 Look LookAt(const RECT& screen);
 
+/// Waits until something there stands out so much from the ground: what is written comes after its ground.
+[[nodiscard]] bool BecomesLegible(const RECT& screen, double least);
+
 double Contrast(const Color& one, const Color& other);
 
 // Text needs more than lines and pictures; these are the figures of the Web's guidelines.

@@ -111,7 +111,7 @@ TEST_P(HighContrast, ThePicturesOfTheToolBarsAreSeen) {
     const auto expect = [&](HWND bar, int command) {
         const POINT middle = huevox.toolButton(bar, command);
         const RECT picture = {middle.x - 7, middle.y - 7, middle.x + 8, middle.y + 8};
-        EXPECT_TRUE(Eventually([&] { return LookAt(picture).contrast >= visible; })) << command;
+        EXPECT_TRUE(BecomesLegible(picture, visible)) << command;
     };
     for (const int command :
          {IDM_mnuFileNew, IDM_mnuFileOpen, IDM_mnuFileOpenInNotepad, IDM_mnuFileSave, IDM_mnuEditCopyColor,
@@ -150,7 +150,7 @@ TEST_P(HighContrast, ANameThatMayNotFitIsBlackOnLightYellow) {
     huevox.retype(Name(0), "red");
     SetColor(huevox, ColorOf(1, 2, 3));
     EXPECT_BECOMES(GroundOf(huevox.control(Name(0))), highlight);
-    EXPECT_GE(LookAt(AreaOf(huevox.control(Name(0)), 3)).contrast, legible);
+    EXPECT_TRUE(BecomesLegible(AreaOf(huevox.control(Name(0)), 3), legible));
     Press(VK_F5);
     EXPECT_BECOMES(GroundOf(huevox.control(Name(0))), theme().ground);
 }

@@ -92,10 +92,10 @@ TEST_F(ContrastOfMarks, ShowsEachColorAsTextOnEachOther) {
         EXPECT_BECOMES(LookAt(contrast.cell(mark, mark)).contrast, 1) << mark;
         EXPECT_BECOMES(LookAt(contrast.rowSample(mark)).ground, huevox.sample(mark));
         EXPECT_BECOMES(LookAt(contrast.columnSample(mark)).ground, huevox.sample(mark));
-        EXPECT_GE(LookAt(contrast.rowName(mark)).contrast, legible);
-        EXPECT_GE(LookAt(contrast.columnName(mark)).contrast, legible);
+        EXPECT_TRUE(BecomesLegible(contrast.rowName(mark), legible));
+        EXPECT_TRUE(BecomesLegible(contrast.columnName(mark), legible));
     }
-    EXPECT_GE(LookAt(contrast.status()).contrast, legible);
+    EXPECT_TRUE(BecomesLegible(contrast.status(), legible));
 }
 
 TEST_F(ContrastOfMarks, FollowsEachChangeOfAColor) {
