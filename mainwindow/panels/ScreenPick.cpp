@@ -93,6 +93,8 @@ void ScreenPick::picSample_MouseDown(int mark, int button) {
 }
 
 void ScreenPick::picSample_MouseMove(int /*mark*/, int buttons) {
+    const bool isLeftHeld = (buttons & leftButton) != 0;
+    if (state == State::over && !isLeftHeld) state = State::idle;  // released where nobody told
     if (state == State::over || (state != State::byKeyboard && buttons != leftButton)) return;
     const POINT place = PointerPlace();
     // Windows also reports a move when a window appears or goes under a pointer that rests.
@@ -122,9 +124,11 @@ void ScreenPick::picSample_MouseUp(int /*mark*/, int button) {
     }
 }
 
-/// Another window has taken the mouse and keeps it: there will be no release.
+/// Another window has taken the mouse and keeps it: there will be no release. If the mouse comes back all the
+/// same after a key has ended the pick, the release still does nothing.
 void ScreenPick::picSample_MouseCaptureLost(int /*mark*/) {
     isButtonHeld = false;
+    if (state == State::over) return;
     if (state == State::byKeyboard) pickedColor = colorBefore;
     const bool wasPicking = isPicking();
     state = State::idle;

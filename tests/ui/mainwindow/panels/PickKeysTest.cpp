@@ -71,11 +71,14 @@ TEST_F(PickKeys, EnterAndSpaceTakeTheColorAndTheReleaseNothingMore) {
         Press(key);
         ExpectPickEnd(huevox);
         EXPECT_BECOMES(huevox.sample(0), ColorOf(0, 0, 255));
-        // Still held: another change stays.
+        // Still held: another change stays, although the option button has taken the mouse for a moment.
         Press(VK_F5);
         huevox.send(IDC_optColor + 1, BM_CLICK);
-        MoveMouse(Sample(huevox, 1));
-        ReleaseButton(Sample(huevox, 1));
+        const RECT yellow = AreaOf(huevox.control(IDC_picSample + 1));
+        const POINT edge = {yellow.right - 1, yellow.top + 5};
+        EXPECT_BECOMES(Pixel(edge) == ColorOf(255, 255, 0), false);
+        MoveMouse(edge);
+        ReleaseButton(edge);
         huevox.focusByClick(Name(0));
         EXPECT_EQ(huevox.sliders(), ColorOf(255, 255, 0));
         EXPECT_BECOMES(huevox.sample(0), ColorOf(0, 0, 255));
