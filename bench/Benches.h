@@ -5,6 +5,7 @@
 
 void BenchStart(const Effort& effort);
 void BenchChange(const Effort& effort);
+void BenchContrast(const Effort& effort);
 void BenchHandles(const Effort& effort);
 void BenchOpen(const Effort& effort);
 void BenchOpenPicker(const Effort& effort);

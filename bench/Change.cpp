@@ -3,31 +3,10 @@
 #include <vector>
 
 #include "bench/Benches.h"
+#include "bench/ColorChange.h"
 #include "bench/RunningProgram.h"
-#include "resources/resource.h"
 
 namespace {
-
-void PaintAll(HWND window) { ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
-
-/// The slider's event, through the program.
-void ChangeThroughProgram(HWND window, int value) {
-    const HWND slider = ::GetDlgItem(window, IDC_hsbGreen);
-    ::SendMessageA(window, WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, value), reinterpret_cast<LPARAM>(slider));
-    PaintAll(window);
-}
-
-/// The same five controls set directly: what Windows costs however a program is written.
-void ChangeThroughPlatform(HWND window, int value) {
-    const std::string text = std::to_string(value);
-    const HWND container = ::GetDlgItem(window, IDC_picSampleContainer);
-    ::SetScrollPos(::GetDlgItem(window, IDC_hsbBlue), SB_CTL, value, TRUE);
-    ::SetWindowTextA(::GetDlgItem(window, IDC_txtName + 5), text.c_str());
-    ::SetWindowTextA(::GetDlgItem(window, IDC_lblClipboard), text.c_str());
-    ::InvalidateRect(::GetDlgItem(container, IDC_picSample), nullptr, FALSE);
-    ::InvalidateRect(::GetDlgItem(window, IDC_lblColorBar), nullptr, FALSE);
-    PaintAll(window);
-}
 
 double ProcessorTime() {
     FILETIME created{};

@@ -11,8 +11,9 @@ struct Bench {
     std::string_view name;
     void (*run)(const Effort& effort);
 };
-constexpr std::array<Bench, 7> benches = {{{"start", BenchStart},
+constexpr std::array<Bench, 8> benches = {{{"start", BenchStart},
                                            {"change", BenchChange},
+                                           {"contrast", BenchContrast},
                                            {"pick", BenchPick},
                                            {"picker", BenchOpenPicker},
                                            {"handles", BenchHandles},
@@ -29,6 +30,6 @@ int main(int count, char** arguments) {
         bench.run(Effort{isQuick ? 10 : 1});
         return 0;
     }
-    std::puts("usage: huevox_bench start|change|pick|picker|handles|open|save [quick]");
+    std::puts("usage: huevox_bench start|change|contrast|pick|picker|handles|open|save [quick]");
     return 2;
 }
