@@ -15,6 +15,22 @@ protected:
 };
 
 class PickPointer : public LongPick {};
+class PickTips : public LongPick {
+protected:
+    /// What Windows asks when the mouse is over the window.
+    void enter() const {
+        ::SendMessageA(window.handle(), WM_SETCURSOR, reinterpret_cast<WPARAM>(window.handle()),
+                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    }
+    bool hasTips() const {
+        HWND tip = nullptr;
+        while ((tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+            if (::GetWindow(tip, GW_OWNER) == window.handle()) return true;
+        }
+        return false;
+    }
+};
+
 class PickPreview : public LongPick {};
 class PickCapture : public LongPick {};
 
@@ -65,6 +81,25 @@ TEST_F(PickPointer, IsACrossFromThePressToTheRelease) {
     ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
     EXPECT_EQ(::GetCursor(), arrow);
     EXPECT_EQ(askForShape(), arrow);
+}
+
+TEST_F(PickTips, AreNotMadeByAMouseThatComesDuringAPick) {
+    click(IDC_chkColorPick);
+    ::SendMessageA(sample(0), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    enter();
+    EXPECT_FALSE(hasTips());
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    enter();
+    EXPECT_TRUE(hasTips());
+}
+
+TEST_F(PickTips, AreNotMadeBehindADialog) {
+    ::EnableWindow(window.handle(), FALSE);
+    enter();
+    EXPECT_FALSE(hasTips());
+    ::EnableWindow(window.handle(), TRUE);
+    enter();
+    EXPECT_TRUE(hasTips());
 }
 
 TEST_F(PickPreview, IsPaintedAtEachMovementThoughInputWaits) {

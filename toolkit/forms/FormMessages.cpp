@@ -215,10 +215,11 @@ LRESULT Form::Receiver::onDrop(HANDLE files) {
     return 0;
 }
 
-/// The mouse is over the form; until it has been, no tool tip is of use. True when the form sets the
-/// pointer's shape.
+/// The mouse is over the form; until it has been, no tool tip is of use, nor while a control captures it or a
+/// dialog holds the form. True when the form sets the pointer's shape.
 bool Form::Receiver::onMouse() {
-    if (!form.toolTips && form.isLoaded()) {
+    const bool isFree = !::GetCapture() && ::IsWindowEnabled(form.window);
+    if (!form.toolTips && form.isLoaded() && isFree) {
         form.toolTips = std::make_unique<ToolTips>(form.window);
         form.parts.showTips(*form.toolTips);
     }
