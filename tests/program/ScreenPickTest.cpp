@@ -15,7 +15,8 @@ protected:
 };
 
 class PickPointer : public LongPick {};
-class PickTips : public LongPick {
+/// Not shown: the pointer, wherever it is, does not come by itself.
+class PickTips : public LoadedMainWindow {
 protected:
     /// What Windows asks when the mouse is over the window.
     void enter() const {
