@@ -124,13 +124,6 @@ void WaitForEndOfInput(HWND window) {
         << "does not paint";
 }
 
-/// Whether no window of any program covers that place of this one. Of a form that a dialog disables nobody
-/// can tell.
-bool IsOnTop(HWND window, POINT screen) {
-    const HWND form = ::GetAncestor(window, GA_ROOT);
-    return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
-}
-
 }  // namespace
 
 bool TakesKeys(DWORD thread) {
@@ -186,6 +179,16 @@ POINT CenterOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
+bool IsOnTop(HWND window, POINT screen) {
+    const HWND form = ::GetAncestor(window, GA_ROOT);
+    return !::IsWindowEnabled(form) || ::GetAncestor(::WindowFromPoint(screen), GA_ROOT) == form;
+}
+
+void ExpectOnTop(HWND window, POINT screen) {
+    EXPECT_TRUE(Eventually([&] { return IsOnTop(window, screen); }))
+        << "covered by " << ClassOf(::WindowFromPoint(screen));
+}
+
 /// By way of the pixel beside it: a movement is lost that comes while the program is about to take another,
 /// and Windows makes one up where a window comes or goes.
 void MoveMouse(POINT screen) {
@@ -221,8 +224,7 @@ void Click(POINT screen) {
 /// Waits until no other window covers it.
 void Click(HWND window) {
     ASSERT_TRUE(::IsWindow(window)) << "nothing to click";
-    EXPECT_TRUE(Eventually([window] { return IsOnTop(window, CenterOf(window)); }))
-        << "covered by " << ClassOf(::WindowFromPoint(CenterOf(window)));
+    ExpectOnTop(window, CenterOf(window));
     Click(CenterOf(window));
 }
 

@@ -21,6 +21,12 @@ POINT CenterOf(HWND window);
 /// The place of a window on the screen, without so many pixels of its border.
 RECT AreaOf(HWND window, int border = 0);
 
+/// Whether no window of any program covers that place of this one. Of a form that a dialog disables nobody
+/// can tell.
+[[nodiscard]] bool IsOnTop(HWND window, POINT screen);
+/// Waits until it is so.
+void ExpectOnTop(HWND window, POINT screen);
+
 void MoveMouse(POINT screen);
 void PressButton(POINT screen);
 void ReleaseButton(POINT screen);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "tests/driver/Input.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
@@ -68,6 +69,7 @@ Color ColorIn(std::uint32_t pixel) {
 }  // namespace
 
 Color PaintedPixel(HWND window, POINT screen) {
+    ExpectOnTop(window, screen);
     EXPECT_TRUE(Eventually([window] { return IsPainted(window); }));
     // Twice, because the window may have been painting: what it has painted is on the screen when its program
     // waits for messages again.

@@ -8,7 +8,7 @@
 
 /// The colour of a pixel of the screen.
 Color Pixel(POINT screen);
-/// The same once the window and all that is in it have been painted.
+/// The same once no other window covers the place, and the window and all that is in it have been painted.
 Color PaintedPixel(HWND window, POINT screen);
 
 /// The pixels of an area of the screen, row by row. As of all areas here, its right and bottom edge are
