@@ -21,9 +21,11 @@ if(HUEVOX_PORTABLE)
         suite_tests(${program}_tests ${program} -${without_${program}} LABELS portable RESOURCE_LOCK desktop)
     endforeach()
 else()
-    # One at a time they take six minutes, so of the suites that act on the program only a few are run; without -R all are.
+    # One at a time they take six minutes, so of the suites that act on the program only a few are run, and of the
+    # program's own not the two longest; without -R and -E all are.
     add_test(NAME windows.portable
         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/portable ${CMAKE_COMMAND} ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}
-            -R "^(pure|program|help)[.]|^ui[.](Start|Sliders|SavingPalettes|ScreenPicking|Options)$")
+            -R "^(pure|program|help)[.]|^ui[.](Start|Sliders|SavingPalettes|ScreenPicking|Options)$"
+            -E "^program[.](LongPick|LoupeOfAPick)$")
     set_tests_properties(windows.portable PROPERTIES LABELS portable TIMEOUT 3000 COST 700)
 endif()

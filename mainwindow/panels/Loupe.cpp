@@ -62,12 +62,13 @@ void RegisterLoupeClass(WNDPROC proc) {
 
 void Loupe::show(POINT at, const LoupeContent& shown) {
     const bool isNewText = shown.code != content.code || shown.name != content.name;
+    const bool isNewPicture = shown != content;
     pointer = at;
-    content = shown;
+    if (isNewPicture) content = shown;
     if (!window) create();
     if (!window) return;  // a pick needs no loupe
     if (isNewText) SetTextOf(window.get(), content.spoken());
-    place();
+    place(isNewPicture);
 }
 
 void Loupe::create() {
@@ -79,15 +80,18 @@ void Loupe::create() {
     isExcluded = window && ExcludeFromCaptures(window.get());
 }
 
-void Loupe::place() {
+/// A picture that stays the same, as over an even ground, is moved and not painted once more.
+void Loupe::place(bool isNewPicture) {
+    const LoupeSize sizeBefore = layout().size;
     const Monitor monitor = MonitorAt(pointer);
     if (std::exchange(dpi, monitor.dpi) != monitor.dpi) textWidth = 0;
     textWidth = std::max(textWidth, TextWidth(window.get(), content, dpi));
-    const Area area = LoupePlace(BlockAt(pointer), layout().size,
-                                 ::MulDiv(fromBlock, dpi, USER_DEFAULT_SCREEN_DPI), monitor.area);
+    const LoupeSize size = layout().size;
+    const Area area =
+        LoupePlace(BlockAt(pointer), size, ::MulDiv(fromBlock, dpi, USER_DEFAULT_SCREEN_DPI), monitor.area);
     ::SetWindowPos(window.get(), HWND_TOPMOST, area.left, area.top, area.width(), area.height(),
                    SWP_NOACTIVATE | SWP_NOSENDCHANGING | SWP_SHOWWINDOW);
-    ::InvalidateRect(window.get(), nullptr, FALSE);
+    if (isNewPicture || size != sizeBefore) ::InvalidateRect(window.get(), nullptr, FALSE);
     ::UpdateWindow(window.get());  // a hand that never rests would keep it from being painted
 }
 
@@ -98,7 +102,7 @@ void Loupe::magnify(int wheel) {
     const int steps = wheelRest / WHEEL_DELTA;
     wheelRest -= steps * WHEEL_DELTA;
     zoom = std::clamp(zoom + steps, 0, static_cast<int>(magnifications.size()) - 1);
-    if (window && steps != 0) place();
+    if (window && steps != 0) place(true);
 }
 
 void Loupe::stepAside(POINT at) {

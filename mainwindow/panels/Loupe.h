@@ -35,7 +35,7 @@ private:
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     void create();
-    void place();
+    void place(bool isNewPicture);
     LoupeLayout layout() const;
 
     Form& form;

@@ -13,6 +13,8 @@ struct LoupeContent {
     std::string code;
     std::string name;  ///< "" when it has none
 
+    bool operator==(const LoupeContent&) const = default;
+
     /// Both in one line, for screen readers.
     std::string spoken() const;
 };

@@ -6,6 +6,8 @@
 struct LoupeSize {
     int width = 0;
     int height = 0;
+
+    bool operator==(const LoupeSize&) const = default;
 };
 
 /// At that distance from the block of pixels around the pointer: above and to the right, where it covers

@@ -27,5 +27,7 @@ struct PixelBlock {
 
     std::array<BitmapPixel, std::size_t{side}* side> pixels = {};
 
+    bool operator==(const PixelBlock&) const = default;
+
     Color middle() const { return ColorOf(pixels[middleIndex]); }
 };

@@ -66,6 +66,23 @@ TEST_F(LoupeOfAPick, ReadsTheScreenOnceAMovement) {
     EXPECT_EQ(readings, 2);
 }
 
+TEST_F(LoupeOfAPick, IsMovedAndNotPaintedOverAnEvenGround) {
+    int paintings = 0;
+    const ReplacedFunction paint(&::StretchDIBits, [&](auto original, auto... arguments) {
+        ++paintings;
+        return original(arguments...);
+    });
+    const POINT even = CenterOf(sample(1));
+    drag(even);
+    EXPECT_EQ(paintings, 1);
+    const RECT before = AreaOf(loupe());
+    drag({even.x + 3, even.y});
+    EXPECT_EQ(paintings, 1);
+    EXPECT_EQ(AreaOf(loupe()).left, before.left + 3);
+    drag(CenterOf(sample(2)));
+    EXPECT_EQ(paintings, 2);
+}
+
 TEST_F(LoupeOfAPick, ShowsAScreenThatCannotBeReadAsPureRed) {
     const ReplacedFunction refused(
         &::BitBlt, [](auto /*original*/, auto... /*arguments*/) { return Refused(ERROR_ACCESS_DENIED); });
