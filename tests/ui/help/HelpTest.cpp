@@ -1,6 +1,7 @@
 // How does the program's help come to the screen?
 #include <filesystem>
 
+#include "tests/driver/FormatDialog.h"
 #include "tests/driver/Palettes.h"
 #include "tests/driver/ReplacedFile.h"
 
@@ -178,6 +179,16 @@ TEST_F(Help, IsShownAndClosedByTheViewerOfTheSystem) {
     ASSERT_BECOMES(ContentOf(calls), shown);
     Close(huevox);
     EXPECT_EQ(ContentOf(calls), shown + "0||18|0\n");
+}
+
+TEST_F(Help, OpensAtThePageOfTheCustomFormatFromItsDialog) {
+    const WithoutViewer standIn(HUEVOX_STAND_IN_VIEWER);
+    const Huevox huevox(program);
+    const FormatDialog dialog(huevox);
+    Press('H', {VK_MENU});
+    EXPECT_BECOMES(ContentOf(calls), "loaded\n0|" + helpFile + "|0|huevox10.htm\n");
+    dialog.click(IDC_cmdCancel);
+    Close(huevox);
 }
 
 TEST_F(Help, ThatWasNeverOpenedNeedsNoViewer) {
