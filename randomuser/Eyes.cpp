@@ -126,6 +126,14 @@ HWND Eyes::windowOf(Front front) const {
     }
 }
 
+bool Eyes::isTopmost(HWND window) { return (::GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
+
+bool Eyes::isAbove(HWND window, HWND other) {
+    HWND below = window;
+    while (below && below != other) below = ::GetWindow(below, GW_HWNDNEXT);
+    return below != nullptr;
+}
+
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
 
 POINT Eyes::barStep(int step) const {

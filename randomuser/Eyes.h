@@ -38,6 +38,9 @@ public:
     /// A point of the main window on which there is nothing.
     POINT emptyPlace() const;
     POINT barStep(int step) const;
+    static bool isTopmost(HWND window);
+    /// Whether the window lies over the other one wherever both are.
+    static bool isAbove(HWND window, HWND other);
     bool isRunning() const;
 
     double slowestAnswer() const { return slowest; }

@@ -3,10 +3,12 @@
 
 #include "randomuser/BoxHands.h"
 #include "randomuser/CommandHands.h"
+#include "randomuser/DropHands.h"
 #include "randomuser/OtherProgram.h"
 #include "randomuser/PanelHands.h"
 #include "randomuser/PickHands.h"
 #include "randomuser/PickerHands.h"
+#include "randomuser/SystemMenuHands.h"
 
 /// Acts on the running program. What depends on its state is taken from what must have been seen before.
 struct Hands {
@@ -19,7 +21,9 @@ struct Hands {
           picks(eyes, reach),
           commands(huevox, eyes, reach),
           pickers(huevox, eyes, reach),
-          boxes(eyes, reach) {}
+          boxes(eyes, reach),
+          drops(eyes, reach),
+          systemMenu(eyes, reach) {}
     Hands(const Hands&) = delete;
     Hands& operator=(const Hands&) = delete;
     ~Hands() = default;
@@ -35,4 +39,6 @@ struct Hands {
     CommandHands commands;
     PickerHands pickers;
     BoxHands boxes;
+    DropHands drops;
+    SystemMenuHands systemMenu;
 };

@@ -6,6 +6,7 @@
 #include "randomuser/model/Facts.h"
 #include "randomuser/model/SessionFiles.h"
 #include "resources/resource.h"
+#include "tests/driver/Dropping.h"
 #include "tests/driver/Input.h"
 
 namespace {
@@ -44,6 +45,7 @@ void Inspection::lookAtFrame() {
     expected.box.isOpen() ? lookAtBox() : lookAtFront();
     compare.same("enabled window", !expected.box.isOpen(), ::IsWindowEnabled(eyes.main()) != FALSE);
     for (int picker = 0; picker < 4; ++picker) lookAtPicker(picker);
+    lookAtOrder();
     compare.same("contrast", expected.contrast, earlier.contrast, [&] {
         const HWND window = eyes.picker(static_cast<int>(Front::contrast));
         return window ? eyes.text(::GetDlgItem(window, IDC_grdContrast)) : "";
@@ -65,6 +67,20 @@ void Inspection::lookAtPicker(int picker) {
     if (isOpen && compare.isLookingAtAll())
         compare.same(Numbered("enabled palette window", picker), !expected.box.isOpen(),
                      ::IsWindowEnabled(eyes.picker(picker)) != FALSE);
+}
+
+/// What is the program's own stands above a main window that is kept on top.
+void Inspection::lookAtOrder() {
+    compare.same("kept on top", expected.isOnTop, Eyes::isTopmost(eyes.main()));
+    for (int picker = 0; picker < 4; ++picker) {
+        if (!expected.pickers.at(picker)) continue;
+        const HWND window = eyes.picker(picker);
+        compare.same(Numbered("topmost palette window", picker), expected.isOnTop, Eyes::isTopmost(window));
+        if (expected.isOnTop)
+            compare.same(Numbered("palette window above", picker), true, Eyes::isAbove(window, eyes.main()));
+    }
+    if (expected.isOnTop && expected.box.isOpen())
+        compare.same("box above", true, Eyes::isAbove(eyes.box(), eyes.main()));
 }
 
 void Inspection::lookAtBox() {
@@ -158,6 +174,8 @@ void Inspection::lookAtCommands() {
                  [&] { return isButtonEnabled(IDM_mnuFileOpen); });
     compare.same("paste enabled", expected.isPasteEnabled, earlier.isPasteEnabled,
                  [&] { return isButtonEnabled(IDM_mnuEditPasteColor); });
+    compare.same("takes files", !expected.isPickMode && !expected.box.isOpen(),
+                 !earlier.isPickMode && !earlier.box.isOpen(), [&] { return TakesDrops(eyes.main()); });
     if (!compare.isLookingAtAll()) return;
     compare.same("pick preview", false, ::IsWindowVisible(eyes.control(IDC_picPick)) != FALSE);
     compare.same("sliders shown", true, ::IsWindowVisible(eyes.control(IDC_hsbBlue)) != FALSE);

@@ -22,6 +22,7 @@ private:
     void lookAtFrame();
     void lookAtFront();
     void lookAtPicker(int picker);
+    void lookAtOrder();
     void lookAtBox();
     void lookInto(HWND box);
     void lookAtOptions(HWND box);

@@ -147,6 +147,9 @@ constexpr std::array ways = std::to_array<Way>({
     {Kind::pickInVain, [](const Moment& now) { now.hands.picks.dragInVain(now.action, now.before); }},
     {Kind::undo, RunFromSlider<'Z', 'U'>},
     {Kind::redo, RunFromSlider<'Y', 'R'>},
+    {Kind::dropFile, [](const Moment& now) { now.hands.drops.drop(now.action.text, now.action.which); }},
+    {Kind::keepOnTop,
+     [](const Moment& now) { now.hands.systemMenu.switchOnTop(now.action.which == 0, now.before.isOnTop); }},
 });
 static_assert(HasEveryKind<ways>(), "the ways stand in the order of Kind");
 

@@ -72,6 +72,8 @@ enum class Kind {
     pickInVain,    ///< as pickDrag, but Escape ends it
     undo,          ///< which: 0 by key, 1 by the menu
     redo,          ///< the same
+    dropFile,      ///< on the main window; text: the path; which: so many others are dropped with it
+    keepOnTop,     ///< or no longer; which: 0 by the keys of the window's own menu, 1 by its command
     count,         ///< stays the last: so many kinds there are
 };
 

@@ -36,6 +36,7 @@ constexpr std::array paths = std::to_array<const char*>(
     {"some.txt", "old.txt", "long.txt", "letter.txt", "locked.txt", "other\\some.txt", "one.txt", "two.txt",
      "other\\one.txt", "New palette.txt", "Красные 赤.txt", "other\\Θάλασσα 🎨.txt"});
 constexpr const char* missingPath = "nowhere.txt";
+constexpr std::array noPalettes = std::to_array<const char*>({missingPath, "other", "letter.txt"});
 
 constexpr std::array formats =
     std::to_array<const char*>({"", "%UR%", "x", "%DR%/%UG%-%LB% & %LD%", "%%UR%%", "rgb %DR%, %DG%, %DB%;",
@@ -81,6 +82,14 @@ void AnyButton(Action& action, Draws& draws) {
 void AnyPath(Action& action, Draws& draws) {
     const bool isMissing = draws.below(120) == 0;
     action.text = std::string(filesFolder) + '\\' + (isMissing ? missingPath : draws.oneOf(paths));
+}
+
+/// What cannot be opened does not end the program here, so it comes more often.
+void DroppedPath(Action& action, Draws& draws) {
+    action.which = draws.below(3);
+    const bool isPalette = draws.below(4) != 0;
+    action.text =
+        std::string(filesFolder) + '\\' + (isPalette ? draws.oneOf(paths) : draws.oneOf(noPalettes));
 }
 
 void TypedFormat(Action& action, Draws& draws) { action.text = draws.oneOf(formats); }

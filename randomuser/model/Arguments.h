@@ -28,4 +28,5 @@ void AnySwatch(Action& action, Draws& draws);
 void CopiedText(Action& action, Draws& draws);
 void AnyButton(Action& action, Draws& draws);
 void AnyPath(Action& action, Draws& draws);
+void DroppedPath(Action& action, Draws& draws);
 void TypedFormat(Action& action, Draws& draws);

@@ -41,11 +41,17 @@ void FileCommands::begin(FileCommand command) {
     goOn();
 }
 
+void FileCommands::drop(const std::string& path) {
+    droppedPath = path;
+    begin(FileCommand::drop);
+}
+
 void FileCommands::goOn() {
     const FileCommand command = after;
     after = FileCommand::none;
     if (command == FileCommand::newPalette) newPalette();
     if (command == FileCommand::open) box.show(Box::Kind::open);
+    if (command == FileCommand::drop) openDropped();
     if (command == FileCommand::close) windows.end(0);
 }
 
@@ -58,14 +64,20 @@ void FileCommands::choosePath(const std::string& path) {
     box.close();
     if (isSaving) return saveTo(path);
     folder = FolderPart(path);
-    if (isOpening) openFile(path);
+    if (isOpening) openChosen(path);
 }
 
 void FileCommands::cancelDialog() {
     const bool isSaving = box.close() == Box::Kind::save;
-    // Only a new palette is given up.
-    if (isSaving && after == FileCommand::newPalette) giveUp();
+    // No dialog follows in which the user could still keep the palette.
+    if (isSaving && (after == FileCommand::newPalette || after == FileCommand::drop)) giveUp();
     if (isSaving) goOn();
+}
+
+/// A palette that could not be saved stays when a file was dropped; all other commands go on.
+void FileCommands::leaveMessage() {
+    if (after == FileCommand::drop) giveUp();
+    goOn();
 }
 
 void FileCommands::newPalette() { showPalette(NewMarks(), "New palette"); }
@@ -89,17 +101,32 @@ void FileCommands::saveTo(const std::string& path) {
     goOn();
 }
 
-void FileCommands::openFile(const std::string& path) {
+void FileCommands::openChosen(const std::string& path) {
     const auto found = allFiles.find(path);
     if (found == allFiles.end())
         return box.show(Box::Kind::fatal, "Huevox encountered an unexpected error and must close.");
-    const File& file = found->second;
+    openFile(path, found->second);
+}
+
+/// Save goes to the folder of a file that has been opened, no other.
+void FileCommands::openDropped() {
+    const auto found = allFiles.find(droppedPath);
+    if (found == allFiles.end())
+        return box.show(Box::Kind::message, "Could not open. Check if file is in use or has been removed.");
+    if (openFile(droppedPath, found->second)) folder = FolderPart(droppedPath);
+}
+
+bool FileCommands::openFile(const std::string& path, const File& file) {
     const bool isTooLong = file.isLong && !wasLastOpenAccepted;
     if (!isTooLong) wasLastOpenAccepted = file.palette.has_value();
-    if (!isTooLong && file.palette) return showPalette(*file.palette, NamePart(path));
-    box.show(Box::Kind::message,
-             "You tried to open the file\r\n\r\n" + path +
-                 "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox");
+    if (isTooLong || !file.palette) {
+        box.show(Box::Kind::message,
+                 "You tried to open the file\r\n\r\n" + path +
+                     "\r\n\r\nThis file has not been made in Huevox and cannot be opened in Huevox");
+        return false;
+    }
+    showPalette(*file.palette, NamePart(path));
+    return true;
 }
 
 void FileCommands::showPalette(const SixMarks& palette, const std::string& name) {

@@ -10,7 +10,7 @@
 #include "randomuser/model/WindowSet.h"
 
 /// Those that ask first, when there is something to save.
-enum class FileCommand { none, newPalette, open, close };
+enum class FileCommand { none, newPalette, open, drop, close };
 
 /// A command that asks first is remembered until the last box that it needs is answered.
 class FileCommands {
@@ -26,17 +26,23 @@ public:
     /// The program has just started.
     void start();
     void begin(FileCommand command);
+    void drop(const std::string& path);
     void goOn();
     void giveUp() { after = FileCommand::none; }
     void save();
     void saveChosen() { saveTo(chosenPath); }
     void choosePath(const std::string& path);
     void cancelDialog();
+    /// A message has been answered; one of them tells that nothing was saved.
+    void leaveMessage();
 
 private:
     void newPalette();
     void saveTo(const std::string& path);
-    void openFile(const std::string& path);
+    void openChosen(const std::string& path);
+    void openDropped();
+    /// Whether the file is a palette, which is shown then.
+    bool openFile(const std::string& path, const File& file);
     void showPalette(const SixMarks& palette, const std::string& name);
 
     Editing& editing;
@@ -49,6 +55,7 @@ private:
     std::string paletteName;
     std::string folder;
     std::string chosenPath;
+    std::string droppedPath;
     Files allFiles;
     FileCommand after = FileCommand::none;
     bool wasLastOpenAccepted = false;

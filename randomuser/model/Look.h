@@ -51,6 +51,7 @@ struct Look {
     bool areNamesCopied = false;
     bool isPickMode = false;
     bool isPasteEnabled = false;
+    bool isOnTop = false;
     int focus = 0;  ///< the control that must have the focus, 0 for any
 
     friend bool operator==(const Look&, const Look&) = default;

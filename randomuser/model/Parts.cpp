@@ -53,6 +53,12 @@ void Parts::openInNotepad() {
     if (!pick.isOn()) box.show(Box::Kind::notepad);
 }
 
+void Parts::drop(const std::string& path) {
+    if (pick.isOn() || box.isOpen()) return;
+    windows.comeToMain();
+    fileCommands.drop(path);
+}
+
 void Parts::settle() {
     clipboard.put(preview());
     marks.refreshLetters();
@@ -86,7 +92,7 @@ void Parts::answer(int button) {
             if (button == yes) marks.typeName(marks.selectedMark(), facts.nameOf(marks.current()));
             return;
         case Box::Kind::fatal: return windows.end(1);
-        case Box::Kind::message: return fileCommands.goOn();
+        case Box::Kind::message: return fileCommands.leaveMessage();
         case Box::Kind::overwrite:
             return button == yes ? fileCommands.saveChosen() : box.show(Box::Kind::save);
         case Box::Kind::report:

@@ -25,6 +25,8 @@ struct Parts {
     void pressCellBeside();
     void openPalette();
     void openInNotepad();
+    /// A file that is dropped on the main window.
+    void drop(const std::string& path);
     /// The preview has been copied, and the letters have followed.
     void settle();
     void undo();

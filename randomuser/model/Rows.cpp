@@ -136,6 +136,10 @@ constexpr std::array rows = std::to_array<Row>({
      [](Parts& parts, const Action& /*action*/) { parts.undo(); }},
     {Kind::redo, "redo", 150, Where::main, Which<2>, CanRedo,
      [](Parts& parts, const Action& /*action*/) { parts.redo(); }},
+    {Kind::dropFile, "dropFile", 40, Where::anywhere, DroppedPath, Always,
+     [](Parts& parts, const Action& action) { parts.drop(action.text); }},
+    {Kind::keepOnTop, "keepOnTop", 30, Where::main, Which<2>, IsMainInFront,
+     [](Parts& parts, const Action& /*action*/) { parts.windows.switchOnTop(); }},
 });
 
 static_assert(HasEveryKind<rows>(), "the rows stand in the order of Kind");

@@ -18,6 +18,7 @@ void WindowSet::tell(Look& look) const {
     look.exitCode = exitCode;
     look.front = front;
     look.pickers = pickers;
+    look.isOnTop = isMainOnTop;
 }
 
 void WindowSet::end(int code) {

@@ -31,6 +31,7 @@ public:
     void closePicker(int picker) { pickers.at(picker) = false; }
     void sort(bool isByHue);
     void openContrast();
+    void switchOnTop() { isMainOnTop = !isMainOnTop; }
     /// A cell was pressed, 0 to 35.
     void pressCell(int cell);
     /// The cell of the contrast window that has the frame.
@@ -40,6 +41,7 @@ private:
     const Facts& facts;
     ClipboardFact& clipboard;
     bool isMainOpen = false;
+    bool isMainOnTop = false;
     int exitCode = 0;
     Front front = Front::main;
     std::array<bool, 4> pickers = {};

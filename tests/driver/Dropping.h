@@ -7,8 +7,8 @@
 #include "tests/driver/Huevox.h"
 #include "tests/driver/StartProgram.h"
 
-/// Drops them whether or not the window takes any.
-inline void Drop(HWND window, const std::vector<std::string>& paths) {
+/// Drops them whether or not the window takes any. False when they have not come to it.
+inline bool Drop(HWND window, const std::vector<std::string>& paths) {
     std::string line = HUEVOX_DROPPER " " + std::to_string(reinterpret_cast<UINT_PTR>(window));
     for (const std::string& path : paths) line += " \"" + path + '"';
     const PROCESS_INFORMATION dropper = StartProgram(line);
@@ -18,6 +18,7 @@ inline void Drop(HWND window, const std::vector<std::string>& paths) {
     EXPECT_EQ(result, 0U) << line;
     ::CloseHandle(dropper.hThread);
     ::CloseHandle(dropper.hProcess);
+    return result == 0;
 }
 
 /// Whether the pointer over the window shows that files can be dropped there.
