@@ -103,9 +103,14 @@ void FileCommands::saveTo(const std::string& path) {
 
 void FileCommands::openChosen(const std::string& path) {
     const auto found = allFiles.find(path);
-    if (found == allFiles.end())
-        return box.show(Box::Kind::fatal, "Huevox encountered an unexpected error and must close.");
+    if (found == allFiles.end()) return endByError();
     openFile(path, found->second);
+}
+
+/// The message has no owner that it would lie over.
+void FileCommands::endByError() {
+    windows.keepNoneOnTop();
+    box.show(Box::Kind::fatal, "Huevox encountered an unexpected error and must close.");
 }
 
 /// Save goes to the folder of a file that has been opened, no other.

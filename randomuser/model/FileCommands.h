@@ -40,6 +40,7 @@ private:
     void newPalette();
     void saveTo(const std::string& path);
     void openChosen(const std::string& path);
+    void endByError();
     void openDropped();
     /// Whether the file is a palette, which is shown then.
     bool openFile(const std::string& path, const File& file);

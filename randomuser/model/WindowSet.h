@@ -32,6 +32,7 @@ public:
     void sort(bool isByHue);
     void openContrast();
     void switchOnTop() { isMainOnTop = !isMainOnTop; }
+    void keepNoneOnTop() { isMainOnTop = false; }
     /// A cell was pressed, 0 to 35.
     void pressCell(int cell);
     /// The cell of the contrast window that has the frame.

@@ -159,6 +159,15 @@ TEST_F(SoakModel, IsKeptOnTopUntilItIsSwitchedOffOrEnds) {
     EXPECT_FALSE(model.look().isOnTop);
 }
 
+TEST_F(SoakModel, IsNotKeptOnTopBelowTheMessageThatEndsIt) {
+    play({Kind::keepOnTop});
+    open("letter.txt");
+    EXPECT_TRUE(model.look().isOnTop);
+    play({Kind::answer, 0, 1});
+    open("nowhere.txt");
+    EXPECT_FALSE(model.look().isOnTop);
+}
+
 TEST_F(SoakModel, IsSwitchedOnlyWhileItIsInFront) {
     play({Kind::otherInFront});
     EXPECT_FALSE(model.isPossible({Kind::keepOnTop}));
