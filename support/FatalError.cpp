@@ -29,6 +29,8 @@ BOOL CALLBACK EndModalDialog(HWND window, LPARAM) {
 /// Nothing may raise an event behind the message, and the user must be able to see and answer it.
 void Quiet() {
     Form::stopAllTimers();
+    // The message has no owner that it would lie over.
+    Form::keepNoneOnTop();
     UnfreezeRedraw();
     ::ReleaseCapture();
 }

@@ -37,11 +37,11 @@ public:
     void showModal(const Form& over);
     /// Raises Activate now, instead of an activation that is still pending.
     void activate();
-    /// Raises QueryUnload and, unless it was cancelled, Unload; then the window goes. The program ends with
-    /// the last.
+    /// Raises QueryUnload and, unless cancelled, Unload; then the window goes. The last ends the program.
     void unload();
     static void unloadAll(const Form* except = nullptr);
     static void stopAllTimers();
+    static void keepNoneOnTop() { topOrder.end(); }
 
     bool isLoaded() const { return state == State::loaded; }
     HWND handle() const { return window; }

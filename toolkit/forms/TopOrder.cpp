@@ -37,6 +37,10 @@ void TopOrder::keep(HWND form, bool isOnTop) {
     if (isOnTop) kept = form;
 }
 
+void TopOrder::end() {
+    if (kept) keep(kept, false);
+}
+
 void TopOrder::moving(HWND form, WINDOWPOS& place) const {
     if (form != kept || (place.flags & SWP_NOZORDER)) return;
     // From the lowest window upwards, the first other form.

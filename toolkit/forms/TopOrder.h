@@ -14,6 +14,8 @@ public:
     void leave(HWND form);
     /// Keeps the form on top, or no longer.
     void keep(HWND form, bool isOnTop);
+    /// Keeps nobody on top any longer.
+    void end();
     /// Windows is about to put the form at another place among the windows.
     void moving(HWND form, WINDOWPOS& place) const;
 

@@ -67,6 +67,16 @@ TEST_F(TopOrderTest, NobodyIsKeptAfterwards) {
     EXPECT_FALSE(isAboveMain(first));
 }
 
+TEST_F(TopOrderTest, NobodyIsKeptWhenAllAreLetGo) {
+    Form::keepNoneOnTop();
+    main.setOnTop(true);
+    Form::keepNoneOnTop();
+    EXPECT_FALSE(isOnTop(main));
+    EXPECT_FALSE(isOnTop(first));
+    second.load();
+    EXPECT_FALSE(isOnTop(second));
+}
+
 TEST_F(TopOrderTest, AFormThatWasKeptAndHasGoneKeepsNobody) {
     main.setOnTop(true);
     main.unload();

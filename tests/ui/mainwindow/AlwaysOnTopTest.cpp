@@ -16,6 +16,9 @@ bool IsAbove(HWND window, HWND other) {
     return false;
 }
 
+/// The window that lies over all others there.
+HWND Topmost(POINT place) { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT); }
+
 /// Chooses the item by the keyboard and waits until it has worked.
 void Switch(const Huevox& huevox) {
     const bool isOnTop = IsTopmost(huevox.window());
@@ -55,6 +58,18 @@ TEST_F(AlwaysOnTop, KeepsMessagesAndDialogsAbove) {
     EXPECT_TRUE(IsAbove(huevox.form("frmOptions"), huevox.window()));
     Press(VK_ESCAPE);
     EXPECT_BECOMES(huevox.form("frmOptions"), nullptr);
+}
+
+TEST_F(AlwaysOnTop, KeepsTheMessageOfAnUnexpectedErrorAbove) {
+    const Huevox huevox;
+    Switch(huevox);
+    PressOpen();
+    ChoosePath(huevox, openTitle, PathOf("missing.txt"));
+    const HWND message = WaitForMessage(huevox, "Huevox encountered an unexpected error and must close.");
+    EXPECT_BECOMES(IsAbove(message, huevox.window()), true);
+    EXPECT_BECOMES(Topmost(CenterOf(message)), message);
+    Answer(message, IDOK);
+    EXPECT_EQ(huevox.waitForEnd(), 1);
 }
 
 TEST_F(AlwaysOnTop, KeepsPaletteWindowsAboveWheneverTheyAreOpened) {
