@@ -20,15 +20,19 @@ Swatch PlaceOf(int picker, int index) {
 
 }  // namespace
 
-/// Puts a new window where no other of the program's lies over it.
 void PickerHands::open(int picker) {
     constexpr std::array<POINT, 3> places = {{{0, 620}, {0, 850}, {900, 100}}};
     const bool isNew = eyes.picker(picker) == nullptr;
     reach.clickOn(grids.at(picker).button);
-    if (!isNew) return;
-    // A new one goes to a place of its own when it is activated.
+    if (isNew) placeNew(picker, places.at(picker));
+}
+
+/// Puts a new window where no other of the program's lies over it.
+void PickerHands::placeNew(int picker, POINT place) const {
     reach.bringWindow([&] { return eyes.picker(picker); });
-    if (reach.isAll()) Reach::moveTo(eyes.picker(picker), places.at(picker));
+    // It goes to a place of its own when it is told that it has been activated.
+    reach.awaitRest(eyes.picker(picker));
+    if (reach.isAll()) Reach::moveTo(eyes.picker(picker), place);
 }
 
 /// The middle of the swatch, which nothing lies over any more.
@@ -64,8 +68,8 @@ void PickerHands::sort(bool isByHue) {
 }
 
 void PickerHands::placeContrast(bool wasOpen) {
-    reach.bringWindow([&] { return eyes.picker(contrastWindow); });
-    if (!wasOpen && reach.isAll()) Reach::moveTo(eyes.picker(contrastWindow), {516, 766});
+    if (wasOpen) return reach.bring(Front::contrast);
+    placeNew(contrastWindow, {516, 766});
 }
 
 void PickerHands::clickCell(int cell, bool isLeft) {

@@ -21,6 +21,7 @@ public:
     void clickCell(int cell, bool isLeft);
 
 private:
+    void placeNew(int picker, POINT place) const;
     POINT swatchPlace(int picker, int index) const;
 
     const Huevox& huevox;

@@ -39,6 +39,12 @@ void Reach::moveTo(HWND window, POINT place) {
     ::SetWindowPos(window, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void Reach::awaitRest(HWND window) {
+    constexpr RECT corner = {0, 0, 1, 1};
+    ::InvalidateRect(window, &corner, FALSE);
+    await("a window that has painted", [window] { return !::GetUpdateRect(window, nullptr, FALSE); });
+}
+
 void Reach::clickAt(POINT place) {
     uncover(eyes.main(), place);
     Click(place);

@@ -32,6 +32,9 @@ public:
     /// Moves a window as a user does.
     static void moveTo(HWND window, POINT place);
 
+    /// Until the window has handled what has been posted to it: only then does it paint.
+    void awaitRest(HWND window);
+
     void clickAt(POINT place);
     void clickOn(int id);
     void clickInBox(HWND button);
