@@ -128,14 +128,15 @@ void PrintShares(const Figures& figures) {
 }
 
 void Summarise(const Options& options, const Outcome& outcome, const Figures& figures) {
-    const auto& [first, last, steps, movements] = figures.growth;
+    const auto& [first, last, steps, movements, drops] = figures.growth;
     std::printf("seed %u, %d steps in %.0f s, %d starts of the program of %d bits\n", options.seed,
                 outcome.steps, outcome.seconds, figures.starts, figures.bits);
     std::printf("%.1f ms a step, slowest answer %.0f ms, slowest step %.0f ms (%s)\n",
                 1000 * outcome.seconds / std::max(1, outcome.steps), figures.slowestAnswer,
                 figures.slowestStep, figures.slowestAction.c_str());
     PrintShares(figures);
-    std::printf("in %d steps of one program, %d movements while picking among them:\n", steps, movements);
+    std::printf("in %d steps of one program, %d movements while picking and %d drops among them:\n", steps,
+                movements, drops);
     PrintGrowth("KB of memory", first.bytes / 1024, last.bytes / 1024, steps);
     PrintGrowth("graphics objects", first.gdi, last.gdi, steps);
     PrintGrowth("windows", first.windows, last.windows, steps);

@@ -33,6 +33,7 @@ void Measurements::addAnswer(double milliseconds) {
 
 void Measurements::addUsage(const Action& action, const Look& look, const Program& program) {
     ++course.steps;
+    if (action.kind == Kind::dropFile) ++course.drops;
     if (isLoading(action, look)) {
         course.growth = {};
         course.nextMeasure = course.steps + interval;
@@ -61,7 +62,9 @@ void Measurements::measure(const Program& program) {
     if (growth.steps == 0 && growth.first.bytes == 0) {
         growth.first = growth.last;
         course.firstStep = course.steps;
+        course.drops = 0;
     }
+    growth.drops = course.drops;
     growth.steps = course.steps - course.firstStep;
     growth.pickMovements = program.hands.picks.movementCount();
     if (growth.steps >= figures.growth.steps) figures.growth = growth;

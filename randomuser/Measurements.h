@@ -38,6 +38,7 @@ private:
     struct Course {
         int steps = 0;
         int firstStep = 0;  ///< the step of the first figures
+        int drops = 0;      ///< since then
         int nextMeasure = 0;
         Growth growth = {};
         bool hasShownHelp = false;

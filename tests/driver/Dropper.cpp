@@ -29,7 +29,10 @@ bool LoadInto(HWND window, const std::wstring& library) {
     const auto start = reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void*>(load));
     const Owned<HANDLE, &::CloseHandle> thread(
         ::CreateRemoteThread(process.get(), nullptr, 0, start, placed, 0, nullptr));
-    return thread.get() && ::WaitForSingleObject(thread.get(), INFINITE) == WAIT_OBJECT_0;
+    const bool isLoaded = thread.get() && ::WaitForSingleObject(thread.get(), INFINITE) == WAIT_OBJECT_0;
+    // The program that is acted on keeps nothing of it.
+    ::VirtualFreeEx(process.get(), placed, 0, MEM_RELEASE);
+    return isLoaded;
 }
 
 }  // namespace

@@ -23,6 +23,7 @@ struct Growth {
     Usage last = {};
     int steps = 0;          ///< between the two
     int pickMovements = 0;  ///< each may cost a context of the screen, up to 1,000
+    int drops = 0;          ///< of files, each by a thread that is made in the program
 };
 
 /// What has grown by more than it may, or "".
