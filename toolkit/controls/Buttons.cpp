@@ -1,5 +1,7 @@
 #include "toolkit/controls/Buttons.h"
 
+#include "toolkit/forms/Form.h"
+
 void Button::onCommand(int /*id*/, int code) {
     if (code == BN_CLICKED && isEnabled()) Click.raise();
 }
@@ -22,6 +24,14 @@ void OptionButton::onCommand(int /*id*/, int code) {
 }
 
 LRESULT OptionButton::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    // A window that comes to the front gives the focus back to the button that had it, and Windows would turn
+    // that one on.
+    const bool isGivenBack =
+        message == WM_SETFOCUS && !::IsChild(form.handle(), reinterpret_cast<HWND>(wParam));
+    if (isGivenBack && group.on && group.on != this) {
+        group.on->setFocus();
+        return 0;
+    }
     const LRESULT result = Control::onMessage(message, wParam, lParam);
     if (message == WM_SETFOCUS) GotFocus.raise();
     if (message == WM_KILLFOCUS) LostFocus.raise();

@@ -163,6 +163,20 @@ TEST_F(ContrastOfMarks, ALeftPressSelectsTheMarkOfTheRow) {
     EXPECT_EQ(huevox.backColor(Name(2)), white);
 }
 
+TEST_F(ContrastOfMarks, AMarkSelectedHereStaysWhenTheMainWindowComesBack) {
+    const Huevox huevox;
+    const ContrastWindow contrast(huevox);
+    // Its button has the focus, and gets it back.
+    huevox.selectMark(5);
+    ASSERT_BECOMES(huevox.focused(), Option(5));
+    Click(contrast.middle(4, 1));
+    ExpectSelected(huevox, 4, blue);
+    Click(huevox.barStepPlace(128));
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(128, 128, 255));
+    EXPECT_TRUE(huevox.isChecked(Option(4)));
+    EXPECT_EQ(huevox.sample(5), ColorOf(255, 0, 255));
+}
+
 TEST_F(ContrastOfMarks, NothingElseSelects) {
     const Huevox huevox;
     const ContrastWindow contrast(huevox);

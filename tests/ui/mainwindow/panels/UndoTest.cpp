@@ -111,6 +111,25 @@ TEST_F(Undo, APastedColorIsOneStep) {
     ExpectOneStep(huevox, ColorOf(0, 255, 255));
 }
 
+TEST_F(Undo, AMarkThatComesBackStaysWhenTheWindowDoes) {
+    const Huevox huevox;
+    huevox.selectMark(2);
+    Click(huevox.barStepPlace(128));
+    ASSERT_BECOMES(huevox.sliders(), ColorOf(128, 255, 128));
+    huevox.selectMark(4);
+    Press('Z', {VK_CONTROL});
+    ASSERT_BECOMES(huevox.isChecked(Option(2)), true);
+    const Huevox other;
+    ASSERT_BECOMES(::GetForegroundWindow(), other.window());
+    ::SetForegroundWindow(huevox.window());
+    // Another mark's button has had the focus.
+    ASSERT_BECOMES(huevox.focused(), Option(2));
+    Press(VK_F2);
+    EXPECT_BECOMES(huevox.isToolButtonEnabled(IDM_mnuEditPasteColor), true);
+    EXPECT_TRUE(huevox.isChecked(Option(2)));
+    EXPECT_EQ(huevox.sliders(), ColorOf(0, 255, 0));
+}
+
 TEST_F(Undo, APickedColorIsOneStep) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
