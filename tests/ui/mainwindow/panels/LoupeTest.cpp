@@ -213,7 +213,8 @@ TEST_F(LoupeWindow, IsNeverReadItself) {
         const POINT covered = CenterOf(LoupeOf(huevox));
         MoveMouse(covered);
         EXPECT_BECOMES(isApartFromBlock(huevox, covered), true);
-        EXPECT_BECOMES(Preview(huevox), Pixel(covered));
+        // What was covered is painted a moment later, and then read again.
+        EXPECT_BECOMES(Preview(huevox) == Pixel(covered), true);
     }
     ReleaseButton(Sample(huevox, 3));
 }
