@@ -5,12 +5,14 @@ add_executable(program_tests
     driver/Legible.cpp
     driver/Pixel.cpp
     driver/Theme.cpp
+    driver/Usage.cpp
     program/AboutFormTest.cpp
     program/AutocopyTest.cpp
     program/ColorBarTest.cpp
     program/ColorMarksTest.cpp
     program/ColorsOnTheWayTest.cpp
     program/ContrastFormTest.cpp
+    program/DroppedFilesTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
     program/KeptTraitsTest.cpp
