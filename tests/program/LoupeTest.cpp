@@ -66,6 +66,16 @@ TEST_F(LoupeOfAPick, ReadsTheScreenOnceAMovement) {
     EXPECT_EQ(readings, 2);
 }
 
+TEST_F(LoupeOfAPick, IsNotReadWhereItHasJustBeen) {
+    const Color blue = ColorOf(0, 0, 255);
+    drag(CenterOf(sample(4)));
+    const POINT covered = CenterOf(loupe());
+    ASSERT_TRUE(PumpUntil([&] { return Pixel(covered) == blue; }));
+    drag(covered);
+    // What it had covered is painted a moment later.
+    EXPECT_TRUE(PumpUntil([&] { return Pixel(CenterOf(control(IDC_picPick))) != blue; }));
+}
+
 TEST_F(LoupeOfAPick, IsMovedAndNotPaintedOverAnEvenGround) {
     int paintings = 0;
     const ReplacedFunction paint(&::StretchDIBits, [&](auto original, auto... arguments) {

@@ -8,6 +8,15 @@ namespace {
 
 class ScreenPicking : public UiTest {};
 
+/// A place in a sample whose neighbour on the left, by which the pointer comes, has another colour.
+POINT BesideTheEdge(const Huevox& huevox, int mark) {
+    const Color color = huevox.sample(mark);
+    POINT place = {AreaOf(huevox.control(IDC_picSample + mark)).left, Sample(huevox, mark).y};
+    while (Pixel(place) != color && place.x < Sample(huevox, mark).x) ++place.x;
+    EXPECT_NE(Pixel({place.x - 1, place.y}), color);
+    return place;
+}
+
 }  // namespace
 
 TEST_F(ScreenPicking, TakesTheColorOfAnyPixelInsideTheWindow) {
@@ -111,7 +120,7 @@ TEST_F(ScreenPicking, APressAndReleaseWithoutMovingAppliesTheLastPick) {
 TEST_F(ScreenPicking, ReadsThePressedPlaceWhenThePointerComesBack) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
-    const POINT pressed = Sample(huevox, 0);
+    const POINT pressed = BesideTheEdge(huevox, 0);
     Hold(huevox, pressed);
     DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
     DragTo(huevox, pressed, ColorOf(255, 0, 0));
@@ -123,20 +132,23 @@ TEST_F(ScreenPicking, ReadsThePressedPlaceWhenThePointerComesBack) {
 TEST_F(ScreenPicking, ADragFromElsewhereReadsWhereAnEarlierPickWasPressed) {
     const Huevox huevox;
     TurnPickModeOn(huevox);
-    const POINT pressed = Sample(huevox, 0);
+    // The pointer comes from outside: no movement before is the sample's.
+    const POINT pressed = {AreaOf(huevox.control(IDC_picSample)).left, Sample(huevox, 0).y};
     Hold(huevox, pressed);
     ReleaseButton(pressed);
     ASSERT_BECOMES(huevox.sliders(), ColorOf(0, 0, 0));
     huevox.focusSlider(IDC_hsbGreen);
     Press(VK_RIGHT);
     ASSERT_BECOMES(huevox.sample(0), ColorOf(0, 1, 0));
+    const Color edge = Pixel(pressed);
+    ASSERT_NE(edge, ColorOf(0, 0, 0));
     PressButton(CenterOf(huevox.control(IDC_frmSet)));
     MoveMouse(pressed);
     ReleaseButton(pressed);
     // The input behind the release, with the pointer where it is.
     Press('R', {VK_MENU});
     EXPECT_BECOMES(huevox.focus() == huevox.control(IDC_hsbRed), true);
-    EXPECT_EQ(huevox.sliders(), ColorOf(0, 1, 0));
+    EXPECT_EQ(huevox.sliders(), edge);
 }
 
 TEST_F(ScreenPicking, OnlyTheLeftButtonStartsAPick) {
