@@ -10,9 +10,11 @@ class UndoneChanges : public PaletteTest {};
 void ExpectNothingToUndo(const Huevox& huevox, const Color& color) {
     huevox.focusSlider(IDC_hsbBlue);
     PressUndo();
-    PressRedo();
     Press(VK_RIGHT);
     EXPECT_BECOMES(huevox.sliders(), ColorOf(color.red, color.green, color.blue + 1));
+    PressRedo();
+    Press(VK_RIGHT);
+    EXPECT_BECOMES(huevox.sliders(), ColorOf(color.red, color.green, color.blue + 2));
 }
 
 }  // namespace
