@@ -3,10 +3,9 @@ set(folder_32_bits ${PROJECT_SOURCE_DIR}/build/windows-x86)
 add_random_user(x86.random_user_2 2 ${folder_32_bits})
 set_tests_properties(x86.random_user_2 PROPERTIES FAIL_REGULAR_EXPRESSION "program of 64 bits")
 
-# Start, mixing, copying, saving, opening, dropping, picking, undoing, contrast, settings and
-# dialogs. Left to the 64-bit program: tests that try every
-# place or every key, and tests that run a thread of their own, with 64-bit code, in the program. Each filter is one process,
-# because starting one takes longer than many tests.
+# Start, mixing, copying, saving, opening, dropping, picking, undoing, contrast, settings and dialogs. Left to the 64-bit program: tests
+# that try every place or every key, and tests that run a thread of their own, with 64-bit code, in the program. Each filter is one
+# process, because starting one takes longer than many tests.
 set(filters
     WordLength.Is32
     Start.*-*.LooksForLibraries*:*.ADrive*
