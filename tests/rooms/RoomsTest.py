@@ -23,11 +23,9 @@ def allowed_arrows(text):
 def arrows_that_are_not_allowed(folder, arrows):
     """Every #include that reaches another room than those, as "file:line: room"."""
     found = []
-    for source in sorted(folder.rglob("*.[ch]*")):
+    for source in sorted(source for room in arrows for source in (folder / room).glob("*.[ch]*")):
         path = source.relative_to(folder)
         room = str(path.parent)
-        if room not in arrows:
-            continue
         for number, line in enumerate(source.read_text(encoding="utf-8").splitlines(), 1):
             include = re.match(r'#include "(.+)/[^/]+"', line)
             if not include or include[1] in arrows[room] | {room}:
@@ -45,9 +43,11 @@ class Rooms(unittest.TestCase):
         self.assertEqual(arrows_that_are_not_allowed(project, self.arrows), [])
 
     def test_are_all_in_the_list(self):
-        sources = {str(path.parent.relative_to(project)) for path in project.glob("*/**/*.cpp")}
-        others = re.compile(r"(bench|build|fuzz|randomuser|tests)\b")
-        self.assertEqual({room for room in sources if not others.match(room)} - self.arrows.keys(), set())
+        # Not by way of the build folder, where other tests' files come and go.
+        others = {"bench", "build", "fuzz", "randomuser", "tests"}
+        folders = [folder for folder in project.iterdir() if folder.is_dir() and folder.name not in others]
+        sources = {str(path.parent.relative_to(project)) for folder in folders for path in folder.rglob("*.cpp")}
+        self.assertEqual(sources - self.arrows.keys(), set())
 
     def test_stand_above_each_other(self):
         above = []
