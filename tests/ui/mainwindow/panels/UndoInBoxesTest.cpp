@@ -60,7 +60,8 @@ TEST_F(UndoInBoxes, ABoxThatWasLeftLeavesItsTypingToTheWindow) {
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 0, 0));
     EXPECT_EQ(huevox.text(Name(3)), "first");
     PressUndo();
-    EXPECT_BECOMES(huevox.text(Name(4)), noName);
+    ASSERT_BECOMES(huevox.text(Name(4)), noName);
+    EXPECT_EQ(huevox.text(Name(3)), "first");
     PressUndo();
     EXPECT_BECOMES(huevox.text(Name(3)), noName);
 }

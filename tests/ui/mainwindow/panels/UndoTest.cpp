@@ -86,6 +86,16 @@ TEST_F(Undo, ATypedColorIsOneStepEvenInItsBox) {
     EXPECT_BECOMES(huevox.text(IDC_txtSetBlue), "3");
 }
 
+/// No other value changes, so the box with the focus keeps the text that was typed.
+TEST_F(Undo, ATypedValueIsOneStepEvenInItsBox) {
+    const Huevox huevox;
+    huevox.retype(IDC_txtSetBlue, "3");
+    Press(VK_RETURN);
+    ASSERT_BECOMES(huevox.isEnabled(IDC_cmdSetColor), false);
+    ExpectOneStep(huevox, ColorOf(255, 0, 3));
+    EXPECT_BECOMES(huevox.text(IDC_txtSetBlue), "3");
+}
+
 TEST_F(Undo, AColorOfTheBarIsOneStep) {
     const Huevox huevox;
     Click(huevox.barStepPlace(128));
