@@ -29,7 +29,7 @@ void PickerHands::open(int picker) {
 
 /// Puts a new window where no other of the program's lies over it.
 void PickerHands::placeNew(int picker, POINT place) const {
-    reach.bringWindow([&] { return eyes.picker(picker); });
+    reach.awaitInFront([&] { return eyes.picker(picker); });
     // It goes to a place of its own when it is told that it has been activated.
     reach.awaitRest(eyes.picker(picker));
     if (reach.isAll()) Reach::moveTo(eyes.picker(picker), place);
@@ -68,7 +68,7 @@ void PickerHands::sort(bool isByHue) {
 }
 
 void PickerHands::placeContrast(bool wasOpen) {
-    if (wasOpen) return reach.bring(Front::contrast);
+    if (wasOpen) return reach.awaitInFront([&] { return eyes.windowOf(Front::contrast); });
     placeNew(contrastWindow, {516, 766});
 }
 

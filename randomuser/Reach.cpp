@@ -24,6 +24,10 @@ void Reach::bringWindow(const std::function<HWND()>& windowOf) {
     });
 }
 
+void Reach::awaitInFront(const std::function<HWND()>& windowOf) {
+    await("a window that comes to the front itself", [&] { return Eyes::hasKeys(windowOf()); });
+}
+
 /// Another window may lie over the place; the one in front need not be the one on top.
 void Reach::uncover(HWND window, POINT place) {
     const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };

@@ -28,6 +28,9 @@ public:
     void bring(Front front);
     void bringBox();
     void bringWindow(const std::function<HWND()>& windowOf);
+    /// Waits until the program has brought the window to the front. A window that is brought there meanwhile
+    /// takes away the keys of the menu that is to bring it.
+    void awaitInFront(const std::function<HWND()>& windowOf);
     void uncover(HWND window, POINT place);
     /// Moves a window as a user does.
     static void moveTo(HWND window, POINT place);
