@@ -49,6 +49,18 @@ bool AreApart(const Area& one, const Area& other) {
            other.bottom <= one.top;
 }
 
+Area Around(const Area& one, const Area& other) {
+    return {std::min(one.left, other.left), std::min(one.top, other.top), std::max(one.right, other.right),
+            std::max(one.bottom, other.bottom)};
+}
+
+/// The display may tell only later that the loupe is gone from there.
+void PaintBelow(HWND form, const Area& screen) {
+    RECT part = {screen.left, screen.top, screen.right, screen.bottom};
+    ::MapWindowPoints(nullptr, form, reinterpret_cast<POINT*>(&part), 2);
+    ::RedrawWindow(form, &part, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 void RegisterLoupeClass(WNDPROC proc) {
     WNDCLASSW own{};
     own.lpfnWndProc = proc;
@@ -89,6 +101,7 @@ void Loupe::place(bool isNewPicture) {
     const LoupeSize size = layout().size;
     const Area area =
         LoupePlace(BlockAt(pointer), size, ::MulDiv(fromBlock, dpi, USER_DEFAULT_SCREEN_DPI), monitor.area);
+    if (area != PlaceOf(window.get())) leave();
     ::SetWindowPos(window.get(), HWND_TOPMOST, area.left, area.top, area.width(), area.height(),
                    SWP_NOACTIVATE | SWP_NOSENDCHANGING | SWP_SHOWWINDOW);
     if (isNewPicture || size != sizeBefore) ::InvalidateRect(window.get(), nullptr, FALSE);
@@ -106,10 +119,21 @@ void Loupe::magnify(int wheel) {
 }
 
 void Loupe::stepAside(POINT at) {
-    if (!window || isExcluded || AreApart(BlockAt(at), PlaceOf(window.get()))) return;
-    ::ShowWindow(window.get(), SW_HIDE);
+    if (!window || isExcluded) return;
+    if (!AreApart(BlockAt(at), PlaceOf(window.get()))) {
+        leave();
+        ::ShowWindow(window.get(), SW_HIDE);
+    }
+    if (uncovered && !AreApart(BlockAt(at), *uncovered)) PaintBelow(form.handle(), BlockAt(at));
+    Yield();  // a hand that never rests would keep the rest of the window from being painted
+}
+
+/// Others paint what it covers soon.
+void Loupe::leave() {
+    if (isExcluded) return;
+    const Area place = PlaceOf(window.get());
+    uncovered = uncovered ? Around(*uncovered, place) : place;
     ::SetTimer(window.get(), uncoveredTimer, untilOthersHavePainted, nullptr);
-    Yield();  // the program's own windows below are painted now, those of others soon
 }
 
 LRESULT CALLBACK Loupe::proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -131,6 +155,7 @@ LRESULT Loupe::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DPICHANGED: return 0;  // its size goes by the monitor that the pointer is on
         case WM_TIMER:
             ::KillTimer(self, uncoveredTimer);
+            uncovered.reset();
             Uncovered.raise();
             return 0;
         case WM_NCDESTROY: window.release(); break;  // together with its form

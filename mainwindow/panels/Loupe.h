@@ -1,6 +1,7 @@
 // Who shows the pixels around the pointer, enlarged?
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "mainwindow/panels/LoupePicture.h"
@@ -18,7 +19,7 @@ public:
     Loupe(const Loupe&) = delete;
     Loupe& operator=(const Loupe&) = delete;
 
-    /// The pixels that the loupe had covered before stepAside have been painted by whomever they belong to.
+    /// The pixels that the loupe has covered last have been painted by whomever they belong to.
     Event<> Uncovered;
 
     /// Shows the content beside the pointer, at once.
@@ -27,7 +28,8 @@ public:
     bool isShown() const { return static_cast<bool>(window); }
     /// The wheel has been turned by so much: the picture grows or shrinks, also that of later picks.
     void magnify(int wheel);
-    /// Before the pixels around a place are read: the loupe must not be one of them.
+    /// Before the pixels around a place are read: neither the loupe nor what it leaves behind must be one of
+    /// them. Windows that put their pictures together somewhere else leave nothing behind.
     void stepAside(POINT at);
 
 private:
@@ -36,11 +38,13 @@ private:
 
     void create();
     void place(bool isNewPicture);
+    void leave();
     LoupeLayout layout() const;
 
     Form& form;
     Owned<HWND, &::DestroyWindow> window;
-    bool isExcluded = false;  ///< from pictures of the screen
+    bool isExcluded = false;        ///< from pictures of the screen
+    std::optional<Area> uncovered;  ///< around all that others may not have painted since it left
     POINT pointer{};
     LoupeContent content;
     int dpi = USER_DEFAULT_SCREEN_DPI;

@@ -76,6 +76,21 @@ TEST_F(LoupeOfAPick, IsNotReadWhereItHasJustBeen) {
     EXPECT_TRUE(PumpUntil([&] { return Pixel(CenterOf(control(IDC_picPick))) != blue; }));
 }
 
+/// A hand that never rests leaves the window no time to paint what comes out from below the loupe.
+TEST_F(LoupeOfAPick, LeavesNothingBehindWhereItIsReadNext) {
+    const POINT covered = CenterOf(sample(2));
+    drag(CenterOf(sample(1)));
+    const POINT middle = CenterOf(loupe());
+    const POINT pointer = CenterOf(sample(1));
+    drag({covered.x - (middle.x - pointer.x), covered.y - (middle.y - pointer.y)});
+    const RECT area = AreaOf(loupe());
+    ASSERT_TRUE(::PtInRect(&area, covered));
+    drag({1, 1});
+    drag(covered);
+    ::SendMessageA(sample(0), WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(state.marks.markColor[0], ColorOf(0, 255, 0));
+}
+
 TEST_F(LoupeOfAPick, IsMovedAndNotPaintedOverAnEvenGround) {
     int paintings = 0;
     const ReplacedFunction paint(&::StretchDIBits, [&](auto original, auto... arguments) {
