@@ -20,8 +20,8 @@ const char* NameOf(Front front) {
     return names.at(static_cast<std::size_t>(front));
 }
 
-/// Wine raises a window below a menu or a tool tip without asking its program where to. A click on Windows
-/// asks, and so is it asked here.
+/// Wine raises a window from which a menu, a tool tip or a message has gone without asking its program where
+/// to. A click on Windows asks, and so is it asked here.
 bool StaysAbove(HWND window, HWND other) {
     if (Eyes::isAbove(window, other)) return true;
     ::SetWindowPos(other, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -88,7 +88,7 @@ void Inspection::lookAtOrder() {
             compare.same(Numbered("palette window above", picker), true, StaysAbove(window, eyes.main()));
     }
     if (expected.isOnTop && expected.box.isOpen())
-        compare.same("box above", true, Eyes::isAbove(eyes.box(), eyes.main()));
+        compare.same("box above", true, StaysAbove(eyes.box(), eyes.main()));
 }
 
 void Inspection::lookAtBox() {

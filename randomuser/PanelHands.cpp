@@ -81,6 +81,8 @@ void PanelHands::retype(int id, const std::string& text) {
     Press(VK_HOME, {VK_SHIFT});
     if (text.empty()) Press(VK_DELETE);
     Type(text);
+    // Keys that are still to come would go to whatever comes to the front next, where a blank presses a cell.
+    reach.awaitRest(eyes.main());
 }
 
 void PanelHands::pressIn(int id, WORD key) {
