@@ -15,6 +15,7 @@ add_executable(program_tests
     program/DroppedFilesTest.cpp
     program/FatalErrorTest.cpp
     program/FoldersTest.cpp
+    program/HeldThumbTest.cpp
     program/KeptTraitsTest.cpp
     program/LibrarySearchTest.cpp
     program/MainWindowTest.cpp

@@ -9,11 +9,14 @@ void ScrollBar::setValue(int value) {
     if (moveTo(value)) Change.raise();
 }
 
-bool ScrollBar::moveTo(int value) {
+/// While the user drags the thumb, Windows paints it under the pointer for every movement.
+bool ScrollBar::isThumbHeld() const { return ::GetCapture() == handle(); }
+
+bool ScrollBar::moveTo(int value, bool isPainted) {
     const int limited = std::clamp(value, minimum, maximum);
     if (!handle() || limited == current) return false;
     current = limited;
-    ::SetScrollPos(handle(), SB_CTL, current, TRUE);
+    ::SetScrollPos(handle(), SB_CTL, current, isPainted);
     return true;
 }
 
@@ -32,7 +35,7 @@ void ScrollBar::onScroll(int code, int position) {
 }
 
 void ScrollBar::dragTo(int position) {
-    if (!moveTo(position)) return;
+    if (!moveTo(position, !isThumbHeld())) return;
     isDragged = true;
     Scroll.raise();
 }

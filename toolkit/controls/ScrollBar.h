@@ -22,7 +22,8 @@ private:
     void onScroll(int code, int position) override;
     void dragTo(int position);
     void dropAt(int position);
-    bool moveTo(int value);
+    bool isThumbHeld() const;
+    bool moveTo(int value, bool isPainted = true);
 
     int minimum;
     int maximum;
