@@ -11,14 +11,16 @@ struct Bench {
     std::string_view name;
     void (*run)(const Effort& effort);
 };
-constexpr std::array<Bench, 8> benches = {{{"start", BenchStart},
-                                           {"change", BenchChange},
-                                           {"contrast", BenchContrast},
-                                           {"pick", BenchPick},
-                                           {"picker", BenchOpenPicker},
-                                           {"handles", BenchHandles},
-                                           {"open", BenchOpen},
-                                           {"save", BenchSave}}};
+constexpr std::array<Bench, 10> benches = {{{"start", BenchStart},
+                                            {"change", BenchChange},
+                                            {"parts", BenchParts},
+                                            {"hand", BenchHand},
+                                            {"contrast", BenchContrast},
+                                            {"pick", BenchPick},
+                                            {"picker", BenchOpenPicker},
+                                            {"handles", BenchHandles},
+                                            {"open", BenchOpen},
+                                            {"save", BenchSave}}};
 
 }  // namespace
 
@@ -30,6 +32,6 @@ int main(int count, char** arguments) {
         bench.run(Effort{isQuick ? 10 : 1});
         return 0;
     }
-    std::puts("usage: huevox_bench start|change|contrast|pick|picker|handles|open|save [quick]");
+    std::puts("usage: huevox_bench start|change|parts|hand|contrast|pick|picker|handles|open|save [quick]");
     return 2;
 }
