@@ -11,6 +11,9 @@ void Deliver(MSG& message) {
     ::DispatchMessageW(&message);
 }
 
+/// A look for a message that finds none gives the processor to whoever else wants it.
+bool IsWaiting(UINT kinds) { return HIWORD(::GetQueueStatus(kinds)) != 0; }
+
 }  // namespace
 
 int RunMessageLoop() {
@@ -33,7 +36,7 @@ void RunModalLoop(const Form& form) {
 void Yield() {
     constexpr int limit = 1000;  // a window that never validates itself must not hang the program
     MSG message;
-    for (int count = 0; count < limit; ++count) {
+    for (int count = 0; count < limit && IsWaiting(QS_PAINT | QS_SENDMESSAGE); ++count) {
         if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
         ::DispatchMessageW(&message);
     }
