@@ -103,6 +103,7 @@ add_executable(ui_tests
     ui/mainwindow/LeftMonitorTest.cpp
     ui/mainwindow/LoadFaultTest.cpp
     ui/mainwindow/LowColorDepthTest.cpp
+    ui/mainwindow/NewestColorTest.cpp
     ui/mainwindow/OneLineTextTest.cpp
     ui/mainwindow/ScalingTest.cpp
     ui/mainwindow/SessionEndTest.cpp
@@ -234,7 +235,7 @@ endforeach()
 # At 96 DPI these run with all the others. Here: tests that look at places and pixels, and some whose result a click decides.
 string(JOIN ":" scaled_ui Scaling.* UnawarePicking.* LoupeWindow.* ScreenPicking.Takes* ScreenPicking.LocksOpening* ColorBarClicks.*
     PickerWindows.OpenBeside* PickersWebsafe.BlackIs* PickersFailsafe.Swatch10* PickersJavaScript.OneName*
-    PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.* ContrastOfMarks.Shows* ContrastOfMarks.KeysMove*)
+    PickersJavaScript.Switching* Keyboard.AFrame* OneLineText.* NewestColor.* ContrastOfMarks.Shows* ContrastOfMarks.KeysMove*)
 foreach(dpi IN ITEMS 120 144 192)
     add_test(NAME ui.at_${dpi}_dpi
         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scaled ${dpi}
