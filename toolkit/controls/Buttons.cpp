@@ -10,10 +10,21 @@ void CheckBox::onCommand(int /*id*/, int code) {
     if (code == BN_CLICKED && isEnabled()) Click.raise();
 }
 
+OptionButton::OptionButton(Form& form, int id, OptionGroup& group) : Control(form, id), group(group) {
+    group.buttons.push_back(this);
+}
+
 void OptionButton::turnOn() {
-    if (group.on && group.on != this) group.on->send(BM_SETCHECK, BST_UNCHECKED);
     group.on = this;
+    // Also those that are off: the Tab key stops only at the one that is on.
+    for (const OptionButton* other : group.buttons) {
+        if (other != this) other->send(BM_SETCHECK, BST_UNCHECKED);
+    }
+    // Not as an automatic button: for one of those Wine asks its server twice about every control of the
+    // form, to turn off what is off already.
+    send(BM_SETSTYLE, BS_RADIOBUTTON, FALSE);
     send(BM_SETCHECK, BST_CHECKED);
+    send(BM_SETSTYLE, BS_AUTORADIOBUTTON, FALSE);
 }
 
 void OptionButton::onCommand(int /*id*/, int code) {

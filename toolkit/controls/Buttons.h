@@ -1,6 +1,8 @@
 // How does a form take a click, a yes or no, or a choice among several?
 #pragma once
 
+#include <vector>
+
 #include "toolkit/controls/Control.h"
 #include "toolkit/forms/Event.h"
 
@@ -32,12 +34,14 @@ class OptionButton;
 /// Of the option buttons of one group at most one is on.
 class OptionGroup {
     friend class OptionButton;
+    std::vector<const OptionButton*> buttons;
     OptionButton* on = nullptr;
 };
 
 class OptionButton : public Control {
 public:
-    OptionButton(Form& form, int id, OptionGroup& group) : Control(form, id), group(group) {}
+    /// A button lives as long as its group.
+    OptionButton(Form& form, int id, OptionGroup& group);
 
     Event<> Click;  ///< the user has turned the button on; turnOn raises nothing
     Event<> GotFocus;

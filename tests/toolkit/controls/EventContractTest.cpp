@@ -28,6 +28,33 @@ void Drag(HWND form, HWND bar, int code, int position) {
     ::SendMessageA(form, WM_HSCROLL, MAKEWPARAM(code, position), reinterpret_cast<LPARAM>(bar));
 }
 
+/// How often a button is told whether it is on, while the value lives.
+class ChecksTold {
+public:
+    explicit ChecksTold(HWND button) : button(button) {
+        told = 0;
+        original = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ChecksTold::proc)));
+    }
+    ChecksTold(const ChecksTold&) = delete;
+    ChecksTold& operator=(const ChecksTold&) = delete;
+    ~ChecksTold() { ::SetWindowLongPtrW(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original)); }
+
+    int count() const { return told; }
+
+private:
+    static LRESULT CALLBACK proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == BM_SETCHECK) ++told;
+        return ::CallWindowProcW(original, window, message, wParam, lParam);
+    }
+
+    static inline int told = 0;
+    static inline WNDPROC original = nullptr;
+    HWND button;
+};
+
+LONG_PTR StyleOf(const OptionButton& option) { return ::GetWindowLongPtrW(option.handle(), GWL_STYLE); }
+
 }  // namespace
 
 TEST_F(EventContract, ScrollBarRaisesChangeOnlyWhenTheValueDiffers) {
@@ -124,6 +151,25 @@ TEST_F(EventContract, OptionButtonSetFromCodeRaisesNothingAndClearsTheRestOfItsG
     EXPECT_TRUE(form.optTest(1).value());
     EXPECT_EQ(::SendMessageA(form.optTest(0).handle(), BM_GETCHECK, 0, 0), BST_UNCHECKED);
     EXPECT_EQ(::SendMessageA(form.optTest(1).handle(), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+TEST_F(EventContract, OptionButtonSetFromCodeTurnsTheOneThatWasOnOffOnce) {
+    form.optTest(0).turnOn();
+    const ChecksTold checks(form.optTest(0).handle());
+    form.optTest(1).turnOn();
+    EXPECT_EQ(checks.count(), 1);
+    EXPECT_EQ(StyleOf(form.optTest(1)) & BS_TYPEMASK, BS_AUTORADIOBUTTON);
+}
+
+TEST_F(EventContract, OptionButtonSetFromCodeIsTheOnlyTabStopOfItsGroupEachTimeTheFormIsLoaded) {
+    for (int load = 0; load < 2; ++load) {
+        form.optTest(1).turnOn();
+        EXPECT_FALSE(StyleOf(form.optTest(0)) & WS_TABSTOP);
+        EXPECT_TRUE(StyleOf(form.optTest(1)) & WS_TABSTOP);
+        EXPECT_FALSE(StyleOf(form.optTest(2)) & WS_TABSTOP);
+        form.unload();
+        show();
+    }
 }
 
 TEST_F(EventContract, OptionButtonRaisesClickOnceWhenTheUserTurnsItOn) {
