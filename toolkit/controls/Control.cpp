@@ -58,8 +58,8 @@ void Control::detaching() {
 }
 
 void Control::repaint(bool withGround) const {
-    // Windows takes no window for all windows on the screen.
-    if (handle()) ::InvalidateRect(handle(), nullptr, withGround);
+    // Windows takes no window for all windows on the screen. A hidden one is painted when it is shown.
+    if (::IsWindowVisible(handle())) ::InvalidateRect(handle(), nullptr, withGround);
 }
 
 void Control::registerOwnClass(const char* name) {

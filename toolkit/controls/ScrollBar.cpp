@@ -16,7 +16,8 @@ bool ScrollBar::moveTo(int value, bool isPainted) {
     const int limited = std::clamp(value, minimum, maximum);
     if (!handle() || limited == current) return false;
     current = limited;
-    ::SetScrollPos(handle(), SB_CTL, current, isPainted);
+    // Before the form is shown there is nothing to paint.
+    ::SetScrollPos(handle(), SB_CTL, current, isPainted && ::IsWindowVisible(handle()));
     return true;
 }
 

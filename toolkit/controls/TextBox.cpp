@@ -26,7 +26,7 @@ void TextBox::attached() {
     known.reset();
     firstHalf = L'\0';
     subclass();
-    moveLine();
+    moveLine(SWP_NOREDRAW);  // it has not been painted yet
     setMargins();
 }
 
@@ -80,9 +80,9 @@ void TextBox::setBackColor(std::optional<COLORREF> color) {
 }
 
 /// Windows asks for the client area again, which is as high as a line of the font.
-void TextBox::moveLine() const {
+void TextBox::moveLine(UINT painting) const {
     constexpr UINT inPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
-    ::SetWindowPos(handle(), nullptr, 0, 0, 0, 0, inPlace | SWP_FRAMECHANGED);
+    ::SetWindowPos(handle(), nullptr, 0, 0, 0, 0, inPlace | SWP_FRAMECHANGED | painting);
 }
 
 void TextBox::onCommand(int /*id*/, int code) {
@@ -137,7 +137,7 @@ void TextBox::afterwards(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NCCALCSIZE: KeepMiddleLine(handle(), *reinterpret_cast<RECT*>(lParam)); break;
         case WM_NCPAINT: PaintAroundLine(handle(), backColor()); break;
         case WM_SETFONT:
-            moveLine();
+            moveLine(0);
             setMargins();  // a box measures them anew for each font
             break;
         case WM_SETFOCUS: onFocus(reinterpret_cast<HWND>(wParam)); break;

@@ -61,7 +61,7 @@ private:
     HBRUSH onColor(HDC context) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void afterwards(UINT message, WPARAM wParam, LPARAM lParam);
-    void moveLine() const;
+    void moveLine(UINT painting) const;
     void setMargins() const;
     void onFocus(HWND from);
     LRESULT onCharacter(wchar_t unit, LPARAM lParam);
