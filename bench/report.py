@@ -88,9 +88,10 @@ class Report:
 
 
 def complete_figures(figures):
-    """Adds the figures that follow from the measured memory."""
-    own, stock, bare = (figures[f"idle.{program}.kb"] for program in ("huevox", "stock", "bare"))
-    return figures | {"idle.huevox.ratio": own / bare, "idle.own.kb": own - stock}
+    """Adds the figures that follow from what was measured."""
+    own, stock = (figures[f"idle.{program}.kb"] for program in ("huevox", "stock"))
+    requests = figures["requests.huevox"] - figures["requests.stock"]
+    return figures | {"idle.huevox.ratio": own / stock, "idle.own.kb": own - stock, "start.own.requests": requests}
 
 
 def main(goals, template, figures):

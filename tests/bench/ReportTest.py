@@ -59,6 +59,15 @@ class Template(unittest.TestCase):
                          {"run.commit": "abc1234 with changes", "run.cores": 2.0})
 
 
+class FiguresThatFollow(unittest.TestCase):
+    def test_the_program_is_compared_with_the_stock_window(self):
+        measured = {"idle.huevox.kb": 6300.0, "idle.stock.kb": 6000.0, "requests.huevox": 4900.0, "requests.stock": 4700.0}
+        figures = report.complete_figures(measured)
+        self.assertAlmostEqual(figures["idle.huevox.ratio"], 1.05)
+        self.assertEqual(figures["idle.own.kb"], 300.0)
+        self.assertEqual(figures["start.own.requests"], 200.0)
+
+
 class TheProjectsOwn(unittest.TestCase):
     def test_every_goal_stands_in_the_template_too(self):
         template = (project / "bench/PERFORMANCE.md.in").read_text(encoding="utf-8")
