@@ -56,9 +56,11 @@ void PickHands::awaitEnd() {
 void PickHands::awaitColor(POINT place, const Color& color) {
     const HWND preview = eyes.control(IDC_picPick);
     // To and fro: where the button was pressed there is no movement.
+    LONG aside = 0;
     reach.await("the pick's colour", [&] {
-        ++movements;
-        MoveMouse({place.x, place.y + movements % 2});
+        aside = 1 - aside;
+        MoveMouse({place.x, place.y + aside});
+        movements += 2;  // by way of the pixel beside it
         return Pixel(CenterOf(preview)) == color;
     });
 }
