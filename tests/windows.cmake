@@ -136,6 +136,7 @@ add_executable(ui_tests
     ui/palette/DroppingTest.cpp
     ui/palette/FileNamesTest.cpp
     ui/palette/KeptFileTest.cpp
+    ui/palette/KilledSaveTest.cpp
     ui/palette/NotepadTest.cpp
     ui/palette/PaletteFaultTest.cpp
     ui/palette/PaletteOpenTest.cpp
@@ -192,7 +193,7 @@ target_compile_options(installer_tests PRIVATE -O0 -U_FORTIFY_SOURCE)
 set(patient TIMEOUT 3000 LABELS windows)
 set(alone RESOURCE_GROUPS "desktops:1" ${patient})
 suite_tests(program_tests program * ${alone})
-suite_tests(ui_tests ui -LowColorDepth.*:FullDisk.*:ImmovableFile.*:LeftMonitor.*:WordLength.Is32 ${alone})
+suite_tests(ui_tests ui -LowColorDepth.*:FullDisk.*:ImmovableFile*:LeftMonitor.*:WordLength.Is32 ${alone})
 suite_tests(installer_tests installer * ${alone} FIXTURES_REQUIRED packages)
 add_test(NAME packages.made
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/make ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${newer_version})
@@ -249,7 +250,7 @@ add_test(NAME ui.on_a_full_disk
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 add_test(NAME ui.on_a_file_that_cannot_be_replaced
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/immovable-file
-        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=ImmovableFile.*
+        ${PROJECT_SOURCE_DIR}/scripts/wine $<TARGET_FILE:ui_tests> --gtest_filter=ImmovableFile*
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(ui.on_a_file_that_cannot_be_replaced PROPERTIES SKIP_RETURN_CODE 77)
 add_test(NAME program.with_few_fonts
