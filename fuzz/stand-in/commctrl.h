@@ -1,0 +1,2 @@
+// What of the common controls do conversions of text need? Nothing.
+#pragma once
