@@ -5,7 +5,7 @@ FIGURES has a name and a value on each line. TEMPLATE is text with
     {name}, {name:,.0f}    the value, as str.format writes it
     {name/name:.2f}        one value in proportion to another
     {mark name}            whether the figure meets its goal
-    {goals}                a table of all goals
+    {goals}                a table of all goals, with the run's command, date and commit; the missed ones on top
     %when name missed      (or met, or a value): the text up to %end is shown only then
 """
 import operator
@@ -28,7 +28,9 @@ class Goal:
         return f"{self.words} {self.limit:,g}: {'met' if self.is_met(figures) else '**missed**'}"
 
     def row(self, figures):
-        return f"| {self.title} | {figures[self.figure]:{self.format}} | {self.mark(figures)} |"
+        cells = (self.title, f"{figures[self.figure]:{self.format}}", self.mark(figures),
+                 f"`{figures['run.command']}`", figures["run.date"], figures["run.commit"])
+        return f"| {' | '.join(cells)} |"
 
 
 def read_goals(text):
@@ -37,12 +39,12 @@ def read_goals(text):
 
 
 def read_figures(text):
-    """Values as numbers where they are numbers, else as text."""
+    """Values as numbers where they are numbers, else as text; so is a commit, even if all of it is digits."""
     figures = {}
     for line in text.splitlines():
         name, value = line.split(maxsplit=1)
         try:
-            figures[name] = float(value)
+            figures[name] = value if name == "run.commit" else float(value)
         except ValueError:
             figures[name] = value
     return figures
@@ -54,8 +56,10 @@ class Report:
         self.figures = figures
 
     def goal_table(self):
-        rows = [goal.row(self.figures) for goal in self.goals.values()]
-        return "\n".join(["| goal | measured | |", "|---|---|---|", *rows])
+        """What is missed stands on top."""
+        goals = sorted(self.goals.values(), key=lambda goal: goal.is_met(self.figures))
+        rows = [goal.row(self.figures) for goal in goals]
+        return "\n".join(["| goal | figure | | command | date | commit |", "|---|---|---|---|---|---|", *rows])
 
     def number(self, name):
         over, _, under = name.partition("/")

@@ -16,6 +16,8 @@ GOALS = """\
 start.ratio <= 1.3 .2f Start, times the bare window
 open.ratio >= 0.3 .1f Opening, times a plain read
 """
+RUN = {"run_command": "bench/run", "run_date": "2026-01-02", "run_commit": "abc1234"}
+TOLD = "`bench/run` | 2026-01-02 | abc1234"
 
 
 def filled(template, **figures):
@@ -35,9 +37,15 @@ class Marks(unittest.TestCase):
             self.assertEqual(filled("{mark open.ratio}", open_ratio=value), mark)
 
     def test_the_table_of_goals_has_a_row_for_each(self):
-        table = filled("{goals}", start_ratio=2.584, open_ratio=15.0).splitlines()
-        self.assertEqual(table[2:], ["| Start, times the bare window | 2.58 | at most 1.3: **missed** |",
-                                     "| Opening, times a plain read | 15.0 | at least 0.3: met |"])
+        table = filled("{goals}", start_ratio=1.284, open_ratio=15.0, **RUN).splitlines()
+        self.assertEqual(table, ["| goal | figure | | command | date | commit |", "|---|---|---|---|---|---|",
+                                 f"| Start, times the bare window | 1.28 | at most 1.3: met | {TOLD} |",
+                                 f"| Opening, times a plain read | 15.0 | at least 0.3: met | {TOLD} |"])
+
+    def test_what_is_missed_stands_on_top(self):
+        table = filled("{goals}", start_ratio=1.0, open_ratio=0.2, **RUN).splitlines()
+        self.assertEqual(table[2:], [f"| Opening, times a plain read | 0.2 | at least 0.3: **missed** | {TOLD} |",
+                                     f"| Start, times the bare window | 1.00 | at most 1.3: met | {TOLD} |"])
 
 
 class Template(unittest.TestCase):
@@ -58,6 +66,9 @@ class Template(unittest.TestCase):
         self.assertEqual(report.read_figures("run.commit abc1234 with changes\nrun.cores 2\n"),
                          {"run.commit": "abc1234 with changes", "run.cores": 2.0})
 
+    def test_a_commit_of_digits_alone_is_no_number(self):
+        self.assertEqual(report.read_figures("run.commit 0012345\n"), {"run.commit": "0012345"})
+
 
 class FiguresThatFollow(unittest.TestCase):
     def test_the_program_is_compared_with_the_stock_window(self):
@@ -69,6 +80,11 @@ class FiguresThatFollow(unittest.TestCase):
 
 
 class TheProjectsOwn(unittest.TestCase):
+    def test_begins_with_the_table_of_goals(self):
+        for page in ("PERFORMANCE.md.in",):
+            lines = (project / "bench" / page).read_text(encoding="utf-8").splitlines()
+            self.assertEqual([line for line in lines[1:4] if line], ["{goals}"], page)
+
     def test_every_goal_stands_in_the_template_too(self):
         template = (project / "bench/PERFORMANCE.md.in").read_text(encoding="utf-8")
         marked = set(re.findall(r"\{mark ([^}]*)\}", template))
