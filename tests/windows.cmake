@@ -286,6 +286,7 @@ add_test(NAME help.pictures COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/help/PicturesTes
 set_tests_properties(help.pictures PROPERTIES ${patient})
 
 add_test(NAME bench.report COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/ReportTest.py ${PROJECT_SOURCE_DIR})
+add_test(NAME bench.curves COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/bench/CurvesTest.py ${PROJECT_SOURCE_DIR})
 
 tidy_unit(program huevox_pure huevox_toolkit huevox_program Huevox)
 tidy_unit(dropping Dropper Dropped)
@@ -294,5 +295,5 @@ tidy_unit(ui_tests ui_tests)
 tidy_unit(program_tests program_tests Planted)
 tidy_unit(installer_tests installer_tests)
 tidy_unit(soak soak_model soak)
-tidy_unit(bench huevox_bench)
+tidy_unit(bench huevox_bench huevox_growth)
 tidy_test()
