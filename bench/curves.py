@@ -60,7 +60,7 @@ def held(subject):
 
 
 def compared(subject, work):
-    return {f"{subject}.program.ms": work, f"{subject}.platform.ms": "a change's controls, set directly"}
+    return {f"{subject}.program.ms": work, f"{subject}.platform.ms": "five controls, set directly"}
 
 
 WINDOWS = {"websafe": "websafe window", "failsafe": "failsafe window", "javascript": "JavaScript window",
@@ -78,6 +78,8 @@ PICTURES = (
     Picture("openings", "Every window opened and closed again and again", "openings of each window", [
         Panel("From the command until it is painted", "ms",
               {f"openings.{window}.ms": name for window, name in WINDOWS.items()}),
+        Panel("Memory that has come to it", "KB",
+              {f"openings.{window}.kb": name for window, name in WINDOWS.items()}),
         Panel("Memory", "KB", {"openings.kb": MEMORY}),
         Panel("Objects and handles", "number", held("openings"))]),
     Picture("files", "Opening files of 1 KB to 1 GB", "bytes of the file", [
