@@ -85,6 +85,13 @@ class TheProjectsOwn(unittest.TestCase):
             lines = (project / "bench" / page).read_text(encoding="utf-8").splitlines()
             self.assertEqual([line for line in lines[1:4] if line], ["{goals}"], page)
 
+    def test_what_the_program_withstands_begins_with_its_goals_too(self):
+        lines = (project / "docs/RELIABILITY.md").read_text(encoding="utf-8").splitlines()
+        self.assertEqual(lines[1:4], ["", "| goal | figure | | command | date | commit |", "|---|---|---|---|---|---|"])
+        marks = [row.split(" | ")[2] for row in lines[4:lines.index("", 4)]]
+        self.assertEqual(marks, sorted(marks, key=lambda mark: not mark.startswith("**missed**")))
+        self.assertEqual({mark.split("**")[1] if "**" in mark else mark for mark in marks} - {"missed", "met"}, set())
+
     def test_every_goal_stands_in_the_template_too(self):
         template = (project / "bench/PERFORMANCE.md.in").read_text(encoding="utf-8")
         marked = set(re.findall(r"\{mark ([^}]*)\}", template))

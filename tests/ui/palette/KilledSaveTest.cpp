@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -113,6 +114,15 @@ protected:
 class ImmovableFileAtTheEnd : public EndWhileWritingInPlace {
 protected:
     ImmovableFileAtTheEnd() : EndWhileWritingInPlace(Folder()) {}
+
+    /// Leaves the folder as it was, for the tests that find it next.
+    void TearDown() override {
+        EndWhileWritingInPlace::TearDown();
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            std::error_code ignored;
+            if (entry.path() != path()) std::filesystem::remove(entry.path(), ignored);
+        }
+    }
 
 private:
     static std::string Folder() {
