@@ -19,6 +19,11 @@ bool IsTyping(const Action& action) {
     return action.kind == Kind::typeName || action.kind == Kind::eraseName;
 }
 
+/// On its way to the text the box shows the name, as one that has been typed.
+bool PassesBy(const std::string& text, const std::string& name) {
+    return !name.empty() && text.starts_with(name);
+}
+
 bool IsNaming(const Action& action) { return action.kind == Kind::findNames || action.kind == Kind::answer; }
 
 }  // namespace
@@ -50,7 +55,11 @@ void Steps::add(const MarkSet::State& now, const Action& action) {
     const std::size_t whose = IsTyping(action) ? changed - shown.six.names.begin() : now.selected;
     places.resize(present + 1);
     places[present].selectedOnLeaving = shown.selected;
-    if (isOpen && of == gesture && whose == mark) places[present].isSure = false;
+    const bool goesOn = isOpen && of == gesture && whose == mark;
+    if (goesOn) places[present].isSure = false;
+    MarkSet::State& before = places[goesOn ? present - 1 : present].state;
+    if (action.kind == Kind::typeName && PassesBy(action.text, before.six.names.at(whose)))
+        before.highlighted.at(whose) = false;
     if (HasManyChanges(action)) places.push_back({.state = shown, .isSure = false});
     places.push_back({now});
     if (places.size() > most) places.erase(places.begin(), places.end() - most);

@@ -101,3 +101,14 @@ TEST_F(SoakModelSteps, AreUnsureWhereANameMayHaveComeBack) {
     play({Kind::typeName, 1, 0, noName});
     EXPECT_FALSE(canRedo());
 }
+
+TEST_F(SoakModelSteps, ThatPassByTheNameOnTheWayHaveTypedIt) {
+    play({Kind::typeName, 0, 0, "cya"});
+    takeStep(128);
+    play({Kind::selectMark, 4});
+    ASSERT_TRUE(model.look().highlighted[0]);
+    play({Kind::typeName, 0, 0, "cyan"});
+    undo();
+    EXPECT_EQ(model.look().marks.names[0], "cya");
+    EXPECT_FALSE(model.look().highlighted[0]);
+}
