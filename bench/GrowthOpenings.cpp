@@ -27,6 +27,7 @@ Windows AllWindows() {
 double TimeOf(const RunningProgram& running, Window& window, int count) {
     const double before = Kilobytes(running.usage());
     std::vector<double> times;
+    times.reserve(count);
     for (int i = 0; i < count; ++i) times.push_back(window.openAndClose(running.form(), *window.opened));
     window.kilobytes += Kilobytes(running.usage()) - before;
     return Median(times);

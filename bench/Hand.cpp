@@ -59,10 +59,12 @@ void BenchHand(const Effort& effort) {
     ::SendMessageA(form, WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 128), reinterpret_cast<LPARAM>(slider));
     ::SendMessageA(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(slider), TRUE);
     std::vector<double> presses;
+    presses.reserve(changes);
     for (int i = 0; i < changes; ++i) {
         presses.push_back(TimeUntilSeen(screen, sample, [i] { PressKey(i % 2 == 0 ? VK_RIGHT : VK_LEFT); }));
     }
     std::vector<double> movements;
+    movements.reserve(changes);
     ::SetCursorPos(thumb.x, thumb.y);
     UseButton(MOUSEEVENTF_LEFTDOWN);
     for (int i = 0; i < changes; ++i) {

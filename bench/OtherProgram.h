@@ -8,7 +8,8 @@
 /// The program with its main window shown, until the value goes.
 class OtherProgram {
 public:
-    explicit OtherProgram(std::string command) {
+    explicit OtherProgram(const std::string& program) {
+        std::string command = program;
         STARTUPINFOA startup{};
         startup.cb = sizeof startup;
         ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,

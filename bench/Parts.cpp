@@ -41,7 +41,7 @@ struct Part {
 
 /// How often Wine's server has answered. It opens the files itself, so "self" is the server.
 double AnswersOfServer() {
-    std::ifstream file("Z:\\proc\\self\\io");
+    std::ifstream file(R"(Z:\proc\self\io)");
     std::string name;
     double count = 0;
     while (file >> name >> count) {

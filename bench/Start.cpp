@@ -25,8 +25,8 @@ using OwnedHandle = Owned<HANDLE, &::CloseHandle>;
 
 /// Milliseconds since the start of the process.
 struct Times {
-    double shown;
-    double idle;
+    double shown = 0;
+    double idle = 0;
 };
 
 OwnedHandle StartProcess(const wchar_t* command) {
@@ -68,7 +68,8 @@ Times TimeOfStart(const Program& program) {
     const double before = NowInMilliseconds();
     const OwnedHandle process = StartProcess(program.command);
     const HWND window = WaitForWindow(program.windowClass, before + patience);
-    Times times = {NowInMilliseconds() - before, 0};
+    Times times;
+    times.shown = NowInMilliseconds() - before;
     ::WaitForInputIdle(process.get(), static_cast<DWORD>(patience));
     do {
         ::SendMessageW(window, WM_NULL, 0, 0);
