@@ -125,14 +125,14 @@ void Loupe::stepAside(POINT at) {
         ::ShowWindow(window.get(), SW_HIDE);
     }
     if (uncovered && !AreApart(BlockAt(at), *uncovered)) PaintBelow(form.handle(), BlockAt(at));
-    Yield();  // a hand that never rests would keep the rest of the window from being painted
+    YieldToScreen();  // a hand that never rests would keep the rest of the window from being painted
 }
 
 /// Others paint what it covers soon.
 void Loupe::leave() {
     if (isExcluded) return;
-    const Area place = PlaceOf(window.get());
-    uncovered = uncovered ? Around(*uncovered, place) : place;
+    const Area left = PlaceOf(window.get());
+    uncovered = uncovered ? Around(*uncovered, left) : left;
     ::SetTimer(window.get(), uncoveredTimer, untilOthersHavePainted, nullptr);
 }
 

@@ -34,9 +34,13 @@ void RunModalLoop(const Form& form) {
 }
 
 void Yield() {
+    if (IsWaiting(QS_PAINT | QS_SENDMESSAGE)) YieldToScreen();
+}
+
+void YieldToScreen() {
     constexpr int limit = 1000;  // a window that never validates itself must not hang the program
     MSG message;
-    for (int count = 0; count < limit && IsWaiting(QS_PAINT | QS_SENDMESSAGE); ++count) {
+    for (int count = 0; count < limit; ++count) {
         if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
         ::DispatchMessageW(&message);
     }
