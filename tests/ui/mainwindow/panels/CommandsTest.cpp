@@ -1,7 +1,6 @@
 // Which commands are there, and in which ways can they be run?
 #include <vector>
 
-#include "tests/driver/FindWindows.h"
 #include "tests/driver/FormatDialog.h"
 #include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
@@ -47,20 +46,6 @@ TEST_F(Commands, ADialogTakesTheToolTipAway) {
     EXPECT_EQ(huevox.toolTip(), "");
     dialog.click(IDC_cmdCancel);
     ExpectTip(huevox, tips.front());
-}
-
-/// It would bring the tip to the front, and the keys would go there.
-TEST_F(Commands, AClickOnAToolTipGoesToWhatLiesBelow) {
-    const Huevox huevox;
-    ExpectTip(huevox, tips.front());
-    DWORD process = 0;
-    ::GetWindowThreadProcessId(huevox.window(), &process);
-    const RECT tip = AreaOf(FindVisible(process, TOOLTIPS_CLASSA).first);
-    const POINT place = CenterOf(huevox.control(Name(0)));
-    ASSERT_TRUE(::PtInRect(&tip, place));
-    Click(place);
-    EXPECT_BECOMES(huevox.focused(), Name(0));
-    EXPECT_EQ(::GetForegroundWindow(), huevox.window());
 }
 
 TEST_F(Commands, TheBarHasFourteenButtonsWithThreeSeparators) {
