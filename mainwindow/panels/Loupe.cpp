@@ -89,6 +89,7 @@ void Loupe::create() {
         WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"frmLoupe", Wide(content.spoken()).c_str(),
         WS_POPUP | WS_DISABLED, 0, 0, 0, 0, form.handle(), nullptr, ::GetModuleHandleW(nullptr), this));
     textWidth = 0;
+    uncovered.reset();
     isExcluded = window && ExcludeFromCaptures(window.get());
 }
 
