@@ -4,6 +4,7 @@
 #include "randomuser/OtherProgram.h"
 #include "resources/resource.h"
 #include "tests/driver/Figures.h"
+#include "tests/driver/FindWindows.h"
 #include "tests/driver/Input.h"
 #include "tests/driver/WindowText.h"
 #include "toolkit/platform/Text.h"
@@ -88,11 +89,10 @@ HWND Eyes::box() const {
         const HWND window = ::FindWindowA(dialog, nullptr);
         if (window && isOpen(window)) return window;
     }
-    HWND window = nullptr;
-    while ((window = ::FindWindowExA(nullptr, window, "#32770", nullptr)) != nullptr) {
+    for (const HWND window : WindowsFromTheTop()) {
         DWORD owner = 0;
         ::GetWindowThreadProcessId(window, &owner);
-        if (owner == ::GetProcessId(process) && isOpen(window)) return window;
+        if (owner == ::GetProcessId(process) && isOpen(window) && ClassOf(window) == "#32770") return window;
     }
     return nullptr;
 }
@@ -127,12 +127,6 @@ HWND Eyes::windowOf(Front front) const {
 }
 
 bool Eyes::isTopmost(HWND window) { return (::GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
-
-bool Eyes::isAbove(HWND window, HWND other) {
-    HWND below = window;
-    while (below && below != other) below = ::GetWindow(below, GW_HWNDNEXT);
-    return below != nullptr;
-}
 
 POINT Eyes::emptyPlace() const { return OnScreen(form, {3, 150}); }
 

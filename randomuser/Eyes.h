@@ -39,8 +39,6 @@ public:
     POINT emptyPlace() const;
     POINT barStep(int step) const;
     static bool isTopmost(HWND window);
-    /// Whether the window lies over the other one wherever both are.
-    static bool isAbove(HWND window, HWND other);
     bool isRunning() const;
 
     double slowestAnswer() const { return slowest; }

@@ -7,6 +7,7 @@
 #include "randomuser/model/SessionFiles.h"
 #include "resources/resource.h"
 #include "tests/driver/Dropping.h"
+#include "tests/driver/FindWindows.h"
 #include "tests/driver/Input.h"
 
 namespace {
@@ -23,9 +24,9 @@ const char* NameOf(Front front) {
 /// Wine raises a window from which a menu, a tool tip or a message has gone without asking its program where
 /// to. A click on Windows asks, and so is it asked here.
 bool StaysAbove(HWND window, HWND other) {
-    if (Eyes::isAbove(window, other)) return true;
+    if (IsAbove(window, other)) return true;
     ::SetWindowPos(other, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    return Eyes::isAbove(window, other);
+    return IsAbove(window, other);
 }
 
 int ShownChannel(const Look& look, int channel) {

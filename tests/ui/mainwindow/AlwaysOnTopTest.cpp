@@ -1,5 +1,6 @@
 // What stands above what while the window is kept on top?
 #include "tests/driver/Dialogs.h"
+#include "tests/driver/FindWindows.h"
 #include "tests/driver/Palettes.h"
 #include "tests/driver/PickerWindow.h"
 
@@ -8,13 +9,6 @@ namespace {
 class AlwaysOnTop : public PaletteTest {};
 
 bool IsTopmost(HWND window) { return (::GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
-
-bool IsAbove(HWND window, HWND other) {
-    for (HWND below = window; below; below = ::GetWindow(below, GW_HWNDNEXT)) {
-        if (below == other) return true;
-    }
-    return false;
-}
 
 /// The window that lies over all others there.
 HWND Topmost(POINT place) { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT); }
