@@ -2,6 +2,13 @@
 
 #include "toolkit/platform/Text.h"
 
+namespace {
+
+/// A click on a tip goes to what lies below; otherwise the tip comes to the front, and the keys with it.
+constexpr UINT everyTool = TTF_SUBCLASS | TTF_TRANSPARENT;
+
+}  // namespace
+
 ToolTips::ToolTips(HWND form)
     : form(form),
       window(::CreateWindowExW(
@@ -11,7 +18,7 @@ ToolTips::ToolTips(HWND form)
 
 void ToolTips::set(HWND control, const std::string& text) const {
     TTTOOLINFOW tool{};
-    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    tool.uFlags = everyTool | TTF_IDISHWND;
     tool.hwnd = form;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     replace(tool, text);
@@ -19,7 +26,7 @@ void ToolTips::set(HWND control, const std::string& text) const {
 
 void ToolTips::set(HWND control, int part, const RECT& area, const std::string& text) const {
     TTTOOLINFOW tool{};
-    tool.uFlags = TTF_SUBCLASS;
+    tool.uFlags = everyTool;
     tool.hwnd = control;
     tool.uId = part;
     tool.rect = area;

@@ -1,5 +1,7 @@
-// What does a return to the window do?
+// What does a return to the window do, and what does not take the front from it?
+#include "tests/driver/FindWindows.h"
 #include "tests/driver/PickerWindow.h"
+#include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
 
 namespace {
@@ -92,4 +94,19 @@ TEST_F(Activation, ByAClickOnANotationChoosesIt) {
     EXPECT_BECOMES(huevox.text(IDC_lblClipboard), "255");
     EXPECT_BECOMES(ClipboardText(), "255");
     EXPECT_EQ(huevox.listIndex(), 6);
+}
+
+/// A tip may come up just before a click, when the pointer is already below it.
+TEST_F(Activation, AClickOnAToolTipGoesToWhatLiesBelow) {
+    const Huevox huevox;
+    const POINT place = CenterOf(huevox.control(IDC_optColor + 3));
+    Hover(huevox, place);
+    ASSERT_BECOMES(huevox.toolTip().empty(), false);
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(huevox.window(), &process);
+    const HWND tip = FindVisible(process, TOOLTIPS_CLASSA).first;
+    ::SetWindowPos(tip, nullptr, place.x - 5, place.y - 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    Click(place);
+    EXPECT_BECOMES(huevox.send(IDC_optColor + 3, BM_GETCHECK), BST_CHECKED);
+    EXPECT_EQ(::GetForegroundWindow(), huevox.window());
 }
