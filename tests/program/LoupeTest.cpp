@@ -1,20 +1,11 @@
 // What does the loupe cost, and what does it show of a screen that cannot be read?
-#include <vector>
-
 #include "tests/driver/Input.h"
 #include "tests/driver/Pixel.h"
+#include "tests/program/FreeObjects.h"
 #include "tests/program/MainWindowFixture.h"
 #include "tests/program/ReplacedFunction.h"
 
 namespace {
-
-/// How many graphics objects the process can still get.
-int FreeObjects() {
-    std::vector<HBRUSH> brushes;
-    while (const HBRUSH brush = ::CreateSolidBrush(0)) brushes.push_back(brush);
-    for (const HBRUSH brush : brushes) ::DeleteObject(brush);
-    return static_cast<int>(brushes.size());
-}
 
 class LoupeOfAPick : public ShownMainWindow {
 protected:
