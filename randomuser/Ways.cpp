@@ -27,13 +27,20 @@ void ClickOn(const Moment& now) {
     now.hands.reach.clickOn(id);
 }
 
+/// What another program does overtakes keys and clicks that are still to come, and such a click then brings
+/// its window back to the front.
+void LetInputArrive(const Moment& now) {
+    if (now.before.front == Front::main) return now.hands.reach.waitForInput();
+    now.hands.reach.awaitRest(now.hands.eyes.main());
+}
+
 void ClosePicker(const Moment& now) {
-    if (now.before.front == Front::main) now.hands.reach.waitForInput();
+    LetInputArrive(now);
     now.hands.pickers.close(now.action.which);
 }
 
 void TakeForeground(const Moment& now) {
-    if (now.before.front == Front::main) now.hands.reach.waitForInput();
+    LetInputArrive(now);
     now.hands.other.takeForeground();
 }
 
