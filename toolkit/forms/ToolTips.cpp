@@ -1,11 +1,17 @@
 #include "toolkit/forms/ToolTips.h"
 
+#include <commctrl.h>
+
 #include "toolkit/platform/Text.h"
 
 namespace {
 
-/// A click on a tip goes to what lies below; otherwise the tip comes to the front, and the keys with it.
-constexpr UINT everyTool = TTF_SUBCLASS | TTF_TRANSPARENT;
+/// A click on a tip hides it. Under Wine it would also bring it to the front, and the keys with it.
+LRESULT CALLBACK StayBehind(HWND tip, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                            DWORD_PTR /*reference*/) {
+    if (message == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
+    return ::DefSubclassProc(tip, message, wParam, lParam);
+}
 
 }  // namespace
 
@@ -14,11 +20,12 @@ ToolTips::ToolTips(HWND form)
       window(::CreateWindowExW(
           WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
           CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, ::GetModuleHandleW(nullptr), nullptr)) {
+    ::SetWindowSubclass(window, StayBehind, 0, 0);
 }
 
 void ToolTips::set(HWND control, const std::string& text) const {
     TTTOOLINFOW tool{};
-    tool.uFlags = everyTool | TTF_IDISHWND;
+    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
     tool.hwnd = form;
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     replace(tool, text);
@@ -26,7 +33,7 @@ void ToolTips::set(HWND control, const std::string& text) const {
 
 void ToolTips::set(HWND control, int part, const RECT& area, const std::string& text) const {
     TTTOOLINFOW tool{};
-    tool.uFlags = everyTool;
+    tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = control;
     tool.uId = part;
     tool.rect = area;

@@ -97,7 +97,7 @@ TEST_F(Activation, ByAClickOnANotationChoosesIt) {
 }
 
 /// A tip may come up just before a click, when the pointer is already below it.
-TEST_F(Activation, AClickOnAToolTipGoesToWhatLiesBelow) {
+TEST_F(Activation, IsKeptByAClickOnAToolTip) {
     const Huevox huevox;
     const POINT place = CenterOf(huevox.control(IDC_optColor + 3));
     Hover(huevox, place);
@@ -107,6 +107,7 @@ TEST_F(Activation, AClickOnAToolTipGoesToWhatLiesBelow) {
     const HWND tip = FindVisible(process, TOOLTIPS_CLASSA).first;
     ::SetWindowPos(tip, nullptr, place.x - 5, place.y - 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     Click(place);
-    EXPECT_BECOMES(huevox.send(IDC_optColor + 3, BM_GETCHECK), BST_CHECKED);
+    EXPECT_BECOMES(huevox.toolTip(), "");
     EXPECT_EQ(::GetForegroundWindow(), huevox.window());
+    EXPECT_EQ(huevox.focused(), IDC_hsbRed);
 }
