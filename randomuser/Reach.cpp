@@ -28,8 +28,11 @@ void Reach::awaitInFront(const std::function<HWND()>& windowOf) {
     await("a window that comes to the front itself", [&] { return Eyes::hasKeys(windowOf()); });
 }
 
-/// Another window may lie over the place; the one in front need not be the one on top.
+/// Another window may lie over the place; the one in front need not be the one on top. A tool tip goes when
+/// the mouse comes over it, and none comes up below the mouse.
 void Reach::uncover(HWND window, POINT place) {
+    MoveMouse(place);
+    awaitRest(eyes.main());
     const auto isOnTop = [&] { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT) == window; };
     if (isOnTop()) return;
     bringWindow([window] { return window; });

@@ -221,9 +221,11 @@ void Click(POINT screen) {
     ReleaseButton(screen);
 }
 
-/// Waits until no other window covers it.
+/// Waits until no other window covers it. A tool tip goes when the mouse comes over it, and none comes up
+/// below the mouse.
 void Click(HWND window) {
     ASSERT_TRUE(::IsWindow(window)) << "nothing to click";
+    MoveMouse(CenterOf(window));
     ExpectOnTop(window, CenterOf(window));
     Click(CenterOf(window));
 }
