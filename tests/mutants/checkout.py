@@ -9,7 +9,8 @@ presets = {"pure": "host", "program": "windows-x64", "ui": "windows-x64"}
 test_targets = {"pure": "pure_tests", "program": "program_tests", "ui": "ui_tests"}
 changing_targets = {"pure": "pure_tests", "program": "program_tests", "ui": "Huevox"}
 # What the tests use besides their own programs.
-beside = ("huevox.chm", "tests/StandIn.exe", "tests/hhctrl.ocx", "tests/Planted.dll", "tests/ui_tests.exe")
+beside = ("huevox.chm", "tests/StandIn.exe", "tests/hhctrl.ocx", "tests/Planted.dll", "tests/ui_tests.exe",
+          "tests/Dropper.exe", "tests/Dropped.dll", "tests/TwoColors.exe")
 built = {"pure": "tests/pure_tests", "program": "tests/program_tests.exe", "ui": "Huevox.exe"}
 
 
