@@ -109,5 +109,6 @@ TEST_F(Activation, IsKeptByAClickOnAToolTip) {
     Click(place);
     EXPECT_BECOMES(huevox.toolTip(), "");
     EXPECT_EQ(::GetForegroundWindow(), huevox.window());
-    EXPECT_EQ(huevox.focused(), IDC_hsbRed);
+    Press('G', {VK_MENU});
+    EXPECT_BECOMES(huevox.focused(), IDC_hsbGreen);
 }
