@@ -2,21 +2,28 @@
 // has no manifest, so a system that scales such programs scales what it paints.
 #include "tests/driver/TwoColors.h"
 
+#include <array>
+#include <cstdint>
+
 #include "toolkit/platform/Platform.h"
 
 namespace {
 
-void Fill(HDC context, const RECT& area, COLORREF color) {
-    const HBRUSH brush = ::CreateSolidBrush(color);
-    ::FillRect(context, &area, brush);
-    ::DeleteObject(brush);
+/// A colour of a window as bitmaps have it: 0x00RRGGBB.
+constexpr std::uint32_t PixelOf(COLORREF color) {
+    return static_cast<std::uint32_t>(GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color));
 }
 
+/// Two pixels, stretched in one go: of what is painted one after the other, a system that scales may mix the
+/// first with what has been there before the second.
 void Paint(HWND window) {
+    constexpr std::array pixels = {PixelOf(two_colors::left), PixelOf(two_colors::right)};
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, pixels.size(), 1, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     PAINTSTRUCT painting{};
     const HDC context = ::BeginPaint(window, &painting);
-    Fill(context, {0, 0, two_colors::width / 2, two_colors::height}, two_colors::left);
-    Fill(context, {two_colors::width / 2, 0, two_colors::width, two_colors::height}, two_colors::right);
+    ::StretchDIBits(context, 0, 0, two_colors::width, two_colors::height, 0, 0, pixels.size(), 1,
+                    pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);
     ::EndPaint(window, &painting);
 }
 
