@@ -23,9 +23,10 @@ constexpr Color ColorOf(BitmapPixel pixel) {
 struct PixelBlock {
     static constexpr int reach = 7;  ///< so many on each side of the middle
     static constexpr int side = 2 * reach + 1;
-    static constexpr int middleIndex = side * side / 2;
+    static constexpr int count = side * side;
+    static constexpr int middleIndex = count / 2;
 
-    std::array<BitmapPixel, std::size_t{side}* side> pixels = {};
+    std::array<BitmapPixel, count> pixels = {};
 
     bool operator==(const PixelBlock&) const = default;
 

@@ -51,7 +51,7 @@ private:
     }
 
     RECT area;
-    std::array<bool, std::size_t{side}* side> shown = {};
+    std::array<bool, PixelBlock::count> shown = {};
 };
 
 /// Asked first, because it is cheaper and nearly always the answer.
@@ -68,7 +68,7 @@ bool IsWithinOneMonitor(POINT place) {
 void LeaveOutWhatIsOnNoMonitor(POINT place, PixelBlock& block) {
     if (IsWithinOneMonitor(place)) return;
     const OnMonitors on(place);
-    for (int index = 0; index < side * side; ++index) {
+    for (int index = 0; index < PixelBlock::count; ++index) {
         if (!on.has(index)) block.pixels[index] = nothingThere;
     }
     if (!on.has(PixelBlock::middleIndex)) block.pixels[PixelBlock::middleIndex] = unreadable;
