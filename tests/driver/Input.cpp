@@ -67,16 +67,15 @@ void WaitForKeys() {
 
 BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
     auto& threads = *reinterpret_cast<std::set<DWORD>*>(parameter);
-    DWORD process = 0;
-    const DWORD thread = ::GetWindowThreadProcessId(window, &process);
-    const bool isOther = process != ::GetCurrentProcessId() && ::IsWindowVisible(window);
+    const DWORD thread = ::GetWindowThreadProcessId(window, nullptr);
+    const bool isOther = thread != ::GetCurrentThreadId() && ::IsWindowVisible(window);
     if (isOther && threads.insert(thread).second) WaitForAnswer(window);
     return TRUE;
 }
 
-/// Waits until every program with a visible window, and the one that shows the desktop, has done what it was
-/// doing. A program that hears of the display's keys while one is down writes the states of all keys back as
-/// it read them a moment ago, modifier keys too.
+/// Waits until every other thread with a visible window, and the one that shows the desktop, has done what it
+/// was doing. A program that hears of the display's keys while one is down writes the states of all keys back
+/// as it read them a moment ago, modifier keys too.
 void WaitForEverybody() {
     std::set<DWORD> threads;
     ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
