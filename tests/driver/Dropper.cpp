@@ -37,7 +37,7 @@ bool LoadInto(HWND window, const std::wstring& library) {
 
 }  // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): its name is the compiler's.
+// NOLINTNEXTLINE(readability-identifier-naming,misc-use-internal-linkage): its name is the compiler's.
 int wmain(int count, wchar_t** arguments) {
     if (count < 3) return 2;
     const Owned<HANDLE, &::CloseHandle> mapping(::CreateFileMappingW(
