@@ -55,6 +55,8 @@ TEST_F(LoupeOfAPick, ReadsTheScreenOnceAMovement) {
     EXPECT_EQ(readings, 1);
     drag(CenterOf(sample(2)));
     EXPECT_EQ(readings, 2);
+    drag({1, 1});  // where the button was pressed
+    EXPECT_EQ(readings, 3);
 }
 
 TEST_F(LoupeOfAPick, IsNotReadWhereItHasJustBeen) {
