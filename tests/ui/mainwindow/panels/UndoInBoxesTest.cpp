@@ -66,6 +66,21 @@ TEST_F(UndoInBoxes, ABoxThatWasLeftLeavesItsTypingToTheWindow) {
     EXPECT_BECOMES(huevox.text(Name(3)), noName);
 }
 
+TEST_F(UndoInBoxes, ABoxThatWasLeftBeginsAStepWhenItIsEnteredAgain) {
+    const Huevox huevox;
+    huevox.retype(Name(3), "first");
+    huevox.focusSlider(IDC_hsbRed);
+    huevox.focusByClick(Name(3));
+    Press(VK_END);
+    Type("er");
+    ASSERT_BECOMES(huevox.text(Name(3)), "firster");
+    huevox.focusSlider(IDC_hsbRed);
+    PressUndo();
+    EXPECT_BECOMES(huevox.text(Name(3)), "first");
+    PressUndo();
+    EXPECT_BECOMES(huevox.text(Name(3)), noName);
+}
+
 TEST_F(UndoInBoxes, AValueThatWaitsIsTheBoxsThenComesTheColor) {
     const Huevox huevox;
     ChangeAndRest(huevox, ColorOf(255, 1, 0));
