@@ -1,7 +1,7 @@
 // What does the loupe cost, and what does it show of a screen that cannot be read?
 #include "tests/driver/Input.h"
 #include "tests/driver/Pixel.h"
-#include "tests/program/FreeObjects.h"
+#include "tests/program/FreeHandles.h"
 #include "tests/program/MainWindowFixture.h"
 #include "tests/program/ReplacedFunction.h"
 
@@ -36,9 +36,9 @@ TEST_F(LoupeOfAPick, LeavesTheHandlesFlatOver10000Movements) {
     };
     // Each of these costs a context of the screen.
     for (int movement = 0; movement < 1'100; ++movement) move(movement);
-    const int before = FreeObjects();
+    const int before = FreeHandles();
     for (int movement = 0; movement < 10'000; ++movement) move(movement);
-    EXPECT_EQ(FreeObjects(), before);
+    EXPECT_EQ(FreeHandles(), before);
 }
 
 TEST_F(LoupeOfAPick, ReadsTheScreenOnceAMovement) {

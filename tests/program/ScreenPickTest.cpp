@@ -1,7 +1,7 @@
 // Does picking survive a very long drag?
 #include "tests/driver/Input.h"
 #include "tests/driver/Pixel.h"
-#include "tests/program/FreeObjects.h"
+#include "tests/program/FreeHandles.h"
 #include "tests/program/MainWindowFixture.h"
 
 namespace {
@@ -58,9 +58,9 @@ TEST_F(LongPick, LeavesTheHandlesFlatAndStillReadsRight) {
     };
     // Each of these costs a context of the screen.
     move(1'100);
-    const int before = FreeObjects();
+    const int before = FreeHandles();
     move(2'000);
-    EXPECT_EQ(FreeObjects(), before);
+    EXPECT_EQ(FreeHandles(), before);
     for (int mark = 5; mark > 0; --mark) {
         drag(CenterOf(sample(mark)));
         PumpAll();

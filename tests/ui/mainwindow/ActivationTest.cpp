@@ -1,5 +1,4 @@
 // What does a return to the window do, and what does not take the front from it?
-#include "tests/driver/FindWindows.h"
 #include "tests/driver/PickerWindow.h"
 #include "tests/driver/Tips.h"
 #include "tests/driver/UiTest.h"
@@ -102,9 +101,7 @@ TEST_F(Activation, IsKeptByAClickOnAToolTip) {
     const POINT place = CenterOf(huevox.control(IDC_optColor + 3));
     Hover(huevox, place);
     ASSERT_BECOMES(huevox.toolTip().empty(), false);
-    DWORD process = 0;
-    ::GetWindowThreadProcessId(huevox.window(), &process);
-    const HWND tip = FindVisible(process, TOOLTIPS_CLASSA).first;
+    const HWND tip = huevox.form(TOOLTIPS_CLASSA);
     ::SetWindowPos(tip, nullptr, place.x - 5, place.y - 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     Click(place);
     EXPECT_BECOMES(huevox.toolTip(), "");
