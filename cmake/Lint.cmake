@@ -60,27 +60,41 @@ function(tidy_unit name)
         DEPENDS ${whole} ${sources} ${headers} ${PROJECT_SOURCE_DIR}/.clang-tidy
         COMMENT "Checking ${name}"
         VERBATIM)
-    set_property(GLOBAL APPEND PROPERTY tidy_stamps ${whole}.checked)
+    set_property(GLOBAL APPEND PROPERTY lint_stamps ${whole}.checked)
 endfunction()
 
-# tidy_test(): a target "tidy" that checks all units, and a test that builds it.
-function(tidy_test)
-    get_property(stamps GLOBAL PROPERTY tidy_stamps)
-    add_custom_target(tidy DEPENDS ${stamps})
-    get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
-    # The processor time that the tests with windows leave unused is enough for it.
-    add_test(NAME lint.tidy.${preset} COMMAND nice ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target tidy)
-    set_tests_properties(lint.tidy.${preset} PROPERTIES TIMEOUT 3000 COST 800)
-endfunction()
-
-# style_tests(): the layout of all sources, and a second opinion on all of the program's.
-function(style_tests)
-    add_test(NAME lint.format COMMAND ${CLANG_FORMAT} --dry-run --Werror ${all_sources} ${headers})
+# style_checks(): the layout of all sources, and a second opinion on all of the program's.
+function(style_checks)
+    set(layout ${PROJECT_BINARY_DIR}/layout.checked)
+    add_custom_command(
+        OUTPUT ${layout}
+        COMMAND ${CLANG_FORMAT} --dry-run --Werror ${all_sources} ${headers}
+        COMMAND ${CMAKE_COMMAND} -E touch ${layout}
+        DEPENDS ${all_sources} ${headers} ${PROJECT_SOURCE_DIR}/.clang-format
+        COMMENT "Checking the layout"
+        VERBATIM)
     set(program_rooms ${rooms})
     list(FILTER program_rooms EXCLUDE REGEX "/(tests|resources)$")
-    add_test(NAME lint.cppcheck
+    set(opinion ${PROJECT_BINARY_DIR}/cppcheck.checked)
+    add_custom_command(
+        OUTPUT ${opinion}
         COMMAND ${CPPCHECK} --quiet --error-exitcode=1 --std=c++20 --language=c++ --inline-suppr
             --enable=warning,performance,portability,style
             --suppressions-list=${PROJECT_SOURCE_DIR}/.cppcheck-suppressions
-            -I${PROJECT_SOURCE_DIR} ${program_rooms})
+            -I${PROJECT_SOURCE_DIR} ${program_rooms}
+        COMMAND ${CMAKE_COMMAND} -E touch ${opinion}
+        DEPENDS ${all_sources} ${headers} ${PROJECT_SOURCE_DIR}/.cppcheck-suppressions
+        COMMENT "Checking the program once more"
+        VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY lint_stamps ${layout} ${opinion})
+endfunction()
+
+# lint_test(): a target "lint" that makes all checks, and a test that builds it.
+function(lint_test)
+    get_property(stamps GLOBAL PROPERTY lint_stamps)
+    add_custom_target(lint DEPENDS ${stamps})
+    get_filename_component(preset ${PROJECT_BINARY_DIR} NAME)
+    # The processor time that the tests with windows leave unused is enough for it.
+    add_test(NAME lint.${preset} COMMAND nice ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target lint)
+    set_tests_properties(lint.${preset} PROPERTIES TIMEOUT 3000 COST 800)
 endfunction()
