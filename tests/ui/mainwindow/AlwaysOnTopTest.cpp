@@ -1,6 +1,7 @@
 // What stands above what while the window is kept on top?
 #include "tests/driver/Dialogs.h"
 #include "tests/driver/FindWindows.h"
+#include "tests/driver/OpenMenu.h"
 #include "tests/driver/Palettes.h"
 #include "tests/driver/PickerWindow.h"
 
@@ -13,10 +14,11 @@ bool IsTopmost(HWND window) { return (::GetWindowLongA(window, GWL_EXSTYLE) & WS
 /// The window that lies over all others there.
 HWND Topmost(POINT place) { return ::GetAncestor(::WindowFromPoint(place), GA_ROOT); }
 
-/// Chooses the item by the keyboard and waits until it has worked.
+/// Chooses the item, whose check mark tells how it stands, by the keyboard and waits until it has worked.
 void Switch(const Huevox& huevox) {
     const bool isOnTop = IsTopmost(huevox.window());
     Press(VK_SPACE, {VK_MENU});
+    ASSERT_BECOMES(LastCheckMark(OpenMenu()), isOnTop ? CheckMark::present : CheckMark::absent);
     Press('T');
     EXPECT_BECOMES(IsTopmost(huevox.window()), !isOnTop);
 }
