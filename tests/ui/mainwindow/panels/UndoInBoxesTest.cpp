@@ -2,6 +2,7 @@
 #include <string>
 #include <utility>
 
+#include "core/ChannelText.h"
 #include "tests/driver/Picking.h"
 #include "tests/driver/Undoing.h"
 
@@ -101,6 +102,8 @@ TEST_F(UndoMeanwhile, IsIgnoredWhileASliderIsDragged) {
     PressButton(huevox.thumb(IDC_hsbBlue, 0));
     MoveMouse(huevox.thumb(IDC_hsbBlue, 100));
     ASSERT_TRUE(Eventually([&] { return huevox.sliders().blue > 90; }));
+    // Until its colour has gone all its way, a change ignores undoing anyway.
+    ASSERT_BECOMES(huevox.text(IDC_lblClipboard) == HexText(huevox.sliders()), true);
     // As automation does it: no key reaches the window now.
     ::SendMessageA(huevox.window(), WM_COMMAND, IDM_mnuEditUndo, 0);
     EXPECT_GT(huevox.sliders().blue, 90);
@@ -118,6 +121,8 @@ TEST_F(UndoMeanwhile, IsIgnoredDuringAPick) {
     Hold(huevox, Sample(huevox, 0));
     DragTo(huevox, Sample(huevox, 3), ColorOf(0, 255, 255));
     PressUndo();
+    ::SendMessageA(huevox.window(), WM_COMMAND, IDM_mnuEditUndo, 0);
+    EXPECT_EQ(huevox.sample(0), ColorOf(255, 1, 0));
     DragTo(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
     EXPECT_EQ(huevox.sample(0), ColorOf(255, 1, 0));
     ReleaseButton(Sample(huevox, 4));

@@ -23,6 +23,16 @@ TEST_F(WaitingValues, EnableSetAndLockTheMode) {
     EXPECT_BECOMES(huevox.isEnabled(IDC_optSetHex), true);
 }
 
+TEST_F(WaitingValues, AreNotThoseThatASliderShows) {
+    const Huevox huevox;
+    huevox.focusSlider(IDC_hsbGreen);
+    Press(VK_RIGHT);
+    ASSERT_BECOMES(huevox.text(IDC_lblClipboard), "#FF0100");
+    EXPECT_FALSE(huevox.isEnabled(IDC_cmdSetColor));
+    EXPECT_TRUE(huevox.isEnabled(IDC_optSetDec));
+    EXPECT_TRUE(huevox.isEnabled(IDC_optSetHex));
+}
+
 TEST_F(WaitingValues, AreDiscardedBySwitchingTheModeAfterARefusal) {
     const Huevox huevox;
     huevox.retype(IDC_txtSetRed, "999");
