@@ -51,7 +51,8 @@ void RequireAcceptable(const AppState& state) {
     Require(state.savedFormatIndex >= 0 && state.savedFormatIndex <= 11);
     Require(state.settings.sortIndex == 0 || state.settings.sortIndex == 1);
     Require(state.settings.promptToSave == 0 || state.settings.promptToSave == 1);
-    Require(state.settings.standardFolder == desktop || IsFolder(state.settings.standardFolder));
+    const std::string& folder = state.settings.standardFolder;
+    Require(folder.empty() || folder == desktop || IsFolder(folder));
 }
 
 /// The first settings are the stored ones.
@@ -60,7 +61,7 @@ void RequireTaken(const AppState& state, const Store& store, std::size_t count) 
         state.settings.customFormat, std::to_string(state.settings.formatIndex),
         std::to_string(state.settings.sortIndex), std::to_string(state.settings.promptToSave),
         state.settings.standardFolder};
-    const std::array<std::string, 5> whenEmpty = {"", "0", "0", "1", desktop};
+    const std::array<std::string, 5> whenEmpty = {"", "0", "0", "1", ""};
     for (std::size_t setting = 0; setting < count; ++setting)
         Require(held[setting] == TextOr(store[setting], whenEmpty[setting]));
 }

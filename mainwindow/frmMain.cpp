@@ -25,7 +25,7 @@ frmMain::frmMain(AppState& state)
       alwaysOnTop(*this, commands),
       helpCommands(*this, commands, help),
       customFormat(state, registry, help),
-      options(state.settings, registry) {
+      options(state, registry) {
     Load.bind(this, &frmMain::Form_Load);
     Activate.bind(this, &frmMain::Form_Activate);
     Deactivate.bind(this, &frmMain::Form_Deactivate);

@@ -7,6 +7,7 @@
 
 #include "core/PathText.h"
 #include "settings/Folders.h"
+#include "settings/LoadSettings.h"
 #include "support/Messages.h"
 #include "toolkit/forms/MsgBox.h"
 #include "toolkit/platform/SystemFunction.h"
@@ -110,6 +111,7 @@ bool FileDialogs::MayReplace(const std::string& path) const {
 
 /// No folder is called "True" or "False", so Windows then chooses one.
 void FileDialogs::ReplaceUnusableFolder() {
+    FindStandardFolder(state);
     if (IsValidFolder(state.settings.standardFolder)) return;
     const bool isDesktopKnown = GetDesktopFolder(state.desktopFolder);
     state.desktopFolder = isDesktopKnown ? "True" : "False";

@@ -10,6 +10,7 @@
 #include "core/Characters.h"
 #include "core/PathText.h"
 #include "toolkit/platform/ComInUse.h"
+#include "toolkit/platform/ShellFunction.h"
 #include "toolkit/platform/Text.h"
 
 namespace {
@@ -17,13 +18,14 @@ namespace {
 constexpr std::size_t rootLength = 3;  // of a drive root such as C:\ with its backslash
 
 struct FreeItem {
-    void operator()(ITEMIDLIST* item) const { ::CoTaskMemFree(item); }
+    void operator()(ITEMIDLIST* item) const { ComFunction<decltype(::CoTaskMemFree)>("CoTaskMemFree")(item); }
 };
 using OwnedItem = std::unique_ptr<ITEMIDLIST, FreeItem>;
 
 std::string PathOf(const OwnedItem& item) {
     std::array<wchar_t, MAX_PATH> path{};
-    const bool isPath = item && ::SHGetPathFromIDListW(item.get(), path.data()) != FALSE;
+    const auto pathOf = ShellFunction<decltype(::SHGetPathFromIDListW)>("SHGetPathFromIDListW");
+    const bool isPath = item && pathOf(item.get(), path.data()) != FALSE;
     return isPath ? Utf8(path.data()) : "";
 }
 
@@ -59,7 +61,9 @@ bool IsUsableDrive(const std::string& drive) {
 
 bool GetDesktopFolder(std::string& desktopFolder) {
     LPITEMIDLIST found = nullptr;
-    ::SHGetSpecialFolderLocation(nullptr, CSIDL_DESKTOPDIRECTORY, &found);
+    const auto locationOf =
+        ShellFunction<decltype(::SHGetSpecialFolderLocation)>("SHGetSpecialFolderLocation");
+    locationOf(nullptr, CSIDL_DESKTOPDIRECTORY, &found);
     desktopFolder = PathOf(OwnedItem(found));
     return !desktopFolder.empty();
 }
@@ -77,6 +81,7 @@ std::string BrowseForFolder(HWND owner) {
     browse.pszDisplayName = displayName.data();
     browse.lpszTitle = L"C:\\";
     browse.ulFlags = BIF_RETURNONLYFSDIRS;
-    const std::string path = PathOf(OwnedItem(::SHBrowseForFolderW(&browse)));
+    const auto choose = ShellFunction<decltype(::SHBrowseForFolderW)>("SHBrowseForFolderW");
+    const std::string path = PathOf(OwnedItem(choose(&browse)));
     return CharacterCount(path) > rootLength ? WithoutLastBackslash(path) : path;
 }

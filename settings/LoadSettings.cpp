@@ -11,7 +11,6 @@ void StoreSetting(const RegistryStringHandler& registry, std::string_view valueN
 }
 
 void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner) {
-    GetDesktopFolder(state.desktopFolder);
     const auto read = [&](std::string_view valueName) {
         return registry.ReadString(HKEY_CURRENT_USER, settingsKey, valueName);
     };
@@ -20,8 +19,15 @@ void LoadSettings(AppState& state, const RegistryStringHandler& registry, const 
         state.settings.customFormat = FromAnsi(Ansi(state.settings.customFormat));
         return;
     }
+    GetDesktopFolder(state.desktopFolder);
     RestoreDefaultSettings(state, [&](std::string_view valueName, std::string_view text) {
         StoreSetting(registry, valueName, text);
     });
     MsgBox(&owner, messages::unusableSettings, MB_OK | MB_ICONINFORMATION, messages::title);
+}
+
+void FindStandardFolder(AppState& state) {
+    if (!state.settings.standardFolder.empty()) return;
+    GetDesktopFolder(state.desktopFolder);
+    state.settings.standardFolder = state.desktopFolder;
 }

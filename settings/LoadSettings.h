@@ -16,3 +16,7 @@ void StoreSetting(const RegistryStringHandler& registry, std::string_view valueN
 /// Reads, checks and takes all settings. If one is unusable, all go back to their defaults, in the
 /// registry too, and the user is told over owner.
 void LoadSettings(AppState& state, const RegistryStringHandler& registry, const Form& owner);
+
+/// Before the standard folder is used: one that has not been chosen becomes the desktop. Only the shell knows
+/// where that is, and most starts never need its libraries.
+void FindStandardFolder(AppState& state);

@@ -48,9 +48,7 @@ void HoldFormatIndex(AppState& state, std::string_view text) {
 
 std::string SavedFormatIndexText(const AppState& state) { return std::to_string(state.savedFormatIndex); }
 
-void HoldStandardFolder(AppState& state, std::string_view text) {
-    state.settings.standardFolder = text.empty() ? state.desktopFolder : std::string(text);
-}
+void HoldStandardFolder(AppState& state, std::string_view text) { state.settings.standardFolder = text; }
 std::string StandardFolderText(const AppState& state) { return state.settings.standardFolder; }
 
 constexpr std::array rows = std::to_array<Setting>({
@@ -80,6 +78,7 @@ bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck&
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write) {
     const int startNotation = state.settings.formatIndex;
     for (const Setting& setting : allSettings) setting.hold(state, setting.defaultText);
+    state.settings.standardFolder = state.desktopFolder;
     state.settings.formatIndex = startNotation;
     state.savedFormatIndex = 0;
     for (const Setting& setting : allSettings) write(setting.valueName, setting.text(state));

@@ -42,9 +42,10 @@ extern const std::span<const Setting> allSettings;
 using SettingReader = std::function<std::string(std::string_view valueName)>;
 using SettingWriter = std::function<void(std::string_view valueName, std::string_view text)>;
 
-/// Takes the stored settings one after another into state; desktopFolder is already set. Returns false at the
-/// first unusable value: those before it have been taken, it and those after it have not.
+/// Takes the stored settings one after another into state. Returns false at the first unusable value: those
+/// before it have been taken, it and those after it have not.
 bool TakeSettings(AppState& state, const SettingReader& read, const FolderCheck& isValidFolder);
 
-/// Puts every setting back to its default and writes them all. The start-up notation in memory is kept.
+/// Puts every setting back to its default and writes them all; desktopFolder is already set. The start-up
+/// notation in memory is kept.
 void RestoreDefaultSettings(AppState& state, const SettingWriter& write);

@@ -13,9 +13,10 @@
 #include "toolkit/forms/MessageLoop.h"
 #include "toolkit/forms/MsgBox.h"
 
-frmOptions::frmOptions(Settings& settings, const RegistryStringHandler& registry)
+frmOptions::frmOptions(AppState& state, const RegistryStringHandler& registry)
     : Form("frmOptions"),
-      settings(settings),
+      state(state),
+      settings(state.settings),
       registry(registry),
       lstStandardFormat(*this, IDC_lstStandardFormat),
       optYes(*this, IDC_optYes, promptToSave),
@@ -48,6 +49,7 @@ void frmOptions::Form_Load() {
     if (settings.sortIndex == 1) optDotNet.turnOn();
     if (settings.promptToSave == 0) optNo.turnOn();
     if (settings.promptToSave == 1) optYes.turnOn();
+    FindStandardFolder(state);
     ShowFolder(settings.standardFolder);
 }
 

@@ -14,7 +14,7 @@
 /// notation is stored only, for the next start.
 class frmOptions final : public Form {
 public:
-    frmOptions(Settings& settings, const RegistryStringHandler& registry);
+    frmOptions(AppState& state, const RegistryStringHandler& registry);
 
 private:
     void Form_Load();
@@ -29,6 +29,7 @@ private:
     void TakeChoices();
     void StoreSettings() const;
 
+    AppState& state;
     Settings& settings;
     const RegistryStringHandler& registry;
 

@@ -11,7 +11,7 @@ struct Settings {
     int formatIndex = 0;  ///< the notation that the program starts with, a format index
     int sortIndex = 0;    ///< 0: alphabetical, 1: by hue
     int promptToSave = 0;
-    std::string standardFolder;
+    std::string standardFolder;  ///< "" until the desktop has been looked for in its place
 };
 
 struct AppState {

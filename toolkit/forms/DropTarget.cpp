@@ -2,6 +2,7 @@
 
 #include <shellapi.h>
 
+#include "toolkit/platform/ShellFunction.h"
 #include "toolkit/platform/Text.h"
 
 void DropTarget::attach(HWND target) {
@@ -15,7 +16,8 @@ void DropTarget::setWanted(bool wanted) {
 }
 
 void DropTarget::refresh() const {
-    if (isOpen() != (isWanted && ::IsWindowEnabled(window))) ::DragAcceptFiles(window, !isOpen());
+    if (isOpen() == (isWanted && ::IsWindowEnabled(window))) return;
+    ShellFunction<decltype(::DragAcceptFiles)>("DragAcceptFiles")(window, !isOpen());
 }
 
 std::string DropTarget::take(HANDLE list) const {
@@ -23,10 +25,11 @@ std::string DropTarget::take(HANDLE list) const {
     std::wstring path;
     // The drop may have been on its way when a dialog opened.
     if (isOpen()) {
-        path.resize(::DragQueryFileW(files, 0, nullptr, 0) + 1);
-        path.resize(::DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
+        const auto query = ShellFunction<decltype(::DragQueryFileW)>("DragQueryFileW");
+        path.resize(query(files, 0, nullptr, 0) + 1);
+        path.resize(query(files, 0, path.data(), static_cast<UINT>(path.size())));
     }
-    ::DragFinish(files);
+    ShellFunction<decltype(::DragFinish)>("DragFinish")(files);
     return Utf8(path);
 }
 

@@ -139,14 +139,15 @@ TEST_F(StoredSettings, ADesktopOfAnyNameIsTheFirstStandardFolder) {
     std::filesystem::create_directory(Wide(name));
     {
         const DesktopElsewhere desktop(name);
-        const Huevox huevox;
         {
-            const OptionsDialog options(huevox);
-            EXPECT_EQ(options.folder(), name);
-            options.close(IDC_cmdCancel);
+            const Huevox huevox;
+            SaveNewPalette(huevox, "赤.txt");
+            EXPECT_TRUE(Exists(name + R"(\赤.txt)"));
         }
-        SaveNewPalette(huevox, "赤.txt");
-        EXPECT_TRUE(Exists(name + R"(\赤.txt)"));
+        const Huevox huevox;
+        const OptionsDialog options(huevox);
+        EXPECT_EQ(options.folder(), name);
+        options.close(IDC_cmdCancel);
     }
     std::filesystem::remove_all(Wide(name));
 }
