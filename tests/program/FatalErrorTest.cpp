@@ -137,6 +137,22 @@ TEST_F(FatalError, ShowsOneMessageWhenUnloadingFailsToo) {
     EXPECT_FALSE(form.handle());
 }
 
+TEST_F(FatalError, KeepsItsMessageWhenAFurtherErrorComes) {
+    ArmErrorTrap();
+    Answering answering;
+    answering.isTime = false;
+    bool isStillOpen = false;
+    const Clock clock([&] {
+        HandleFatalError();
+        isStillOpen = form.handle() != nullptr;
+        answering.isTime = true;
+    });
+    HandleFatalError();
+    EXPECT_TRUE(isStillOpen);
+    EXPECT_EQ(answering.messages.size(), 1U);
+    EXPECT_FALSE(form.handle());
+}
+
 TEST_F(FatalError, LetsNoTimerTickBehindTheMessage) {
     ArmErrorTrap();
     int ticks = 0;
