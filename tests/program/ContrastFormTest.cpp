@@ -130,10 +130,10 @@ TEST_F(ContrastForm, RatioAndGradeFitTheirPlaces) {
     EXPECT_LT(WidthOf("AA 18 pt", dpi()), cell.right - grade.left - 1);
 }
 
-TEST_F(ContrastForm, AThousandChangesOfColorLeaveTheHandlesFlat) {
+TEST_F(ContrastForm, ChangesOfColorLeaveTheHandlesFlat) {
     const auto change = [&](int value) { scroll(IDC_hsbRed + value % 3, value * 7 % 256); };
     for (int value = 0; value < 100; ++value) change(value);
     const int before = FreeHandles();
-    for (int value = 0; value < 1'000; ++value) change(value);
+    for (int value = 0; value < 250; ++value) change(value);
     EXPECT_EQ(FreeHandles(), before);
 }

@@ -29,7 +29,7 @@ protected:
 
 }  // namespace
 
-TEST_F(LoupeOfAPick, LeavesTheHandlesFlatOver10000Movements) {
+TEST_F(LoupeOfAPick, LeavesTheHandlesFlat) {
     const RECT area = AreaOf(window.handle());
     const auto move = [&](int movement) {
         drag({area.left + movement * 7 % 700, area.top + movement * 3 % 400});
@@ -37,7 +37,7 @@ TEST_F(LoupeOfAPick, LeavesTheHandlesFlatOver10000Movements) {
     // Each of these costs a context of the screen.
     for (int movement = 0; movement < 1'100; ++movement) move(movement);
     const int before = FreeHandles();
-    for (int movement = 0; movement < 10'000; ++movement) move(movement);
+    for (int movement = 0; movement < 1'000; ++movement) move(movement);
     EXPECT_EQ(FreeHandles(), before);
 }
 

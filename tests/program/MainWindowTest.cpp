@@ -190,13 +190,13 @@ TEST_F(MainWindow, NamesSamplesAndLettersStandInSixColumnsAsWideAsTheBar) {
     EXPECT_EQ(AreaOf(sample(5)).right, bar.right);
 }
 
-TEST_F(MainWindow, AThousandChangesOfColorLeaveTheHandlesFlat) {
+TEST_F(MainWindow, ChangesOfColorLeaveTheHandlesFlat) {
     const auto change = [&](int value) {
         const auto slider = reinterpret_cast<LPARAM>(control(IDC_hsbRed + value % 3));
         ::SendMessageA(window.handle(), WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, value * 7 % 256), slider);
     };
     for (int value = 0; value < 100; ++value) change(value);
     const int before = FreeHandles();
-    for (int value = 0; value < 1'000; ++value) change(value);
+    for (int value = 0; value < 250; ++value) change(value);
     EXPECT_EQ(FreeHandles(), before);
 }
