@@ -42,7 +42,7 @@ private:
 
 TEST_F(NewestColor, IsShownAfterJumps) {
     const Huevox huevox;
-    for (int jump = 0; jump < 12; ++jump) {
+    for (int jump = 0; jump < 6; ++jump) {
         Click(huevox.barStepPlace(upTo(255)));
         SetColor(huevox, ColorOf(upTo(255), upTo(255), upTo(255)));
         expectNothingOlder(huevox);
