@@ -16,11 +16,10 @@ inline std::string SystemPathOf(const wchar_t* path) {
     return result;
 }
 
-/// Runs a command of the system below.
+/// Runs a command of the system below. Wine has no handles of it and leaves in their place what was in its
+/// memory: whoever closed that would close any handle of this process, the clipboard's for instance.
 inline void RunBelow(const std::string& program, const std::string& arguments) {
-    const PROCESS_INFORMATION started = StartProgram("Z:\\bin\\" + program + ' ' + arguments);
-    ::CloseHandle(started.hThread);
-    ::CloseHandle(started.hProcess);
+    static_cast<void>(StartProgram("Z:\\bin\\" + program + ' ' + arguments));
 }
 
 /// Removes a folder with all that is in it, though a program of Windows may be in it.
