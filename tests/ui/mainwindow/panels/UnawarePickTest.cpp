@@ -1,7 +1,4 @@
 // What does a pick take from the window of a program that ignores scaling, which the system may scale?
-#include <utility>
-#include <vector>
-
 #include "tests/driver/Displayed.h"
 #include "tests/driver/Picking.h"
 #include "tests/driver/StartProgram.h"
@@ -85,24 +82,28 @@ TEST_F(UnawarePicking, TakesThePixelsThatTheUserSees) {
     EXPECT_BECOMES(ClipboardText(), "#FE0180");
 }
 
-/// Where a system that scales mixes colours: what is seen is taken.
+/// Where a system that scales mixes colours, anew each time that it shows the window: what is seen is taken.
 TEST_F(UnawarePicking, TakesThePixelsOfItsEdgesAndOfThoseBesideAsTheyAreSeen) {
     const UnawareProgram program;
     const Huevox huevox;
     const RECT area = program.area();
     const POINT middle = program.at(1, 2);
     ASSERT_NE(Displayed({area.right, middle.y}), rightColor);
-    // Before the pick: its loupe may lie over them.
-    std::vector<std::pair<POINT, Color>> seen;
+    TurnPickModeOn(huevox);
+    Hold(huevox, Sample(huevox, 0));
+    Color seen{};
     for (const POINT place : {POINT{area.left, area.top},
                               {area.right - 1, area.bottom - 1},
                               {area.right, middle.y},
                               {middle.x - 1, middle.y},
-                              middle})
-        seen.emplace_back(place, Displayed(place));
-    TurnPickModeOn(huevox);
-    Hold(huevox, Sample(huevox, 0));
-    for (const auto& [place, color] : seen) DragTo(huevox, place, color);
+                              middle}) {
+        EXPECT_TRUE(Eventually([&] {
+            MoveMouse(place);
+            seen = Displayed(place);
+            return Preview(huevox) == seen;
+        })) << place.x
+            << ' ' << place.y;
+    }
     ReleaseButton(middle);
-    EXPECT_BECOMES(huevox.sample(0), seen.back().second);
+    EXPECT_BECOMES(huevox.sample(0), seen);
 }
