@@ -17,16 +17,17 @@ int DifferencesOf(const std::vector<Color>& one, const std::vector<Color>& other
     return differences <= corners ? 0 : differences;
 }
 
-enum class Sliders { included, leftOut };
+enum class Compared { everything, allButSliders };
 
-/// The pixels of the main window.
-std::vector<Color> PixelsOf(const Huevox& huevox, Sliders sliders) {
+std::vector<Color> PixelsOfWindow(const Huevox& huevox, Compared compared) {
     const RECT area = AreaOf(huevox.window());
     std::vector<Color> pixels = PixelsOf(area);
-    for (int channel = 0; sliders == Sliders::leftOut && channel < 3; ++channel) {
+    if (compared == Compared::everything) return pixels;
+    const std::ptrdiff_t width = area.right - area.left;
+    for (int channel = 0; channel < 3; ++channel) {
         const RECT slider = AreaOf(huevox.control(IDC_hsbRed + channel));
         for (LONG y = slider.top; y < slider.bottom; ++y) {
-            const auto row = pixels.begin() + (y - area.top) * (area.right - area.left);
+            const auto row = pixels.begin() + (y - area.top) * width;
             std::fill(row + (slider.left - area.left), row + (slider.right - area.left), Color{});
         }
     }
@@ -37,15 +38,15 @@ class NewestColor : public UiTest {
 protected:
     /// What is on the screen is what the controls paint when they are asked for everything once more. Only
     /// the caret may blink in between.
-    static void expectNothingOlder(const Huevox& huevox, Sliders sliders) {
+    static void expectNothingOlder(const Huevox& huevox, Compared compared) {
         // The letters of the marks follow together with the clipboard.
         ASSERT_BECOMES(ClipboardText() == huevox.text(IDC_lblClipboard), true);
         PaintedPixel(huevox.window(), CenterOf(huevox.window()));
-        const std::vector<Color> shown = PixelsOf(huevox, sliders);
+        const std::vector<Color> shown = PixelsOfWindow(huevox, compared);
         ::RedrawWindow(huevox.window(), nullptr, nullptr,
                        RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
         PaintedPixel(huevox.window(), CenterOf(huevox.window()));
-        EXPECT_BECOMES(DifferencesOf(shown, PixelsOf(huevox, sliders)), 0);
+        EXPECT_BECOMES(DifferencesOf(shown, PixelsOfWindow(huevox, compared)), 0);
     }
 
     int upTo(int last) { return std::uniform_int_distribution<>(0, last)(chance); }
@@ -61,7 +62,7 @@ TEST_F(NewestColor, IsShownAfterJumps) {
     for (int jump = 0; jump < 6; ++jump) {
         Click(huevox.barStepPlace(upTo(255)));
         SetColor(huevox, ColorOf(upTo(255), upTo(255), upTo(255)));
-        expectNothingOlder(huevox, Sliders::included);
+        expectNothingOlder(huevox, Compared::everything);
     }
 }
 
@@ -71,15 +72,15 @@ TEST_F(NewestColor, IsShownAfterKeysADragAndUndoing) {
     huevox.focusSlider(IDC_hsbGreen);
     for (int step = 0; step < 30; ++step) Press(VK_RIGHT);
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 30, 0));
-    expectNothingOlder(huevox, Sliders::leftOut);
+    expectNothingOlder(huevox, Compared::allButSliders);
     PressButton(huevox.thumb(IDC_hsbBlue, 0));
     for (int value = 10; value <= 250; value += 10) MoveMouse(huevox.thumb(IDC_hsbBlue, value));
     ASSERT_TRUE(Eventually([&] { return huevox.sliders().blue > 240; }));
-    expectNothingOlder(huevox, Sliders::leftOut);
+    expectNothingOlder(huevox, Compared::allButSliders);
     ReleaseButton(huevox.thumb(IDC_hsbBlue, 250));
     PressUndo();
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 30, 0));
     PressUndo();
     ASSERT_BECOMES(huevox.sliders(), ColorOf(255, 0, 0));
-    expectNothingOlder(huevox, Sliders::leftOut);
+    expectNothingOlder(huevox, Compared::allButSliders);
 }
