@@ -210,7 +210,7 @@ TEST_F(OptionsKeys, PaletteWindowsTakeNoInputMeanwhile) {
     EXPECT_EQ(huevox.sliders(), before);
     ExpectReturn(huevox, options);
     EXPECT_TRUE(failsafe.isEnabled());
-    ExpectClick(huevox, failsafe, {2, 0}, failsafe.colorAt({2, 0}));
+    ExpectClick(huevox, failsafe, {10, 0}, ColorOf(0, 255, 255));
 }
 
 TEST_F(OptionsKeys, AReturnFromAnotherProgramKeepsTheChoice) {

@@ -75,8 +75,8 @@ TEST_F(PickByKeyboard, AClickTakesAndReachesNoWindowBelow) {
     BeginAt(huevox, Sample(huevox, 4), ColorOf(0, 0, 255));
     const POINT box = CenterOf(huevox.control(IDC_chkJSNamesOnly));
     MoveMouse(box);
-    const Color color = Pixel(box);
-    ASSERT_BECOMES(Preview(huevox), color);
+    ASSERT_BECOMES(Preview(huevox) == Pixel(box), true);
+    const Color color = Preview(huevox);
     PressButton(box);
     ReleaseButton(box);
     ExpectPickEnd(huevox);

@@ -105,11 +105,10 @@ TEST_F(Undo, AColorOfTheBarIsOneStep) {
 TEST_F(Undo, ASwatchIsOneStep) {
     const Huevox huevox;
     const PickerWindow picker(huevox, javaScriptGrid);
-    const Color color = picker.colorAt({3, 7});
-    picker.click({3, 7});
-    ASSERT_BECOMES(huevox.sliders(), color);
+    const Color greenyellow = ColorOf(0xAD, 0xFF, 0x2F);
+    ExpectClick(huevox, picker, {3, 7}, greenyellow);
     picker.close();
-    ExpectOneStep(huevox, color);
+    ExpectOneStep(huevox, greenyellow);
 }
 
 TEST_F(Undo, APastedColorIsOneStep) {
