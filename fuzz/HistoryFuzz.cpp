@@ -1,7 +1,7 @@
 // Any commands leave the history as a plain list of steps has it.
 #include <array>
+#include <deque>
 #include <string>
-#include <vector>
 
 #include "fuzz/FuzzInput.h"
 #include "mainwindow/panels/History.h"
@@ -14,29 +14,25 @@ struct Step {
     MarkState after;
     Gesture gesture;
     int mark;
-    bool isOpen;
 };
 
 /// The history told once more: whole steps, and how many of them have been made.
 struct PlainList {
-    std::vector<Step> steps;
+    std::deque<Step> steps;
     std::size_t made = 0;
+    bool isOpen = false;  ///< the step that was made last goes on
 
-    void close() {
-        for (Step& step : steps) step.isOpen = false;
-    }
     bool goesOn(Gesture gesture, int mark) const {
-        if (made == 0 || !steps[made - 1].isOpen) return false;
-        return steps[made - 1].gesture == gesture && steps[made - 1].mark == mark;
+        return isOpen && steps[made - 1].gesture == gesture && steps[made - 1].mark == mark;
     }
     /// The marks have changed from before to after.
     void change(const MarkState& before, const MarkState& after, Gesture gesture, int mark) {
         if (goesOn(gesture, mark)) return goOn(after);
-        close();
         steps.resize(made);
-        steps.push_back({before, after, gesture, mark, true});
-        if (steps.size() > History::mostSteps) steps.erase(steps.begin());
+        steps.push_back({before, after, gesture, mark});
+        if (steps.size() > History::mostSteps) steps.pop_front();
         made = steps.size();
+        isOpen = true;
     }
     void goOn(const MarkState& after) {
         Step& step = steps[made - 1];
@@ -44,7 +40,7 @@ struct PlainList {
             step.after = after;
             return;
         }
-        close();
+        isOpen = false;
         --made;
         if (step.gesture != Gesture::name) steps.resize(made);
         follow(after);
@@ -56,17 +52,19 @@ struct PlainList {
     }
 };
 
-/// A user whose input is bytes: what to do, to which mark, and with what.
+/// A user who reads from each byte what to do, to which mark, and with what.
 class User {
 public:
     explicit User(FuzzInput& input) : input(input) { history.begin(now); }
 
     void act() {
-        const int mark = input.takeByte() % markCount;
-        switch (input.takeByte() % 8) {
-            case 0: return color();
-            case 1: return name(Gesture::name, mark);
-            case 2: return name(Gesture::command, mark);
+        const int byte = input.takeByte();
+        const int mark = (byte >> 3) % 8 % markCount;
+        const int value = byte >> 6;
+        switch (byte % 8) {
+            case 0: return color(value);
+            case 1: return name(Gesture::name, mark, value);
+            case 2: return name(Gesture::command, mark, value);
             case 3: return select(mark);
             case 4: return highlight(mark);
             case 5: return rest();
@@ -80,14 +78,14 @@ public:
     }
 
 private:
-    void color() {
+    void color(int red) {
         MarkState next = now;
-        next.shown.colors[now.selectedMark].red = input.takeByte() % 4;
+        next.shown.colors[now.selectedMark].red = red;
         note(next, Gesture::color, now.selectedMark);
     }
-    void name(Gesture gesture, int mark) {
+    void name(Gesture gesture, int mark, int length) {
         MarkState next = now;
-        next.shown.names[mark] = std::string(input.takeByte() % 3, 'x');
+        next.shown.names[mark] = std::string(length, 'x');
         note(next, gesture, gesture == Gesture::name ? mark : 0);
     }
     void select(int mark) {
@@ -102,12 +100,12 @@ private:
     }
     void rest() {
         history.end();
-        list.close();
+        list.isOpen = false;
     }
     void note(const MarkState& next, Gesture gesture, int mark) {
         const bool isCommandOver = gesture != Gesture::command && list.made > 0 &&
                                    list.steps[list.made - 1].gesture == Gesture::command;
-        if (isCommandOver || next.selectedMark != now.selectedMark) list.close();
+        if (isCommandOver || next.selectedMark != now.selectedMark) list.isOpen = false;
         if (next.shown == now.shown) {
             list.follow(next);
         } else {
@@ -118,13 +116,13 @@ private:
     }
     void undo() {
         if (list.made == 0) return;
-        list.close();
+        list.isOpen = false;
         now = list.steps[--list.made].before;
         Require(history.undo() == now);
     }
     void redo() {
         if (list.made == list.steps.size()) return;
-        list.close();
+        list.isOpen = false;
         now = list.steps[list.made++].after;
         Require(history.redo() == now);
     }
