@@ -51,8 +51,7 @@ target_link_libraries(Planted PRIVATE huevox_flags)
 add_dependencies(program_tests Planted)
 add_resources(test_resources toolkit/TestForm.rc)
 target_link_libraries(program_tests PRIVATE huevox_program test_resources GTest::gtest_main)
-# Reading the framework's headers takes longer than compiling a test.
-target_precompile_headers(program_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
+compile_tests(program_tests ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 
 # The program once more, for a system whose code page is UTF-8: its manifest asks for that.
 file(READ ${PROJECT_BINARY_DIR}/resources/app.manifest manifest)
@@ -81,6 +80,7 @@ add_library(ui_driver STATIC
     driver/UiTest.cpp
     driver/Usage.cpp)
 target_link_libraries(ui_driver PUBLIC huevox_toolkit GTest::gtest advapi32 gdi32 psapi)
+compile_together(ui_driver <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 # Where the system scales what DPI-unaware programs see, a program that drives Huevox must see the same places as Huevox does.
 target_link_libraries(ui_driver INTERFACE $<TARGET_OBJECTS:huevox_manifest>)
 target_compile_definitions(ui_driver PUBLIC HUEVOX_EXE="Huevox.exe" HUEVOX_UTF8_EXE="Huevox_utf8.exe"
@@ -157,7 +157,7 @@ add_executable(ui_tests
     ui/settings/SettingsFaultTest.cpp
     ui/settings/SettingsTest.cpp)
 target_link_libraries(ui_tests PRIVATE ui_driver GTest::gtest_main version)
-target_precompile_headers(ui_tests PRIVATE <gtest/gtest.h> ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
+compile_tests(ui_tests ${PROJECT_SOURCE_DIR}/toolkit/platform/Platform.h)
 target_include_directories(ui_tests PRIVATE ${PROJECT_BINARY_DIR}/help)
 add_dependencies(ui_tests Huevox Huevox_utf8)
 
@@ -166,11 +166,9 @@ add_executable(TwoColors WIN32 driver/TwoColors.cpp)
 target_link_libraries(TwoColors PRIVATE huevox_flags gdi32)
 add_dependencies(ui_tests Dropper StandIn StandInViewer TwoColors)
 
-# Optimising a test takes longer than running it, except where all pixels of a window are compared.
-foreach(tests program_tests ui_tests)
-    target_compile_options(${tests} PRIVATE -O0 -U_FORTIFY_SOURCE)
-endforeach()
-set_source_files_properties(ui/mainwindow/NewestColorTest.cpp PROPERTIES COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
+# It compares all pixels of a window.
+set_source_files_properties(ui/mainwindow/NewestColorTest.cpp PROPERTIES
+    COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON SKIP_UNITY_BUILD_INCLUSION ON)
 
 include(portable.cmake)
 if(HUEVOX_PORTABLE)
@@ -187,7 +185,7 @@ target_link_libraries(installer_tests PRIVATE huevox_toolkit GTest::gtest_main a
 target_compile_definitions(installer_tests PRIVATE HUEVOX_EXE="Huevox.exe"
     HUEVOX_VERSION="${PROJECT_VERSION}" HUEVOX_NEWER_VERSION="${newer_version}")
 add_dependencies(installer_tests Huevox)
-target_compile_options(installer_tests PRIVATE -O0 -U_FORTIFY_SOURCE)
+compile_tests(installer_tests)
 
 # One test at a time on each desktop: keys and clicks go to whatever window is in front.
 # Only a test that hangs reaches the limit.
