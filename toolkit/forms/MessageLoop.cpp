@@ -41,7 +41,9 @@ void YieldToScreen() {
     constexpr int limit = 1000;  // a window that never validates itself must not hang the program
     MSG message;
     for (int count = 0; count < limit; ++count) {
-        if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) return;
-        ::DispatchMessageW(&message);
+        if (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE))
+            ::DispatchMessageW(&message);
+        else if (!IsWaiting(QS_PAINT))  // a sent message ends a look, whatever else waits
+            return;
     }
 }

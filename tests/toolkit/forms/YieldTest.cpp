@@ -42,6 +42,15 @@ TEST_F(YieldTest, LetsSentMessagesThrough) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(YieldTest, PaintsAlsoWhenASentMessageComesFirst) {
+    std::thread other([&] { ::SendMessageA(form.handle(), WM_NULL, 0, 0); });
+    while (!(HIWORD(::GetQueueStatus(QS_SENDMESSAGE)) & QS_SENDMESSAGE)) ::Sleep(1);
+    form.picTest.setBackColor(0x123456);
+    Yield();
+    EXPECT_FALSE(::GetUpdateRect(form.picTest.handle(), nullptr, FALSE));
+    other.join();
+}
+
 TEST_F(YieldTest, LeavesPostedMessagesKeysAndTimersWaiting) {
     int commands = 0;
     int ticks = 0;
