@@ -62,6 +62,8 @@ TEST_F(NewestColor, IsShownAfterJumps) {
     for (int jump = 0; jump < 6; ++jump) {
         Click(huevox.barStepPlace(upTo(255)));
         SetColor(huevox, ColorOf(upTo(255), upTo(255), upTo(255)));
+        MoveMouse(huevox.barStepPlace(0));  // off the box, whose tool tip would be in the picture
+        ASSERT_BECOMES(huevox.toolTip(), "");
         expectNothingOlder(huevox, Compared::everything);
     }
 }
