@@ -93,12 +93,16 @@ TEST_F(LoupeOfAPick, IsMovedAndNotPaintedOverAnEvenGround) {
     const POINT even = CenterOf(sample(1));
     drag(even);
     EXPECT_EQ(paintings, 1);
+    // Wine may have it painted once more when the display tells that it is there.
+    ASSERT_TRUE(PumpUntil([&] { return Pixel(CenterOf(loupe())) == ColorOf(255, 255, 0); }));
+    PumpAll();
+    paintings = 0;
     const RECT before = AreaOf(loupe());
     drag({even.x + 3, even.y});
-    EXPECT_EQ(paintings, 1);
+    EXPECT_EQ(paintings, 0);
     EXPECT_EQ(AreaOf(loupe()).left, before.left + 3);
     drag(CenterOf(sample(2)));
-    EXPECT_EQ(paintings, 2);
+    EXPECT_EQ(paintings, 1);
 }
 
 TEST_F(LoupeOfAPick, ShowsAScreenThatCannotBeReadAsPureRed) {
