@@ -19,6 +19,12 @@ constexpr std::array<PackedColor, 2> redAndGreen = {red, green};
 /// 100 by 20 pixels at 96 DPI.
 const std::vector<Area> overlapping = {{0, 0, 900, 300}, {750, 0, 1500, 300}};
 
+/// The text of the tool tip that is on the screen.
+std::string ShownTip() {
+    const HWND tip = ::FindWindowA(TOOLTIPS_CLASSA, nullptr);
+    return tip && ::IsWindowVisible(tip) ? TextOf(tip) : "";
+}
+
 class CellStripTest : public FormTest {
 protected:
     void SetUp() override {
@@ -26,6 +32,14 @@ protected:
         form.cellTest.setPlaces(overlapping);
     }
     void TearDown() override { form.unload(); }
+
+    /// Moves the mouse there from elsewhere, once no tip is shown.
+    void hover(int x) {
+        MoveMouse({1, 1});
+        ASSERT_TRUE(PumpUntil([] { return ShownTip().empty(); }));
+        MoveMouse(OnScreen(form.cellTest.handle(), {x, 4}));
+        MoveMouse(OnScreen(form.cellTest.handle(), {x, 5}));
+    }
 
     COLORREF pixel(int x) {
         ::UpdateWindow(form.cellTest.handle());
@@ -35,12 +49,6 @@ protected:
         return color;
     }
 };
-
-/// The text of the tool tip that is on the screen.
-std::string ShownTip() {
-    const HWND tip = ::FindWindowA(TOOLTIPS_CLASSA, nullptr);
-    return tip && ::IsWindowVisible(tip) ? TextOf(tip) : "";
-}
 
 }  // namespace
 
@@ -70,16 +78,25 @@ TEST_F(CellStripTest, OfCellsThatOverlapTheLaterIsPressed) {
 TEST_F(CellStripTest, OfCellsThatOverlapTheLatersTipIsShown) {
     show();
     form.cellTest.setTips({"first", "second"});
-    const auto hover = [&](int x) {
-        MoveMouse({1, 1});
-        ASSERT_TRUE(PumpUntil([] { return ShownTip().empty(); }));
-        MoveMouse(OnScreen(form.cellTest.handle(), {x, 4}));
-        MoveMouse(OnScreen(form.cellTest.handle(), {x, 5}));
-    };
     hover(form.scaled(50) - 1);
     EXPECT_TRUE(PumpUntil([] { return ShownTip() == "first"; })) << ShownTip();
     hover(form.scaled(50));
     EXPECT_TRUE(PumpUntil([] { return ShownTip() == "second"; })) << ShownTip();
+}
+
+TEST_F(CellStripTest, ATipFollowsChangesWhileItIsShown) {
+    show();
+    form.cellTest.setTips({"first", "second"});
+    hover(form.scaled(50));
+    ASSERT_TRUE(PumpUntil([] { return ShownTip() == "second"; })) << ShownTip();
+    form.cellTest.setTips({"other", "second"});
+    EXPECT_EQ(ShownTip(), "second");
+    form.cellTest.setTips({"other", "changed"});
+    EXPECT_EQ(ShownTip(), "changed");
+    hover(form.scaled(50));
+    EXPECT_TRUE(PumpUntil([] { return ShownTip() == "changed"; })) << ShownTip();
+    form.cellTest.setTips({"other", ""});
+    EXPECT_EQ(ShownTip(), "");
 }
 
 TEST_F(CellStripTest, ANewWindowHasNoColorsAndShowsTheFormsBackground) {
