@@ -6,6 +6,7 @@
 #include "tests/driver/Figures.h"
 #include "tests/driver/FindWindows.h"
 #include "tests/driver/Input.h"
+#include "tests/driver/LastKeys.h"
 #include "tests/driver/WindowText.h"
 #include "toolkit/platform/Text.h"
 
@@ -79,7 +80,7 @@ std::string Eyes::situation() const {
     return "in front " + ClassOf(::GetForegroundWindow()) + ", pointer at " + std::to_string(pointer.x) +
            ' ' + std::to_string(pointer.y) + " over " + ClassOf(under) + ' ' + idOf(under) + ", focus " +
            idOf(focus()) + ", capture " + idOf(capture()) + (isInMenu() ? ", in a menu" : "") +
-           ", keys held:" + held;
+           ", keys held:" + held + ", last keys: " + LastKeys();
 }
 
 HWND Eyes::box() const {

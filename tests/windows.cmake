@@ -2,6 +2,7 @@
 # In one process with the code: the toolkit's contract, and code that calls Windows.
 add_executable(program_tests
     driver/Input.cpp
+    driver/LastKeys.cpp
     driver/Legible.cpp
     driver/Pixel.cpp
     driver/Theme.cpp
@@ -71,6 +72,7 @@ add_library(ui_driver STATIC
     driver/Dialogs.cpp
     driver/Huevox.cpp
     driver/Input.cpp
+    driver/LastKeys.cpp
     driver/Legible.cpp
     driver/OptionsDialog.cpp
     driver/Palettes.cpp

@@ -4,6 +4,7 @@
 #include <array>
 #include <set>
 
+#include "tests/driver/LastKeys.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
@@ -143,6 +144,7 @@ void Press(WORD key, std::initializer_list<WORD> modifiers) {
     LetGoOfOthers(modifiers);
     for (const WORD modifier : modifiers) SetHeld(modifier, true);
     KeyDown(key);
+    RememberKey(key);
     KeyUp(key);
     for (const WORD modifier : modifiers) SetHeld(modifier, false);
 }
