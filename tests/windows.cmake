@@ -107,6 +107,7 @@ add_executable(ui_tests
     ui/mainwindow/LowColorDepthTest.cpp
     ui/mainwindow/NewestColorTest.cpp
     ui/mainwindow/OneLineTextTest.cpp
+    ui/mainwindow/PressedKeysTest.cpp
     ui/mainwindow/ScalingTest.cpp
     ui/mainwindow/SessionEndTest.cpp
     ui/mainwindow/StartTest.cpp

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <future>
 #include <set>
 
 #include "tests/driver/LastKeys.h"
@@ -54,7 +55,18 @@ void SendMouse(POINT screen, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
-bool IsHeld(WORD key) { return ::GetAsyncKeyState(key) < 0; }
+/// Asked in a thread of its own: for 50 ms Wine answers the same thread from memory that a key is not held,
+/// even if another program has pressed it since.
+std::set<WORD> HeldModifiers() {
+    const auto ask = [] {
+        std::set<WORD> held;
+        for (const WORD modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) {
+            if (::GetAsyncKeyState(modifier) < 0) held.insert(modifier);
+        }
+        return held;
+    };
+    return std::async(std::launch::async, ask).get();
+}
 
 /// Waits until the window's program has done what it was doing.
 void WaitForAnswer(HWND window) { AnswerOf(window, WM_NULL); }
@@ -88,15 +100,14 @@ void SetHeld(WORD modifier, bool isHeld) {
     EXPECT_TRUE(Eventually([&] {
         SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
         WaitForEverybody();
-        return IsHeld(modifier) == isHeld;
+        return HeldModifiers().contains(modifier) == isHeld;
     })) << modifier;
 }
 
 /// Any program may bring a modifier key back, not only the one in front.
 void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
-    for (const WORD modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) {
-        if (IsHeld(modifier) && std::ranges::find(modifiers, modifier) == modifiers.end())
-            SetHeld(modifier, false);
+    for (const WORD modifier : HeldModifiers()) {
+        if (std::ranges::find(modifiers, modifier) == modifiers.end()) SetHeld(modifier, false);
     }
 }
 
