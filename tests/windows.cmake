@@ -4,6 +4,7 @@ add_executable(program_tests
     driver/Input.cpp
     driver/LastKeys.cpp
     driver/Legible.cpp
+    driver/Modifiers.cpp
     driver/Pixel.cpp
     driver/Theme.cpp
     driver/Usage.cpp
@@ -74,6 +75,7 @@ add_library(ui_driver STATIC
     driver/Input.cpp
     driver/LastKeys.cpp
     driver/Legible.cpp
+    driver/Modifiers.cpp
     driver/OptionsDialog.cpp
     driver/Palettes.cpp
     driver/PickerWindow.cpp

@@ -1,11 +1,9 @@
 #include "tests/driver/Input.h"
 
-#include <algorithm>
 #include <array>
-#include <future>
-#include <set>
 
 #include "tests/driver/LastKeys.h"
+#include "tests/driver/Modifiers.h"
 #include "tests/driver/Wait.h"
 #include "tests/driver/WindowText.h"
 
@@ -55,60 +53,11 @@ void SendMouse(POINT screen, DWORD flags) {
     ::SendInput(1, &input, sizeof input);
 }
 
-/// Asked in a thread of its own: for 50 ms Wine answers the same thread from memory that a key is not held,
-/// even if another program has pressed it since.
-std::set<WORD> HeldModifiers() {
-    const auto ask = [] {
-        std::set<WORD> held;
-        for (const WORD modifier : {VK_SHIFT, VK_CONTROL, VK_MENU}) {
-            if (::GetAsyncKeyState(modifier) < 0) held.insert(modifier);
-        }
-        return held;
-    };
-    return std::async(std::launch::async, ask).get();
-}
-
-/// Waits until the window's program has done what it was doing.
-void WaitForAnswer(HWND window) { AnswerOf(window, WM_NULL); }
-
 /// Keys are lost that come while no window takes them, or none yet.
 void WaitForKeys() {
     EXPECT_TRUE(Eventually([] {
         return TakesKeys(::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr));
     })) << "no window takes keys";
-}
-
-BOOL CALLBACK WaitForThread(HWND window, LPARAM parameter) {
-    auto& threads = *reinterpret_cast<std::set<DWORD>*>(parameter);
-    const DWORD thread = ::GetWindowThreadProcessId(window, nullptr);
-    const bool isOther = thread != ::GetCurrentThreadId() && ::IsWindowVisible(window);
-    if (isOther && threads.insert(thread).second) WaitForAnswer(window);
-    return TRUE;
-}
-
-/// Waits until every other thread with a visible window, and the one that shows the desktop, has done what it
-/// was doing. A program that hears of the display's keys while one is down writes the states of all keys back
-/// as it read them a moment ago, modifier keys too.
-void WaitForEverybody() {
-    std::set<DWORD> threads;
-    ::EnumWindows(WaitForThread, reinterpret_cast<LPARAM>(&threads));
-    WaitForAnswer(::GetDesktopWindow());
-}
-
-/// Repeats it until it stays so.
-void SetHeld(WORD modifier, bool isHeld) {
-    EXPECT_TRUE(Eventually([&] {
-        SendKey(modifier, isHeld ? 0 : KEYEVENTF_KEYUP);
-        WaitForEverybody();
-        return HeldModifiers().contains(modifier) == isHeld;
-    })) << modifier;
-}
-
-/// Any program may bring a modifier key back, not only the one in front.
-void LetGoOfOthers(std::initializer_list<WORD> modifiers) {
-    for (const WORD modifier : HeldModifiers()) {
-        if (std::ranges::find(modifiers, modifier) == modifiers.end()) SetHeld(modifier, false);
-    }
 }
 
 /// As a keyboard on the screen does: the unit of UTF-16 comes without a key.
